@@ -1,0 +1,14 @@
+#include "app/program.h"
+
+#include "app/wiring.h"
+#include "core/main_keys.h"
+#include "core/start_up.h"
+
+Program::Program(const QString& folder)
+    : timer_([this] { window_.onEvent(Timer1_Timer); }), dialogs_(window_), keys_(window_)
+{
+    ports = {&files_, &dialogs_, &sound_, &clock_, &timer_, folder.toStdString()};
+    connectRooms();
+    window_.onEvent(Form_Load);
+    window_.show();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/qt/key_input.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/message_boxes.h"
+#include "platform/qt/real_files.h"
+#include "platform/qt/sdl_sound.h"
+#include "platform/qt/system_clock.h"
+
+/// The whole program on the real ports, started and on show. Needs a QApplication.
+class Program {
+public:
+    /// `folder` holds "References" and "Sound files".
+    explicit Program(const QString& folder);
+
+    MainWindow& window() { return window_; }
+
+private:
+    RealFiles files_;
+    SdlSound sound_;
+    SystemClock clock_;
+    EventLoopTimer timer_;
+    MainWindow window_;
+    MessageBoxes dialogs_;
+    KeyInput keys_;
+};

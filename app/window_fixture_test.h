@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/program.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <gtest/gtest.h>
+#include <memory>
+
+/// The real program with its real window and the delivered files, on fresh records.
+class WindowTest : public ::testing::Test {
+protected:
+    std::unique_ptr<Program> program;
+    MainWindow* window = nullptr;
+
+    void SetUp() override
+    {
+        sheet = SheetState();
+        frmMain = MainScreen();
+        program = std::make_unique<Program>(DELIVERED_FOLDER);
+        window = &program->window();
+        window->activateWindow();
+        waitFor([this] { return window->isActiveWindow(); });
+        ASSERT_TRUE(window->isActiveWindow());
+    }
+
+    /// Runs the event loop until `done` holds, for two seconds at most.
+    template <class Condition>
+    static bool waitFor(Condition done)
+    {
+        const QDeadlineTimer deadline(2000);
+        while (!done() && !deadline.hasExpired())
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+        return done();
+    }
+
+    /// Runs the event loop for a while, to see that nothing happens.
+    static void settle(int milliseconds = 60)
+    {
+        const QDeadlineTimer deadline(milliseconds);
+        while (!deadline.hasExpired())
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+
+    template <class Widget>
+    Widget* named(const char* name)
+    {
+        Widget* const widget = window->findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+};

@@ -1,0 +1,189 @@
+// The adapter between records and widgets, which the plain tests do not see: each kind of widget shows its record,
+// and what a user does to it reaches the record.
+
+#include "app/window_fixture_test.h"
+
+#include "core/hooks.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+class Widgets : public WindowTest {};
+
+TEST_F(Widgets, everyControlHasItsName)
+{
+    for (const char* name :
+         {"SSTab1", "Frame1(0)", "Frame1(1)", "Frame1(2)", "Picture1", "Picture2", "Text99", "Combo1", "Combo2",
+          "Label3", "Label4", "Label5", "Label6", "Label7(0)", "Label7(1)", "Label7(2)", "Label9", "Label11",
+          "Label12", "Label13", "Label15", "Command2(0)", "Command3(0)", "Command3(1)", "Command4(0)", "Command5(0)",
+          "Command5(1)", "Command6", "Command8", "Command9", "Text4", "Text6", "Text7", "ProgressBar1"})
+        named<QWidget>(name);
+    for (const auto& [name, last] : {std::pair("Text1", taxonSlots), {"Text2", taxonSlots}, {"Label1", taxonSlots}})
+        for (int slot = 1; slot <= last; ++slot)
+            named<QWidget>(QString("%1(%2)").arg(name).arg(slot).toLatin1());
+    for (int i = 0; i < 3; ++i)
+        for (const char* name : {"Label2(%1)", "Text3(%1)", "Option1(%1)", "Label14(%1)"})
+            named<QWidget>(QString(name).arg(i).toLatin1());
+    for (int item = 1; item <= infoItems; ++item)
+        for (const char* name : {"Text5(%1)", "Label10(%1)", "Command7(%1)"})
+            named<QWidget>(QString(name).arg(item).toLatin1());
+    EXPECT_EQ(window->objectName(), "frmMain");
+
+    for (const char* name :
+         {"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuSaveCopy", "mnuTemplate", "mnuNext", "mnuSaveHistory",
+          "mnuSaveSaturation", "mnuPercentAll", "mnuPercentSub1", "mnuPercentSub2", "mnuQuit", "mnuUndo", "mnuReset",
+          "mnuStartAmend", "mnuFinishAmend", "mnuFind", "mnuBar", "mnuArea", "mnuDot", "mnuCurve", "mnuDotCurve",
+          "mnuKeyCodeReader", "mnuInitial", "mnuSubtotal", "mnuSummary", "mnuDiagnose", "mnuItalic", "mnuFontSize(6)",
+          "mnuFontSize(7)", "mnuFontSize(8)", "mnuFontSize(9)", "mnuFontSize(10)", "mnuAlign(0)", "mnuAlign(1)",
+          "mnuCoffee", "mnuBeach", "mnuFavorite", "mnuAboutDX1", "mnuAboutApp", "mnuA", "mnuZ"})
+        named<QAction>(name);
+}
+
+TEST_F(Widgets, aBoxShowsItsRecord)
+{
+    TextBox& name = frmMain.Text1[50];
+    name = {"Quercus \xE6", true, true, true, true, true, 8, 3, RGB(255, 255, 110), name.top, name.left};
+    frmMain.Text2[50].text = "-12";
+    frmMain.Text4.text = "First line\r\nSecond line";
+    frmMain.Text4.enabled = true;
+    window->present();
+
+    QLineEdit* const shown = named<QLineEdit>("Text1(50)");
+    EXPECT_EQ(shown->text(), QString::fromUtf8("Quercus æ"));
+    EXPECT_TRUE(shown->font().bold() && shown->font().italic() && shown->font().underline());
+    EXPECT_TRUE(shown->alignment().testFlag(Qt::AlignRight));
+    EXPECT_EQ(shown->cursorPosition(), 3);
+    EXPECT_EQ(shown->palette().color(QPalette::Base), QColor(255, 255, 110));
+    EXPECT_EQ(shown->palette().color(QPalette::Text), QColor(Qt::black)) << "dark letters in any theme";
+    EXPECT_EQ(named<QLineEdit>("Text2(50)")->text(), "-12");
+    EXPECT_EQ(named<QLineEdit>("Text2(50)")->accessibleName(), QString::fromUtf8("Count of Quercus æ, key 50"));
+    EXPECT_EQ(named<QPlainTextEdit>("Text4")->toPlainText(), "First line\nSecond line");
+    EXPECT_TRUE(named<QPlainTextEdit>("Text4")->isEnabled());
+}
+
+TEST_F(Widgets, labelsButtonsEntriesAndPagesShowTheirRecords)
+{
+    frmMain.Label2[1].caption = "Trees:";
+    frmMain.Label1[7].visible = frmMain.Label1[7].enabled = frmMain.Label1[7].bold = true;
+    frmMain.Command3[1].enabled = true;
+    frmMain.Command7[2].visible = true;
+    frmMain.Option1[0].selected = false;
+    frmMain.Option1[2].selected = true;
+    frmMain.mnuSave.enabled = true;
+    frmMain.mnuItalic.checked = false;
+    frmMain.mnuPercent.enabled = false;
+    frmMain.ProgressBar1 = {true, 30, 135};
+    frmMain.notice = "Word at the foot";
+    frmMain.caption = "TallyStrata 3.2.5 - [Lake1]";
+    frmMain.SSTab1 = 2;
+    window->present();
+
+    EXPECT_EQ(named<QLabel>("Label2(1)")->text(), "Trees:");
+    QWidget* const page = named<QWidget>("Frame1(0)");
+    EXPECT_TRUE(named<QLabel>("Label1(7)")->isVisibleTo(page) && named<QLabel>("Label1(7)")->font().bold());
+    EXPECT_FALSE(named<QLabel>("Label1(8)")->isVisibleTo(page));
+    EXPECT_TRUE(named<QWidget>("Command3(1)")->isEnabled());
+    EXPECT_FALSE(named<QWidget>("Command5(0)")->isEnabled());
+    EXPECT_TRUE(named<QWidget>("Command7(2)")->isVisible());
+    EXPECT_FALSE(named<QWidget>("Command7(3)")->isVisible());
+    EXPECT_FALSE(named<QRadioButton>("Option1(0)")->isChecked());
+    EXPECT_TRUE(named<QRadioButton>("Option1(2)")->isChecked());
+    EXPECT_TRUE(named<QAction>("mnuSave")->isEnabled());
+    EXPECT_FALSE(named<QAction>("mnuItalic")->isChecked());
+    EXPECT_FALSE(named<QMenu>("mnuPercent")->menuAction()->isEnabled());
+    EXPECT_EQ(named<QWidget>("ProgressBar1")->isVisible(), true);
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Word at the foot");
+    EXPECT_EQ(window->windowTitle(), "TallyStrata 3.2.5 - [Lake1]");
+    EXPECT_EQ(named<QTabWidget>("SSTab1")->currentIndex(), 2);
+}
+
+TEST_F(Widgets, listsAndTheHistoryGrowAtTheirEndAndCanBeReplaced)
+{
+    QComboBox* const latest = named<QComboBox>("Combo1");
+    QPlainTextEdit* const history = named<QPlainTextEdit>("Text7");
+    EXPECT_EQ(history->toPlainText(), "(Start)");
+    frmMain.Combo1.items.push_back("1: ---");
+    frmMain.Combo1.text = "1: ---";
+    frmMain.Text7.text += "\r\n1: ---\r\n2: ---";
+    window->present();
+    EXPECT_EQ(latest->count(), 2);
+    EXPECT_EQ(latest->currentText(), "1: ---");
+    EXPECT_EQ(history->toPlainText(), "(Start)\n1: ---\n2: ---");
+
+    frmMain.Combo2.items = {"10", "20"};
+    frmMain.Combo2.text = "30";
+    window->present();
+    frmMain.Combo2.items = {"5"};
+    ++frmMain.Combo2.itemsRevision;
+    window->present();
+    EXPECT_EQ(named<QComboBox>("Combo2")->count(), 1);
+    EXPECT_EQ(named<QComboBox>("Combo2")->currentText(), "30") << "its text need not be one of its items";
+}
+
+TEST_F(Widgets, cellsStandWhereTheirRecordsSayAndGrowWithTheWindow)
+{
+    const auto place = [this](const char* name) { return named<QLineEdit>(name)->geometry(); };
+    const auto order = [&] {
+        return place("Text1(28)").left() < place("Text1(29)").left() &&
+               place("Text1(28)").top() < place("Text1(1)").top() &&
+               place("Text2(1)").top() > place("Text1(1)").top();
+    };
+    EXPECT_TRUE(order());
+    const int before = place("Text1(1)").width();
+    const int letters = named<QLineEdit>("Text1(1)")->font().pixelSize();
+    window->resize(2 * window->size());
+    settle();
+    EXPECT_TRUE(order());
+    EXPECT_GT(place("Text1(1)").width(), 1.8 * before);
+    EXPECT_GT(named<QLineEdit>("Text1(1)")->font().pixelSize(), 1.8 * letters);
+
+    const QRect home = place("Text1(1)");
+    std::swap(sheet.KeySetting[1].Number, sheet.KeySetting[45].Number);
+    window->onEvent([] { hooks.ArrangeTaxonCells(); });
+    EXPECT_EQ(place("Text1(45)"), home);
+}
+
+TEST_F(Widgets, whatTheUserDoesReachesTheHandlers)
+{
+    named<QAction>("mnuItalic")->trigger();
+    EXPECT_FALSE(frmMain.mnuItalic.checked);
+    named<QAction>("mnuFontSize(10)")->trigger();
+    EXPECT_EQ(frmMain.Text1[135].fontSize, 10);
+    EXPECT_TRUE(named<QAction>("mnuFontSize(10)")->isChecked());
+    EXPECT_FALSE(named<QAction>("mnuFontSize(8)")->isChecked());
+    named<QAbstractButton>("Command8")->click();
+    EXPECT_TRUE(frmMain.Text1[1].rightAligned);
+    named<QTabWidget>("SSTab1")->tabBar()->tabBarClicked(1);
+    EXPECT_EQ(frmMain.SSTab1, 1);
+
+    named<QAction>("mnuSaveAs")->trigger();
+    EXPECT_EQ(frmMain.notice, "\"Save as...\" is not there yet.");
+    named<QRadioButton>("Option1(1)")->click();
+    EXPECT_FALSE(named<QRadioButton>("Option1(1)")->isChecked()) << "shows what the record says";
+    EXPECT_TRUE(named<QRadioButton>("Option1(0)")->isChecked());
+}
+
+TEST_F(Widgets, aClickOnTheSheetReturnsToCountingAndSelectsNothing)
+{
+    QWidget* const sink = named<QWidget>("Text99");
+    named<QAbstractButton>("Command8")->setFocus();
+    EXPECT_EQ(frmMain.focus, MainFocus::elsewhere);
+    QLineEdit* const cell = named<QLineEdit>("Text1(1)");
+    for (const QEvent::Type type :
+         {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
+        QMouseEvent event(type, {5, 5}, cell->mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(cell, &event);
+    }
+    EXPECT_TRUE(sink->hasFocus());
+    EXPECT_FALSE(cell->hasSelectedText());
+    EXPECT_FALSE(sink->inputMethodQuery(Qt::ImEnabled).toBool()) << "an input method would take the keys";
+}

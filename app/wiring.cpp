@@ -1,0 +1,11 @@
+#include "app/wiring.h"
+
+#include "core/hooks.h"
+#include "keys/key_settings.h"
+#include "sheet/cell_grid.h"
+
+void connectRooms()
+{
+    hooks.ReadKeySettings = ReadKeySettings;
+    hooks.ArrangeTaxonCells = ArrangeTaxonCells;
+}

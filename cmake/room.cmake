@@ -1,0 +1,26 @@
+# room(folder uses...) makes a static library of a folder's sources, and a test program of its *_test.cpp files.
+# A folder without sources yet is only a name that others may already use.
+function(room name)
+    file(GLOB tests CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${name}/*_test.cpp)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${name}/*.cpp)
+    if(tests)
+        list(REMOVE_ITEM sources ${tests})
+    endif()
+    if(sources)
+        add_library(${name} STATIC ${sources})
+        target_link_libraries(${name} PUBLIC ${ARGN})
+    else()
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE ${ARGN})
+    endif()
+    if(tests)
+        room_test(${name}_test "${tests}" ${name})
+    endif()
+endfunction()
+
+# room_test(name sources uses...) makes one test program and registers it.
+function(room_test name sources)
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest_main)
+    add_test(NAME ${name} COMMAND ${name})
+endfunction()

@@ -1,0 +1,179 @@
+#include "core/dispatch_key.h"
+
+#include "core/built_in_keys.h"
+#include "core/hooks.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/record_count.h"
+#include "core/sheet_state.h"
+#include "platform/ports.h"
+
+namespace {
+
+constexpr int repeatGuardMilliseconds = 70;
+constexpr int hundred = 100;
+
+bool isShiftKey(int keyCode)
+{
+    return keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
+}
+
+bool isSaveKey(int keyCode)
+{
+    return leadingNumber(sheet.KeySetting[rowSave].Code) == keyCode;
+}
+
+/// A counter key, layer key or Undo of the map in force.
+bool isAccepted(int keyCode)
+{
+    if (!sheet.UseKeySettings)
+        return builtInKeyNumber(keyCode) != 0 || keyCode == builtInShift1 || keyCode == builtInShift2 ||
+               keyCode == builtInMinus;
+    for (int row = 1; row <= rowUndo; ++row)
+        if (leadingNumber(sheet.KeySetting[row].Code) == keyCode)
+            return true;
+    return false;
+}
+
+/// One shift key raises the layer to 1, both to 2 in either order; a held one that repeats adds nothing to a
+/// layer of its own.
+void raiseLayer(int keyCode)
+{
+    if (keyCode == sheet.Shift1Key && sheet.Shift2Down)
+        ++sheet.Layer;
+    if (keyCode == sheet.Shift2Key)
+        sheet.Layer += (sheet.Shift1Down ? 1 : 0) + (sheet.Shift2Down ? 0 : 1);
+    if (keyCode == sheet.Shift1Key && !sheet.Shift1Down)
+        ++sheet.Layer;
+    if (sheet.Layer > 2)
+        sheet.Layer = 2;
+}
+
+bool hundredReached()
+{
+    bool reached = false;
+    for (int total = 0; total < 3; ++total) {
+        const std::int64_t sum = wholeNumber(frmMain.Text3[total].text);
+        if (!frmMain.Option1[total].selected || sum == 0)
+            continue;
+        if (sum % hundred == 0)
+            reached = true;
+        else if ((sum + 1) % hundred == 0)
+            sheet.AlarmArmed = true;
+    }
+    return reached;
+}
+
+void giveFeedback()
+{
+    const bool reached = hundredReached();
+    if (sheet.SoundOn) { // on purpose: with the sound off there is no alarm and no backup either
+        if (reached && sheet.AlarmArmed) {
+            ports.sound->play(Cue::SoundAlarm);
+            sheet.AlarmArmed = false;
+            hooks.AutoBackup();
+        } else if (sheet.MinusArmed) {
+            ports.sound->play(Cue::SoundUndo);
+            sheet.AlarmArmed = true;
+        } else {
+            constexpr Cue cueOfLayer[] = {Cue::SoundKey1, Cue::SoundKey2, Cue::SoundKey3};
+            ports.sound->play(cueOfLayer[sheet.Layer]);
+        }
+    }
+    sheet.WarnNotLatest = false;
+}
+
+Answer askAboutStaleSample()
+{
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
+    else
+        ports.sound->beep();
+    return ports.dialogs->ask(
+        "The datasheet that you are trying to modify is not the latest one. Do you continue?", "Warning!!",
+        Buttons::yesNo, Icon::question);
+}
+
+} // namespace
+
+bool isBoundKey(int keyCode)
+{
+    return isAccepted(keyCode) || isSaveKey(keyCode);
+}
+
+void DispatchKey(int keyCode, int shift)
+{
+    // 1, 2.
+    raiseLayer(keyCode);
+    if (keyCode == sheet.Shift1Key)
+        sheet.Shift1Down = true;
+    if (keyCode == sheet.Shift2Key)
+        sheet.Shift2Down = true;
+    // 3.
+    if (keyCode == sheet.LastKey && sheet.RepeatGuard)
+        return;
+    // 4. Each key has its own 70 milliseconds.
+    if (!isShiftKey(keyCode)) {
+        sheet.LastKey = keyCode;
+        sheet.RepeatGuard = true;
+        ports.Timer1->start(repeatGuardMilliseconds);
+    }
+    // 5. A dialog may have left the window disabled.
+    frmMain.enabled = true;
+    // 6. The Save key goes on: it may count something as well.
+    if (isSaveKey(keyCode))
+        hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+    // 7.
+    if (!sheet.KeysActive || !isAccepted(keyCode))
+        return;
+    // 8.
+    sheet.FreshSheet = false;
+    frmMain.mnuNext.enabled = false;
+    // 9. Layer 0 turns no page here; letting go of the shift key does.
+    if (!sheet.Modifying && sheet.Layer > 0)
+        frmMain.SSTab1 = sheet.Layer;
+    // 10.
+    const bool counts = !isShiftKey(keyCode) && keyCode != sheet.MinusKey;
+    if (counts && !sheet.Modifying) {
+        frmMain.Command2[0].enabled = frmMain.mnuReset.enabled = true;
+        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        frmMain.mnuSaveHistory.enabled = true;
+    }
+    // 11.
+    sheet.MinusArmed = counts && sheet.MinusState > 0;
+    if (sheet.MinusArmed)
+        ++sheet.MinusState;
+    // 12.
+    bool answeredYes = false;
+    if (keyCode == sheet.MinusKey || sheet.Modifying) {
+        frmMain.Text99.text.clear();
+    } else {
+        // 13. Of a shift key too.
+        sheet.SheetPristine = false;
+        frmMain.mnuNew.enabled = frmMain.mnuUndo.enabled = true;
+        // 14.
+        if (leadingNumber(sheet.SampleField(sheet.CurrentSample, 1)) != sheet.SampleCount &&
+            sheet.WarnNotLatest && !isShiftKey(keyCode)) {
+            if (askAboutStaleSample() != Answer::yes)
+                return; // nothing was counted, and the next key asks again
+            answeredYes = true;
+            sheet.WarnNotLatest = false;
+        }
+        // 15 to 17.
+        RecordCount(keyCode, shift);
+        if (!isShiftKey(keyCode))
+            giveFeedback();
+    }
+    // 18.
+    if (keyCode == sheet.MinusKey && sheet.MinusState == 0)
+        sheet.MinusState = 1;
+    // 19. The dialog took the key-ups of the shift keys.
+    if (answeredYes) {
+        sheet.Layer = 0;
+        frmMain.SSTab1 = 0;
+        sheet.Shift1Down = sheet.Shift2Down = false;
+    }
+    // 20. For Undo too, at its key-down, before anything is taken back.
+    if (sheet.DiagramOpen && !isShiftKey(keyCode))
+        hooks.RefreshDiagram();
+}

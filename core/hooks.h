@@ -1,0 +1,14 @@
+#pragma once
+
+/// What a handler of the core sets off in rooms above it. app/wiring.cpp connects them; what is not connected
+/// does nothing.
+struct Hooks {
+    bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
+    void (*ArrangeTaxonCells)() = [] {};
+    void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
+    void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
+    void (*AutoBackup)() = [] {};
+    void (*RefreshDiagram)() = [] {};     ///< after a key, while the diagram is open
+};
+
+extern Hooks hooks;

@@ -1,0 +1,54 @@
+#include "core/main_keys.h"
+
+#include "core/dispatch_key.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "core/undo.h"
+#include "core/user_event.h"
+#include "platform/ports.h"
+
+void Form_KeyDown(int keyCode, int shift)
+{
+    if (!sheet.Modifying)
+        DispatchKey(keyCode, shift);
+}
+
+void Form_KeyUp(int keyCode, int /*shift*/)
+{
+    // 1, 2.
+    if ((keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key) && sheet.Layer > 0)
+        --sheet.Layer;
+    if (keyCode == sheet.Shift1Key)
+        sheet.Shift1Down = false;
+    else if (keyCode == sheet.Shift2Key)
+        sheet.Shift2Down = false;
+    // 3.
+    if (!sheet.Modifying && sheet.Layer < 2)
+        frmMain.SSTab1 = sheet.Layer;
+    // 4. On purpose not tied to the key that came up.
+    if (sheet.MinusState == 1 && !sheet.Modifying)
+        Undo();
+    // 5.
+    if (keyCode == sheet.MinusKey)
+        sheet.MinusState = 0;
+}
+
+void Timer1_Timer()
+{
+    sheet.RepeatGuard = false;
+    ports.Timer1->stop();
+}
+
+static void forgetHeldKeys()
+{
+    sheet.Layer = 0;
+    sheet.Shift1Down = sheet.Shift2Down = false;
+    sheet.MinusState = 0;
+    if (!sheet.Modifying)
+        frmMain.SSTab1 = 0;
+}
+
+void Form_Deactivate()
+{
+    atEndOfUserEvent(forgetHeldKeys);
+}

@@ -1,0 +1,3 @@
+#include "core/main_screen.h"
+
+MainScreen frmMain;

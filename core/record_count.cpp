@@ -1,0 +1,68 @@
+#include "core/record_count.h"
+
+#include "core/action_log.h"
+#include "core/built_in_keys.h"
+#include "core/highlight.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "core/text_changes.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+/// At least two digits, since the carrier ignores a text of one.
+static std::string slotText(int keyNumber)
+{
+    const std::string text = decimalText(keyNumber + keysPerLayer * sheet.Layer);
+    return text.size() == 1 ? "0" + text : text;
+}
+
+/// Empty if the key counts no taxon. Of a code that stands in two rows the last row counts.
+static std::string slotTextOfKey(int keyCode)
+{
+    if (!sheet.UseKeySettings) {
+        sheet.Shift1Key = builtInShift1;
+        sheet.Shift2Key = builtInShift2;
+        sheet.MinusKey = builtInMinus;
+        const int keyNumber = builtInKeyNumber(keyCode);
+        return keyNumber == 0 ? "" : slotText(keyNumber);
+    }
+    std::string text;
+    for (int row = 1; row <= keysPerLayer; ++row)
+        if (leadingNumber(sheet.KeySetting[row].Code) == keyCode)
+            text = slotText(wholeNumber(sheet.TaxonRecord[row].KeyIndex));
+    return text;
+}
+
+void RecordCount(int keyCode, int /*shift*/)
+{
+    const bool isShiftKey = keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
+    // 1, 2. The write to the carrier changes the count before it returns.
+    const std::string carried = slotTextOfKey(keyCode);
+    setText0(carried);
+    // 3.
+    frmMain.Text99.text.clear();
+    // 4.
+    const int carriedSlot = std::abs(wholeNumber(carried));
+    const int slot = carriedSlot <= taxonSlots ? carriedSlot : 0; // the carrier counts no slot beside the sheet
+    if (sheet.UndoStack[0].slot != 0)
+        frmMain.Text1[slot].backColor = frmMain.Text2[slot].backColor = plainRow;
+    // 5, 6. A key without a slot is put on the stack too, as a stop for Undo.
+    if (!isShiftKey) {
+        std::move_backward(sheet.UndoStack.begin(), sheet.UndoStack.end() - 1, sheet.UndoStack.end());
+        const int sign = sheet.MinusArmed ? -1 : 1;
+        sheet.UndoStack[0] = {sheet.CurrentSample, static_cast<std::int16_t>(sign * slot)};
+    }
+    // 7, 8.
+    const int counted = std::abs(sheet.UndoStack[0].slot);
+    if (counted == 0 || sheet.FreshSheet || isShiftKey || keyCode == sheet.MinusKey)
+        return;
+    // 9 to 12.
+    logAction((sheet.MinusArmed ? "(Amend) " : "") + frmMain.Label1[counted].caption + ": " +
+              frmMain.Text1[counted].text);
+    // 13.
+    frmMain.Text2[counted].bold = frmMain.Text1[counted].bold = true;
+    // 14.
+    highlight(counted, countedRow);
+}

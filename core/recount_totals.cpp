@@ -1,0 +1,38 @@
+#include "core/recount_totals.h"
+
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "core/text_changes.h"
+
+static bool isBlankName(std::string_view name)
+{
+    return name.size() <= 2 && (name.empty() || name == "-" || name == "--" || name == " " || name == "  ");
+}
+
+void RecountTotals(int sample)
+{
+    std::int64_t all = 0;
+    std::int64_t subtotal1 = 0;
+    std::int64_t subtotal2 = 0;
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
+        const TaxonFields& taxon = sheet.TaxonRecord[slot];
+        const std::int32_t count = wholeNumber(frmMain.Text2[slot].text);
+        if (leadingNumber(taxon.Subtotal1) == 1)
+            subtotal1 += count;
+        if (leadingNumber(taxon.Subtotal2) == 1)
+            subtotal2 += count;
+        all += count;
+
+        frmMain.Text2[slot].bold = frmMain.Text1[slot].bold = sheet.Count(sample, slot) != 0;
+        if (isBlankName(frmMain.Text1[slot].text))
+            setText1(slot, "---");
+    }
+    sheet.SampleTotal = within32Bits(all);
+    sheet.TaxonRecord[0].Subtotal1 = decimalText(within32Bits(subtotal1));
+    sheet.TaxonRecord[0].Subtotal2 = decimalText(within32Bits(subtotal2));
+
+    setText3(0, decimalText(sheet.SampleTotal));
+    setText3(1, sheet.TaxonRecord[0].Subtotal1);
+    setText3(2, sheet.TaxonRecord[0].Subtotal2);
+}

@@ -1,0 +1,3 @@
+#include "core/sheet_state.h"
+
+SheetState sheet;

@@ -1,0 +1,31 @@
+#include "core/show_sample.h"
+
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/recount_totals.h"
+#include "core/sheet_state.h"
+#include "core/text_changes.h"
+
+static std::string orDashes(const std::string& text)
+{
+    return text.empty() ? "---" : text;
+}
+
+void showSample(int sample)
+{
+    sheet.SampleSwitching = true;
+    sheet.CurrentSample = static_cast<std::int16_t>(sample);
+    for (int slot = 1; slot <= taxonSlots; ++slot)
+        setText2(slot, decimalText(sheet.Count(sample, slot)));
+    RecountTotals(sample);
+
+    setText1(0, sheet.SampleField(sample, 2));
+    frmMain.Combo2.text = sheet.SampleField(sample, 2);
+    setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
+    frmMain.Text4.text = sheet.SampleNote(sample, 0);
+    for (int item = 1; item <= infoItems; ++item)
+        frmMain.Text5[item].text = orDashes(sheet.AdditionalInfo(sample, item));
+    for (int date = 0; date < 3; ++date)
+        frmMain.Label14[date].caption = orDashes(sheet.SampleStamp(sample, date + 1));
+    sheet.SampleSwitching = false;
+}

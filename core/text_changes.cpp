@@ -1,0 +1,121 @@
+#include "core/text_changes.h"
+
+#include "core/action_log.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/recount_totals.h"
+#include "core/sheet_state.h"
+#include "platform/ports.h"
+
+#include <cstdlib>
+
+void setText0(std::string_view text)
+{
+    if (frmMain.Text0.text == text)
+        return;
+    frmMain.Text0.text = text;
+    Text0_Change();
+}
+
+void setText1(int slot, std::string_view text)
+{
+    if (frmMain.Text1[slot].text == text)
+        return;
+    frmMain.Text1[slot].text = text;
+    Text1_Change(slot);
+}
+
+void setText2(int slot, std::string_view text)
+{
+    if (frmMain.Text2[slot].text == text)
+        return;
+    frmMain.Text2[slot].text = text;
+    Text2_Change(slot);
+}
+
+void setText3(int total, std::string_view text)
+{
+    if (frmMain.Text3[total].text == text)
+        return;
+    frmMain.Text3[total].text = text;
+    Text3_Change(total);
+}
+
+void setLabel4(std::string_view caption)
+{
+    if (frmMain.Label4.caption == caption)
+        return;
+    frmMain.Label4.caption = caption;
+    Label4_Change();
+}
+
+// The steps stay in this order: the write that empties the carrier runs this handler once more, and that run
+// reads what the first one wrote.
+void Text0_Change()
+{
+    if (frmMain.Text0.text.size() == 1) // never a slot: single digits come as "01" to "09"
+        return;
+    sheet.SampleTotal = 0;
+    const int delta = sheet.MinusArmed ? -1 : 1;
+    const int slot = std::abs(wholeNumber(frmMain.Text0.text));
+    if (slot >= 1 && slot <= taxonSlots)
+        setText2(slot, decimalText(within32Bits(std::int64_t{wholeNumber(frmMain.Text2[slot].text)} + delta)));
+    RecountTotals(sheet.CurrentSample);
+    setText0("");
+    setText3(0, decimalText(sheet.SampleTotal));
+    for (int i = 1; i <= taxonSlots; ++i)
+        sheet.Count(sheet.CurrentSample, i) = wholeNumber(frmMain.Text2[i].text);
+}
+
+void Text1_Change(int slot)
+{
+    sheet.TaxonRecord[slot].Name = frmMain.Text1[slot].text;
+    if (slot != 0)
+        return;
+    frmMain.Combo2.text = frmMain.Text1[0].text;
+    setLabel4(sheet.SampleField(sheet.CurrentSample, 1) + "/" + decimalText(sheet.LatestSerial));
+    if (sheet.Modifying)
+        sheet.SampleField(sheet.CurrentSample, 2) = frmMain.Text1[0].text;
+}
+
+static void refuseCount(int slot)
+{
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
+    ports.dialogs->ask("Please input digit(s).", "Error", Buttons::ok, Icon::exclamation);
+    setText2(slot, decimalText(static_cast<long long>(sheet.PreviousCount)));
+}
+
+void Text2_Change(int slot)
+{
+    if (sheet.SampleSwitching || !sheet.KeysActive)
+        return;
+    sheet.Count(sheet.CurrentSample, slot) = wholeNumber(frmMain.Text2[slot].text);
+    if (!isWholeNumber(frmMain.Text2[slot].text)) {
+        refuseCount(slot);
+        return;
+    }
+    if (sheet.Modifying) {
+        sheet.FreshSheet = false;
+        RecountTotals(sheet.CurrentSample);
+    }
+}
+
+void Text3_Change(int total)
+{
+    if (total != 0 || !sheet.KeysActive)
+        return;
+    const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
+    if (all != 0)
+        frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
+    if (all == 1 && !sheet.SampleSwitching) // a sample that is only shown began earlier
+        frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) = dateStamp(ports.clock->now());
+}
+
+void Label4_Change()
+{
+    if (sheet.SampleCount > 1)
+        for (MenuEntry* style :
+             {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
+            style->enabled = true;
+}

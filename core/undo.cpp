@@ -1,0 +1,65 @@
+#include "core/undo.h"
+
+#include "core/action_log.h"
+#include "core/highlight.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/recount_totals.h"
+#include "core/sheet_state.h"
+#include "core/show_sample.h"
+#include "core/text_changes.h"
+#include "platform/ports.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+/// Looks at the totals before they are recomputed, so that a step back from 101 to 100 rings.
+static bool touchesHundred()
+{
+    for (int total = 0; total < 3; ++total)
+        if (frmMain.Option1[total].selected &&
+            (std::int64_t{wholeNumber(frmMain.Text3[total].text)} - 1) % 100 == 0)
+            return true;
+    return false;
+}
+
+static void takeBack(UndoEntry entry)
+{
+    const int slot = std::abs(entry.slot);
+    const int sign = entry.slot > 0 ? 1 : -1;
+    // 3.
+    if (entry.sample != sheet.CurrentSample) {
+        showSample(entry.sample);
+        logAction("(Change sample: " + frmMain.Combo2.text + ")");
+    }
+    // 4.
+    setText2(slot, decimalText(within32Bits(std::int64_t{wholeNumber(frmMain.Text2[slot].text)} - sign)));
+    sheet.Count(sheet.CurrentSample, slot) = wholeNumber(frmMain.Text2[slot].text);
+    // 5, 6.
+    const bool rings = touchesHundred();
+    if (sheet.SoundOn)
+        ports.sound->play(rings ? Cue::SoundAlarm : Cue::SoundUndo);
+    // 7.
+    highlight(slot, takenBackRow);
+    // 8.
+    std::move(sheet.UndoStack.begin() + 1, sheet.UndoStack.end(), sheet.UndoStack.begin());
+    sheet.UndoStack.back() = {};
+    logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
+              frmMain.Text1[slot].text);
+}
+
+void Undo()
+{
+    // 1, 2. An entry without a slot is never taken off: what lies below it is out of reach.
+    if (sheet.UndoStack[0].slot != 0)
+        takeBack(sheet.UndoStack[0]);
+    // 9.
+    RecountTotals(sheet.CurrentSample);
+    // 10.
+    if (sheet.UndoStack[0].slot == 0)
+        frmMain.mnuUndo.enabled = false;
+    // 11.
+    sheet.AlarmArmed = true;
+}
+
+void Amend() {}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/ports.h"
+
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+
+/// Answers message boxes by a script. A message that was not announced fails the test, and so does one that was
+/// announced and never came.
+class ScriptedDialogs : public Dialogs {
+public:
+    std::function<void()> whenOpened = [] {}; ///< what happens to the window below a box
+
+    ~ScriptedDialogs() override
+    {
+        for (const Expected& message : script_)
+            ADD_FAILURE() << "Message that never came: " << message.text;
+    }
+
+    void expect(std::string text, std::string title, Answer answer = Answer::ok)
+    {
+        script_.push_back({std::move(text), std::move(title), answer});
+    }
+
+    Answer ask(std::string_view text, std::string_view title, Buttons, Icon) override
+    {
+        whenOpened();
+        if (script_.empty()) {
+            ADD_FAILURE() << "Unannounced message: " << text;
+            return Answer::no;
+        }
+        const Expected message = script_.front();
+        script_.pop_front();
+        EXPECT_EQ(message.text, text);
+        EXPECT_EQ(message.title, title);
+        return message.answer;
+    }
+
+private:
+    struct Expected {
+        std::string text;
+        std::string title;
+        Answer answer;
+    };
+    std::deque<Expected> script_;
+};

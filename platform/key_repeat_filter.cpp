@@ -1,0 +1,70 @@
+#include "platform/key_repeat_filter.h"
+
+namespace keycodes {
+
+KeyRepeatFilter::Events KeyRepeatFilter::down(const RawKey& key)
+{
+    Events events;
+    const bool repeatsPending = isRepeatOfPending(key);
+    if (repeatsPending)
+        pending.reset();
+    else
+        letOutPending(events);
+
+    const bool repeats = repeatsPending || key.markedRepeat;
+    const int code = repeats ? codeOfPress(key) : key.code;
+    setPressedCode(key.physicalKey, code);
+    events.add({code, true});
+    return events;
+}
+
+KeyRepeatFilter::Events KeyRepeatFilter::up(const RawKey& key)
+{
+    Events events;
+    letOutPending(events);
+    if (!key.markedRepeat)
+        pending = PendingRelease{key.physicalKey, codeOfPress(key), key.timestampMs};
+    return events;
+}
+
+KeyRepeatFilter::Events KeyRepeatFilter::flush()
+{
+    Events events;
+    letOutPending(events);
+    return events;
+}
+
+void KeyRepeatFilter::forget()
+{
+    pending.reset();
+    pressedCodes.fill(0);
+}
+
+bool KeyRepeatFilter::isRepeatOfPending(const RawKey& key) const
+{
+    return pending && pending->physicalKey == key.physicalKey && pending->timestampMs == key.timestampMs &&
+           key.timestampMs != 0;
+}
+
+void KeyRepeatFilter::letOutPending(Events& events)
+{
+    if (!pending)
+        return;
+    events.add({pending->code, false});
+    setPressedCode(pending->physicalKey, 0);
+    pending.reset();
+}
+
+int KeyRepeatFilter::codeOfPress(const RawKey& key) const
+{
+    const bool seen = key.physicalKey < pressedCodes.size() && pressedCodes[key.physicalKey] != 0;
+    return seen ? pressedCodes[key.physicalKey] : key.code;
+}
+
+void KeyRepeatFilter::setPressedCode(std::uint32_t physicalKey, int code)
+{
+    if (physicalKey < pressedCodes.size())
+        pressedCodes[physicalKey] = static_cast<std::uint8_t>(code);
+}
+
+} // namespace keycodes

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the program asks of the computer it runs on. Each interface has a real adapter in platform/qt and one
+/// in memory in platform/fakes. All calls come from the one thread of the program.
+
+/// Whole files. Paths are UTF-8 and absolute.
+class Files {
+public:
+    virtual ~Files() = default;
+    /// The bytes of a file; nothing if it is missing, cannot be read, is no file or is larger than `limit`.
+    virtual std::optional<std::string> read(const std::string& path, std::size_t limit) = 0;
+};
+
+enum class Buttons { ok, yesNo };
+enum class Answer { ok, yes, no };
+enum class Icon { exclamation, question };
+
+/// A message box: it blocks until it is answered. Closing it by its frame or by Esc answers No, or OK where
+/// there is no No.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
+};
+
+enum class Cue { SoundKey1, SoundKey2, SoundKey3, SoundOpening, SoundUndo, SoundSave, SoundAlarm, SoundError };
+constexpr int cueCount = 8;
+
+/// One voice: a cue replaces the one that still plays. Nothing here waits for a device or fails; without a
+/// device there is silence.
+class Sound {
+public:
+    virtual ~Sound() = default;
+    /// Keeps the image of a whole WAV file for a cue. An image that is no WAV is kept as silence.
+    virtual void load(Cue cue, std::string_view wavImage) = 0;
+    virtual void play(Cue cue) = 0;
+    virtual void beep() = 0;
+};
+
+/// One reading of the system's clock, local time.
+struct Moment {
+    std::string date; ///< the system's short date, as in "15/11/2026"
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    int millisecond = 0;
+};
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual Moment now() = 0;
+};
+
+/// A one-shot timer; its owner runs the handler that belongs to it. A start while it runs starts it anew.
+class OneShotTimer {
+public:
+    virtual ~OneShotTimer() = default;
+    virtual void start(int milliseconds) = 0;
+    virtual void stop() = 0;
+};
+
+/// The ports in use, set once before anything else runs.
+struct Ports {
+    Files* files = nullptr;
+    Dialogs* dialogs = nullptr;
+    Sound* sound = nullptr;
+    Clock* clock = nullptr;
+    OneShotTimer* Timer1 = nullptr;
+    std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
+};
+
+extern Ports ports;

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "core/main_screen_type.h"
+
+#include <QList>
+
+class QAbstractButton;
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QProgressBar;
+class QRadioButton;
+
+/// Which widget shows which control record: one list for each kind of widget. show() touches only what differs
+/// from what it showed last; widgets are written so that no signal of a user's edit comes back.
+
+template <class Widget, class Record>
+struct Binding {
+    Widget* widget;
+    const Record* record;
+    Record shown{}; ///< a new widget looks like a new record
+};
+
+using LineBinding = Binding<QLineEdit, TextBox>;
+using NoteBinding = Binding<QPlainTextEdit, TextBox>;
+using LabelBinding = Binding<QLabel, Label>;
+using ButtonBinding = Binding<QAbstractButton, Button>;
+using OptionBinding = Binding<QRadioButton, OptionButton>;
+using ActionBinding = Binding<QAction, MenuEntry>;
+using BarBinding = Binding<QProgressBar, ProgressBar>;
+
+/// Lists and logs are long, so only what was added is compared.
+struct ComboBinding {
+    QComboBox* widget;
+    const ComboBox* record;
+    std::size_t shownItems = 0;
+    int shownRevision = 0;
+};
+struct LogBinding {
+    QPlainTextEdit* widget;
+    const LogBox* record;
+    std::size_t shownLength = 0;
+};
+
+void show(LineBinding& binding);
+void show(NoteBinding& binding);
+void show(LabelBinding& binding);
+void show(ButtonBinding& binding);
+void show(OptionBinding& binding);
+void show(ActionBinding& binding);
+void show(BarBinding& binding);
+void show(ComboBinding& binding);
+void show(LogBinding& binding);
+
+template <class AnyBinding>
+void showAll(QList<AnyBinding>& bindings)
+{
+    for (AnyBinding& binding : bindings)
+        show(binding);
+}

@@ -1,0 +1,116 @@
+#include "platform/qt/key_input.h"
+
+#include "core/dispatch_key.h"
+#include "core/main_keys.h"
+#include "core/sheet_state.h"
+#include "platform/key_codes.h"
+#include "platform/qt/main_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWindow>
+
+/// Milliseconds. The two halves of a repeat carry the same time, but on a busy machine the second one has been
+/// seen to arrive some 10 ms after the first.
+constexpr int releaseWaits = 15;
+
+KeyInput::KeyInput(MainWindow& window) : window_(window)
+{
+    heldRelease_.setSingleShot(true);
+    connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
+    qApp->installEventFilter(this);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
+        if (focused != window_.windowHandle())
+            keyboardLost();
+    });
+}
+
+void KeyInput::keyboardLost()
+{
+    deliver(repeats_.flush(), 0); // that key did come up
+    repeats_.forget();
+    window_.onEvent([] { Form_Deactivate(); });
+}
+
+bool KeyInput::isForCounting(const QObject* target) const
+{
+    return target == window_.windowHandle() && QApplication::activePopupWidget() == nullptr &&
+           QApplication::activeModalWidget() == nullptr;
+}
+
+int KeyInput::virtualKey(const QKeyEvent& event)
+{
+#if defined(Q_OS_WIN)
+    return keycodes::virtualKeyFromWindows(event.nativeVirtualKey());
+#elif defined(Q_OS_MACOS)
+    const int key = event.key(); // what the key types without modifiers, as a capital letter
+    const char32_t letter = key >= Qt::Key_A && key <= Qt::Key_Z ? static_cast<char32_t>(key + 'a' - 'A') : 0;
+    return keycodes::virtualKeyFromMac(event.nativeVirtualKey(), letter);
+#else
+    const bool numLock = keycodes::numLockIn(event.nativeModifiers());
+    if (const keycodes::Layout* const layout = layout_.layoutFor(event.nativeModifiers()))
+        return layout->virtualKey(event.nativeScanCode(), numLock);
+    return keycodes::virtualKeyFromEventAlone(event.nativeScanCode(), event.nativeVirtualKey(), numLock);
+#endif
+}
+
+/// Counts the key if it is to count. True if no one else may see it.
+bool KeyInput::takesKey(QKeyEvent& event)
+{
+    const int code = virtualKey(event);
+    if (code == 0)
+        return false;
+#if defined(Q_OS_MACOS)
+    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
+#else
+    const quint32 physicalKey = event.nativeScanCode();
+#endif
+    const keycodes::RawKey key{physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+    const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
+    // Asked before the key is handled: what is bound may change through it.
+    const bool taken = !sheet.Modifying && isBoundKey(code);
+    if (event.type() == QEvent::KeyPress) {
+        deliver(repeats_.down(key), shift);
+    } else {
+        deliver(repeats_.up(key), shift);
+        if (repeats_.hasPending())
+            heldRelease_.start(releaseWaits);
+    }
+    return taken;
+}
+
+void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
+{
+    for (const keycodes::KeyEvent& key : events)
+        window_.onEvent([&] { key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift); });
+}
+
+static bool isCtrlLetter(const QKeyEvent& event, int code)
+{
+    return event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z';
+}
+
+bool KeyInput::eventFilter(QObject* target, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return isForCounting(target) && takesKey(static_cast<QKeyEvent&>(*event));
+    case QEvent::ShortcutOverride: {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        const bool inWindow = QApplication::activeWindow() == &window_ &&
+                              QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
+        const int code = inWindow ? virtualKey(key) : 0;
+        if (code == 0 || !isBoundKey(code) || isCtrlLetter(key, code))
+            return false;
+        key.accept(); // no menu and no shortcut takes a key that counts
+        return true;
+    }
+    case QEvent::Show: // an opened menu or list takes the keyboard, key-ups included
+        if (target->isWidgetType() && static_cast<QWidget*>(target)->windowType() == Qt::Popup)
+            keyboardLost();
+        return false;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/key_repeat_filter.h"
+#include "platform/qt/x11_layout.h"
+
+#include <QObject>
+#include <QTimer>
+
+class MainWindow;
+class QKeyEvent;
+
+/// The way of real keys into the program. The main window's keys are seen before any widget of it: a key that
+/// is bound goes no further, so it moves no focus, presses no button and opens no menu, and as the focus rests
+/// on a widget without text input, no input method sees it. Ctrl and a letter is left to the shortcuts.
+class KeyInput : public QObject {
+public:
+    explicit KeyInput(MainWindow& window);
+
+protected:
+    bool eventFilter(QObject* target, QEvent* event) override;
+
+private:
+    bool isForCounting(const QObject* target) const;
+    int virtualKey(const QKeyEvent& event);
+    bool takesKey(QKeyEvent& event);
+    void deliver(const keycodes::KeyRepeatFilter::Events& events, int shift);
+    void keyboardLost();
+
+    MainWindow& window_;
+    X11Layout layout_;
+    keycodes::KeyRepeatFilter repeats_;
+    QTimer heldRelease_; ///< a release waits this long for the press that would make it a repeat
+};

@@ -1,0 +1,189 @@
+#include "platform/qt/main_window.h"
+
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "platform/qt/taxon_page.h"
+#include "platform/qt/text.h"
+#include "sheet/focus_and_pointer.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace {
+
+constexpr QSize designSize(1000, 700);
+constexpr int designLetters = 12; // pixels
+
+/// Text99: takes the focus and no text, so that no input method looks at the keys.
+class FocusSink : public QWidget {
+public:
+    explicit FocusSink(QWidget* parent) : QWidget(parent)
+    {
+        setObjectName("Text99");
+        setAccessibleName("Counting");
+        setFocusPolicy(Qt::StrongFocus);
+        setGeometry(0, 0, 1, 1);
+    }
+};
+
+/// Every text that a user reads keeps its contrast when its box is disabled: that says "not now" here, not
+/// "unimportant".
+void keepDisabledTextsLegible(QWidget& widget)
+{
+    QPalette colours = widget.palette();
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText})
+        colours.setColor(QPalette::Disabled, role, colours.color(QPalette::Active, role));
+    widget.setPalette(colours);
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+{
+    setObjectName("frmMain");
+    setMinimumSize(designSize * 0.85);
+    resize(designSize);
+    makeMenus();
+
+    auto* const surface = new QWidget;
+    surface->setObjectName("Picture1");
+    keepDisabledTextsLegible(*surface);
+    setCentralWidget(surface);
+    focusSink_ = new FocusSink(surface);
+
+    auto* const bottom = new QHBoxLayout;
+    bottom->addWidget(infoPanel(), 5);
+    bottom->addWidget(notePanel(), 4);
+    bottom->addWidget(historyPanel(), 5);
+    bottom->addWidget(curvePanel(), 5);
+    auto* const whole = new QVBoxLayout(surface);
+    whole->setContentsMargins(8, 6, 8, 2);
+    whole->addWidget(sampleStrip());
+    whole->addWidget(sumStrip());
+    whole->addWidget(sheetPages(), 13);
+    whole->addLayout(bottom, 6);
+    statusBar()->setObjectName("StatusBar1");
+
+    for (QWidget* const child : surface->findChildren<QWidget*>())
+        child->installEventFilter(this);
+    surface->installEventFilter(this);
+    scaleFont();
+
+    // The user moves the focus with Tab among the buttons; the record follows.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
+        if (focused != nullptr && focused->window() == this)
+            frmMain.focus = focused == focusSink_ ? MainFocus::Text99 : MainFocus::elsewhere;
+    });
+}
+
+void MainWindow::beginEvent()
+{
+    frmMain.notice.clear();
+}
+
+/// A click anywhere on the sheet returns to counting, and selects no text of a cell.
+bool MainWindow::eventFilter(QObject* target, QEvent* event)
+{
+    const QString name = target->objectName();
+    const bool isCell = name.startsWith("Text1(") || name.startsWith("Text2(");
+    switch (event->type()) {
+    case QEvent::MouseMove:
+        onEvent(isCell ? Text1_MouseMove : Form_MouseMove);
+        break;
+    case QEvent::MouseButtonPress:
+        if (qobject_cast<QAbstractButton*>(target) == nullptr)
+            onEvent(giveFocusBack);
+        break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        break;
+    default:
+        return false;
+    }
+    return isCell && !sheet.Modifying;
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    scaleFont();
+}
+
+/// The whole sheet grows with the window: the letters of its controls here, those of the cells in their pages.
+void MainWindow::scaleFont()
+{
+    const double scale = std::min(width() / double(designSize.width()), height() / double(designSize.height()));
+    QFont letters = font();
+    letters.setPixelSize(std::max(9, static_cast<int>(designLetters * scale + 0.5)));
+    if (letters == centralWidget()->font())
+        return;
+    centralWidget()->setFont(letters);
+    letters.setPixelSize(letters.pixelSize() * 5 / 4); // the sums are read at arm's length
+    letters.setBold(true);
+    for (QLineEdit* const sum : sums_)
+        sum->setFont(letters);
+}
+
+void MainWindow::present()
+{
+    showAll(lines_);
+    showAll(notes_);
+    showAll(labels_);
+    showAll(buttons_);
+    showAll(options_);
+    showAll(actions_);
+    showAll(bars_);
+    showAll(combos_);
+    showAll(logs_);
+    presentNames();
+    for (TaxonPage* const page : pages_) {
+        page->placeCells();
+        page->frameCell(sheet.HighlightRow);
+    }
+    if (tabs_->currentIndex() != frmMain.SSTab1)
+        tabs_->setCurrentIndex(frmMain.SSTab1);
+    if (const QString title = shownText(frmMain.caption); title != windowTitle())
+        setWindowTitle(title);
+    if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
+        statusBar()->showMessage(notice);
+    setEnabled(frmMain.enabled);
+    presentFocusAndPointer();
+}
+
+/// What a screen reader says of a cell.
+void MainWindow::presentNames()
+{
+    for (TaxonPage* const page : pages_)
+        for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
+            std::string& named = namesShown_[slot];
+            if (named == frmMain.Text1[slot].text)
+                continue;
+            named = frmMain.Text1[slot].text;
+            page->nameBox(slot)->setAccessibleName(QString("Taxon, key %1").arg(slot));
+            page->countBox(slot)->setAccessibleName(
+                QString("Count of %1, key %2").arg(shownText(named)).arg(slot));
+        }
+}
+
+void MainWindow::presentFocusAndPointer()
+{
+    if (frmMain.focus == MainFocus::Text99 && isActiveWindow() && !focusSink_->hasFocus())
+        focusSink_->setFocus();
+    if (frmMain.pointer != pointerShown_) {
+        pointerShown_ = frmMain.pointer;
+        constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::IBeamCursor, Qt::WaitCursor};
+        centralWidget()->setCursor(shapes[static_cast<int>(pointerShown_)]);
+    }
+}
+
+void MainWindow::notThereYet(const QString& caption)
+{
+    frmMain.notice = heldText("\"" + caption + "\" is not there yet.");
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/user_event.h"
+#include "platform/qt/bindings.h"
+
+#include <QMainWindow>
+#include <array>
+
+class QTabWidget;
+class TaxonPage;
+
+/// The widgets of frmMain. They show the record and turn what the user does into handler calls; they decide
+/// nothing. Each widget's object name is its control's name with its index, as in "Text2(12)".
+class MainWindow : public QMainWindow {
+public:
+    MainWindow();
+
+    /// Runs the handler of one event of the user, then shows what it changed.
+    template <class Handler>
+    void onEvent(Handler&& handler)
+    {
+        beginEvent();
+        {
+            const UserEvent event;
+            handler();
+        }
+        present();
+    }
+
+    /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds and
+    /// does not grow with the sheet.
+    void present();
+
+protected:
+    bool eventFilter(QObject* target, QEvent* event) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void beginEvent();
+
+    // main_window_layout.cpp
+    QWidget* sampleStrip();
+    QWidget* sheetPages();
+    QWidget* sumStrip();
+    QWidget* infoPanel();
+    QWidget* notePanel();
+    QWidget* historyPanel();
+    QWidget* curvePanel();
+    QLabel* boundLabel(const QString& name, const Label& record);
+    QLineEdit* boundBox(const QString& name, const TextBox& record);
+    QAbstractButton* boundButton(const QString& name, const Button& record, const QString& caption,
+                                 void (*clicked)());
+    QComboBox* boundCombo(const QString& name, const ComboBox& record);
+
+    // main_window_menus.cpp
+    void makeMenus();
+
+    /// What an entry says whose work is still to come.
+    static void notThereYet(const QString& caption);
+
+    void presentNames();
+    void presentFocusAndPointer();
+    void scaleFont();
+
+    QWidget* focusSink_; ///< Text99
+    QTabWidget* tabs_ = nullptr;
+    std::array<TaxonPage*, 3> pages_{};
+    std::array<QLineEdit*, 3> sums_{};
+
+    QList<LineBinding> lines_;
+    QList<NoteBinding> notes_;
+    QList<LabelBinding> labels_;
+    QList<ButtonBinding> buttons_;
+    QList<OptionBinding> options_;
+    QList<ActionBinding> actions_;
+    QList<BarBinding> bars_;
+    QList<ComboBinding> combos_;
+    QList<LogBinding> logs_;
+    std::array<std::string, taxonSlots + 1> namesShown_;
+    Pointer pointerShown_ = Pointer::arrow;
+};

@@ -1,0 +1,270 @@
+// What stands where in the main window.
+
+#include "core/main_screen.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/taxon_page.h"
+#include "platform/qt/text.h"
+#include "sheet/focus_and_pointer.h"
+#include "sheet/name_display.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace {
+
+QString indexed(const char* name, int index)
+{
+    return QString("%1(%2)").arg(name).arg(index);
+}
+
+QLabel* fixedLabel(const char* name, const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setObjectName(name);
+    return label;
+}
+
+QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
+{
+    auto* const area = new QPlainTextEdit;
+    area->setObjectName(name);
+    area->setAccessibleName(accessibleName);
+    area->setReadOnly(true);
+    area->setUndoRedoEnabled(false);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->viewport()->setObjectName(QString(name) + ".text");
+    return area;
+}
+
+template <class Layout>
+QWidget* panel(Layout* layout)
+{
+    auto* const widget = new QWidget;
+    layout->setContentsMargins(0, 0, 0, 0);
+    widget->setLayout(layout);
+    return widget;
+}
+
+} // namespace
+
+QLabel* MainWindow::boundLabel(const QString& name, const Label& record)
+{
+    auto* const label = new QLabel;
+    label->setObjectName(name);
+    labels_.append({label, &record});
+    return label;
+}
+
+QLineEdit* MainWindow::boundBox(const QString& name, const TextBox& record)
+{
+    auto* const box = new QLineEdit;
+    box->setObjectName(name);
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    lines_.append({box, &record});
+    return box;
+}
+
+QAbstractButton* MainWindow::boundButton(const QString& name, const Button& record, const QString& caption,
+                                         void (*clicked)())
+{
+    auto* const button = new QToolButton;
+    button->setText(caption);
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the keys count
+    connect(button, &QToolButton::clicked, this, [this, clicked, caption] {
+        onEvent([&] { clicked != nullptr ? clicked() : notThereYet(caption); });
+    });
+    buttons_.append({button, &record});
+    return button;
+}
+
+QComboBox* MainWindow::boundCombo(const QString& name, const ComboBox& record)
+{
+    auto* const combo = new QComboBox;
+    combo->setObjectName(name);
+    combo->setEditable(true); // its text need not be one of its items
+    combo->lineEdit()->setReadOnly(true);
+    combo->lineEdit()->setFocusPolicy(Qt::NoFocus);
+    combo->setFocusPolicy(Qt::NoFocus);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // never measures its list
+    combo->setMinimumContentsLength(12);
+    connect(combo, &QComboBox::activated, this, [this] { onEvent(giveFocusBack); });
+    combos_.append({combo, &record});
+    return combo;
+}
+
+QWidget* MainWindow::sampleStrip()
+{
+    auto* const row = new QHBoxLayout;
+    row->addWidget(boundLabel("Label1(0)", frmMain.Label1[0]));
+    QLineEdit* const name = boundBox("Text1(0)", frmMain.Text1[0]);
+    name->setAccessibleName("Sample name");
+    row->addWidget(name, 2);
+    QComboBox* const samples = boundCombo("Combo2", frmMain.Combo2);
+    samples->setAccessibleName("Choose a sample");
+    row->addWidget(samples, 2);
+    row->addSpacing(8);
+    row->addWidget(fixedLabel("Label3", "Serial No.:"));
+    row->addWidget(boundLabel("Label4", frmMain.Label4));
+    row->addSpacing(8);
+    row->addWidget(fixedLabel("Label15", "Latest sample:"));
+    row->addWidget(boundButton("Command9", frmMain.Command9, "Go", nullptr));
+    row->addStretch(1);
+    row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", nullptr));
+    row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", nullptr));
+    row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", nullptr));
+    row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", nullptr));
+    row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", nullptr));
+    row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", nullptr));
+    return panel(row);
+}
+
+QWidget* MainWindow::sheetPages()
+{
+    tabs_ = new QTabWidget;
+    tabs_->setObjectName("SSTab1");
+    tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
+    connect(tabs_->tabBar(), &QTabBar::tabBarClicked, this, [this](int page) {
+        if (page >= 0)
+            onEvent([page] { SSTab1_Click(page); });
+    });
+    const char* const captions[] = {"Neutral", "Shift 1 or 2", "Shift 1 and 2"};
+    for (int layer = 0; layer < 3; ++layer) {
+        auto* const page = pages_[layer] = new TaxonPage(layer);
+        page->setObjectName(indexed("Frame1", layer));
+        page->setAccessibleName(captions[layer]);
+        for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
+            page->nameBox(slot)->setObjectName(indexed("Text1", slot));
+            page->countBox(slot)->setObjectName(indexed("Text2", slot));
+            page->indexLabel(slot)->setObjectName(indexed("Label1", slot));
+            lines_.append({page->nameBox(slot), &frmMain.Text1[slot]});
+            lines_.append({page->countBox(slot), &frmMain.Text2[slot]});
+            labels_.append({page->indexLabel(slot), &frmMain.Label1[slot]});
+        }
+        tabs_->addTab(page, captions[layer]);
+    }
+    return tabs_;
+}
+
+QWidget* MainWindow::sumStrip()
+{
+    auto* const row = new QHBoxLayout;
+    const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
+    for (int total = 0; total < 3; ++total) {
+        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total]));
+        QLineEdit* const sum = sums_[total] = boundBox(indexed("Text3", total), frmMain.Text3[total]);
+        sum->setAccessibleName(names[total]);
+        sum->setAlignment(Qt::AlignRight);
+        row->addWidget(sum, 2);
+        row->addSpacing(16);
+    }
+    row->addStretch(1);
+    row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
+    for (int total = 0; total < 3; ++total) {
+        auto* const option = new QRadioButton("Set alarm");
+        option->setObjectName(indexed("Option1", total));
+        option->setAccessibleName(QString("Set alarm on ") + names[total]);
+        option->setFocusPolicy(Qt::TabFocus);
+        connect(option, &QRadioButton::clicked, this,
+                [this] { onEvent([] { notThereYet("Choosing the alarm"); }); });
+        options_.append({option, &frmMain.Option1[total]});
+        row->insertWidget(4 * total + 2, option);
+    }
+    QAbstractButton* const percent = boundButton("Command6", frmMain.Command6, "%", nullptr);
+    percent->setAccessibleName("Show percentages");
+    row->addWidget(percent);
+    row->addWidget(boundButton("Command8", frmMain.Command8, "Alignment", Command8_Click));
+    return panel(row);
+}
+
+QWidget* MainWindow::infoPanel()
+{
+    auto* const grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    for (int item = 1; item <= infoItems; ++item) {
+        grid->addWidget(boundLabel(indexed("Label10", item), frmMain.Label10[item]), item, 0);
+        QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
+        box->setAccessibleName(QString("Additional info %1").arg(item));
+        grid->addWidget(box, item, 1);
+        grid->addWidget(boundButton(indexed("Command7", item), frmMain.Command7[item], "Rename", nullptr), item, 2);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(infoItems + 1, 1);
+    return panel(grid);
+}
+
+QWidget* MainWindow::notePanel()
+{
+    auto* const grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    grid->addWidget(fixedLabel("Label7(0)", "Note:"), 0, 0, 1, 2);
+    QPlainTextEdit* const note = textArea("Text4", "Note of the sample");
+    notes_.append({note, &frmMain.Text4});
+    grid->addWidget(note, 1, 0, 1, 2);
+    const char* const captions[] = {"Sheet created:", "Count start:", "Last saved: "};
+    const char* const names[] = {"Label11", "Label12", "Label13"};
+    for (int date = 0; date < 3; ++date) {
+        grid->addWidget(fixedLabel(names[date], captions[date]), 2 + date, 0);
+        grid->addWidget(boundLabel(indexed("Label14", date), frmMain.Label14[date]), 2 + date, 1);
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    return panel(grid);
+}
+
+QWidget* MainWindow::historyPanel()
+{
+    auto* const grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    grid->addWidget(fixedLabel("Label7(1)", "History:"), 0, 0, 1, 2);
+    QPlainTextEdit* const history = textArea("Text7", "History of all actions");
+    logs_.append({history, &frmMain.Text7});
+    grid->addWidget(history, 1, 0, 1, 2);
+    grid->addWidget(fixedLabel("Label5", "Latest:"), 2, 0);
+    QComboBox* const latest = boundCombo("Combo1", frmMain.Combo1);
+    latest->setAccessibleName("Latest action");
+    grid->addWidget(latest, 2, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(1, 1);
+    return panel(grid);
+}
+
+QWidget* MainWindow::curvePanel()
+{
+    auto* const grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    grid->addWidget(fixedLabel("Label7(2)", "Saturation:"), 0, 0);
+    QLabel* const axis = fixedLabel("Label9", "Diversity");
+    axis->setAlignment(Qt::AlignRight);
+    grid->addWidget(axis, 0, 1);
+    auto* const curve = new QFrame;
+    curve->setObjectName("Picture2");
+    curve->setAccessibleName("Taxa diversity vs. total count");
+    curve->setFrameShape(QFrame::StyledPanel);
+    curve->setAutoFillBackground(true);
+    curve->setBackgroundRole(QPalette::Base);
+    grid->addWidget(curve, 1, 0, 1, 2);
+    QPlainTextEdit* const location = textArea("Text6", "File location");
+    location->setFrameShape(QFrame::NoFrame);
+    location->viewport()->setAutoFillBackground(false);
+    location->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    location->setMaximumHeight(3 * location->fontMetrics().lineSpacing() + 10);
+    notes_.append({location, &frmMain.Text6});
+    grid->addWidget(location, 2, 0, 1, 2);
+    auto* const progress = new QProgressBar;
+    progress->setObjectName("ProgressBar1");
+    bars_.append({progress, &frmMain.ProgressBar1});
+    grid->addWidget(progress, 3, 0, 1, 2);
+    grid->setRowStretch(1, 1);
+    return panel(grid);
+}

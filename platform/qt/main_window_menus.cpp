@@ -1,0 +1,172 @@
+// The menu bar. Each entry stands once in the table: its menu, name, caption, record and handler.
+
+#include "core/main_screen.h"
+#include "core/undo.h"
+#include "platform/qt/main_window.h"
+#include "sheet/focus_and_pointer.h"
+#include "sheet/name_display.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMap>
+
+namespace {
+
+using Handler = void (*)();
+
+struct Entry {
+    const char* menu; ///< name of the menu it stands in; see `menus`
+    const char* name; ///< nullptr: a line between entries
+    const char* caption;
+    MenuEntry* record = nullptr; ///< entries without one are always enabled
+    Handler handler = nullptr;   ///< entries without one say that they are not there yet
+    bool checkable = false;
+};
+
+struct Menu {
+    const char* name;
+    const char* caption;
+    const char* parent; ///< nullptr: stands in the bar
+};
+
+constexpr Menu menus[] = {
+    {"mnuFile", "&File", nullptr},
+    {"mnuPercent", "Save percentage table", "mnuFile"},
+    {"mnuEdit", "&Edit", nullptr},
+    {"mnuDiagram", "&Diagram", nullptr},
+    {"mnuTools", "&Tools", nullptr},
+    {"mnuView", "&View", nullptr},
+    {"mnuFont", "Font size", "mnuView"},
+    {"mnuAlignment", "Alignment", "mnuView"},
+    {"mnuHelp", "&Help", nullptr},
+    {"mnuTired", "Are you tired?", "mnuHelp"},
+};
+
+void undo()
+{
+    Undo();
+    giveFocusBack();
+}
+
+template <int points>
+void fontSize()
+{
+    mnuFontSize_Click(points);
+}
+
+template <int side>
+void align()
+{
+    mnuAlign_Click(side);
+}
+
+QList<Entry> entries()
+{
+    MainScreen& f = frmMain;
+    return {
+        {"mnuFile", "mnuNew", "New", &f.mnuNew},
+        {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen},
+        {"mnuFile", nullptr, nullptr},
+        {"mnuFile", "mnuSave", "Save", &f.mnuSave},
+        {"mnuFile", "mnuSaveAs", "Save as...", &f.mnuSaveAs},
+        {"mnuFile", "mnuSaveCopy", "Save copy...", &f.mnuSaveCopy},
+        {"mnuFile", "mnuTemplate", "Create template"},
+        {"mnuFile", nullptr, nullptr},
+        {"mnuFile", "mnuNext", "Next sample", &f.mnuNext},
+        {"mnuFile", nullptr, nullptr},
+        {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory},
+        {"mnuFile", "mnuSaveSaturation", "Save Saturation curve"},
+        {"mnuPercent", "mnuPercentAll", "% by All total"},
+        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1"},
+        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2"},
+        {"mnuFile", nullptr, nullptr},
+        {"mnuFile", "mnuQuit", "Quit"},
+
+        {"mnuEdit", "mnuUndo", "Undo", &f.mnuUndo, undo},
+        {"mnuEdit", "mnuReset", "Reset", &f.mnuReset},
+        {"mnuEdit", nullptr, nullptr},
+        {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend},
+        {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend},
+        {"mnuEdit", nullptr, nullptr},
+        {"mnuEdit", "mnuFind", "Find"},
+
+        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar},
+        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea},
+        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot},
+        {"mnuDiagram", nullptr, nullptr},
+        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve},
+        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve},
+
+        {"mnuTools", "mnuKeyCodeReader", "Key settings"},
+        {"mnuTools", "mnuInitial", "Initialise"},
+        {"mnuTools", "mnuSubtotal", "Subtotal settings"},
+        {"mnuTools", nullptr, nullptr},
+        {"mnuTools", "mnuSummary", "Summary"},
+        {"mnuTools", "mnuDiagnose", "Diagnose"},
+
+        {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
+        {"mnuFont", "mnuFontSize(6)", "6", &f.mnuFontSize[6], fontSize<6>, true},
+        {"mnuFont", "mnuFontSize(7)", "7", &f.mnuFontSize[7], fontSize<7>, true},
+        {"mnuFont", "mnuFontSize(8)", "8", &f.mnuFontSize[8], fontSize<8>, true},
+        {"mnuFont", "mnuFontSize(9)", "9", &f.mnuFontSize[9], fontSize<9>, true},
+        {"mnuFont", "mnuFontSize(10)", "10", &f.mnuFontSize[10], fontSize<10>, true},
+        {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], align<0>, true},
+        {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], align<1>, true},
+
+        {"mnuTired", "mnuCoffee", "Coffee"},
+        {"mnuTired", "mnuBeach", "Beach"},
+        {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite},
+        {"mnuHelp", nullptr, nullptr},
+        {"mnuHelp", "mnuAboutDX1", "About programmable keypads"},
+        {"mnuHelp", "mnuAboutApp", "About TallyStrata"},
+    };
+}
+
+} // namespace
+
+void MainWindow::makeMenus()
+{
+    QMap<QString, QMenu*> made;
+    // A submenu comes where its first entry stands; the menus of the bar come first of all, in their order.
+    for (const Menu& menu : menus)
+        if (menu.parent == nullptr) {
+            made[menu.name] = menuBar()->addMenu(menu.caption);
+            made[menu.name]->setObjectName(menu.name);
+        }
+    const auto menuOf = [&](const QString& name) {
+        for (const Menu& menu : menus)
+            if (made[name] == nullptr && name == menu.name) {
+                made[name] = made[menu.parent]->addMenu(menu.caption);
+                made[name]->setObjectName(menu.name);
+            }
+        return made[name];
+    };
+
+    for (const Entry& entry : entries()) {
+        QMenu* const menu = menuOf(entry.menu);
+        if (entry.name == nullptr) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* const action = menu->addAction(entry.caption);
+        action->setObjectName(entry.name);
+        action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
+        action->setCheckable(entry.checkable);
+        connect(action, &QAction::triggered, this, [this, entry] {
+            onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
+        });
+        if (entry.record != nullptr)
+            actions_.append({action, entry.record});
+    }
+    // The menu of percentage tables is one entry of its own.
+    actions_.append({made["mnuPercent"]->menuAction(), &frmMain.mnuPercent});
+
+    // mnuByPass: Ctrl and a letter is taken here and does nothing. It counts nothing either.
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        auto* const taken = new QAction(this);
+        taken->setObjectName(QString("mnu") + letter);
+        taken->setShortcut(QKeySequence(QString("Ctrl+") + letter));
+        addAction(taken);
+    }
+}

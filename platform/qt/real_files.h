@@ -1,0 +1,8 @@
+#pragma once
+
+#include "platform/ports.h"
+
+class RealFiles : public Files {
+public:
+    std::optional<std::string> read(const std::string& path, std::size_t limit) override;
+};

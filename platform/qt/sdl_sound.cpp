@@ -1,0 +1,139 @@
+#include "platform/qt/sdl_sound.h"
+
+#include <SDL2/SDL.h>
+
+#include <QApplication>
+#include <algorithm>
+#include <chrono>
+
+namespace {
+
+constexpr int rate = 44100;
+constexpr int periodFrames = 256;
+constexpr auto watchInterval = std::chrono::seconds(1);
+
+/// The samples of a WAV image at the rate of the device; none if it is no WAV.
+std::vector<std::int16_t> decoded(std::string_view image)
+{
+    SDL_AudioSpec spec{};
+    Uint8* raw = nullptr;
+    Uint32 rawBytes = 0;
+    SDL_RWops* const source = SDL_RWFromConstMem(image.data(), static_cast<int>(image.size()));
+    if (source == nullptr || SDL_LoadWAV_RW(source, 1, &spec, &raw, &rawBytes) == nullptr)
+        return {};
+
+    std::vector<std::int16_t> samples;
+    SDL_AudioStream* const stream =
+        SDL_NewAudioStream(spec.format, spec.channels, spec.freq, AUDIO_S16SYS, 1, rate);
+    if (stream != nullptr && SDL_AudioStreamPut(stream, raw, static_cast<int>(rawBytes)) == 0 &&
+        SDL_AudioStreamFlush(stream) == 0) {
+        samples.resize(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream)) / sizeof(std::int16_t));
+        SDL_AudioStreamGet(stream, samples.data(), static_cast<int>(samples.size() * sizeof(std::int16_t)));
+    }
+    SDL_FreeAudioStream(stream);
+    SDL_FreeWAV(raw);
+    return samples;
+}
+
+} // namespace
+
+SdlSound::SdlSound()
+{
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C and a session's end must still end the program
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "TallyStrata");
+    keeper_ = std::thread([this] { keepDeviceOpen(); });
+}
+
+SdlSound::~SdlSound()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    wake_.notify_one();
+    keeper_.join();
+}
+
+void SdlSound::load(Cue cue, std::string_view wavImage)
+{
+    cues_[static_cast<std::size_t>(cue)] = decoded(wavImage);
+}
+
+void SdlSound::play(Cue cue)
+{
+    marked_.store(static_cast<int>(cue), std::memory_order_release);
+}
+
+void SdlSound::beep()
+{
+    QApplication::beep();
+}
+
+void SdlSound::fill(void* self, std::uint8_t* stream, int bytes)
+{
+    static_cast<SdlSound*>(self)->mix(reinterpret_cast<std::int16_t*>(stream),
+                                      static_cast<std::size_t>(bytes) / sizeof(std::int16_t));
+}
+
+void SdlSound::mix(std::int16_t* out, std::size_t count)
+{
+    const auto copyTo = [&](std::int16_t* target) {
+        std::size_t copied = 0;
+        if (playing_ != nullptr) {
+            copied = std::min(count, playing_->size() - position_);
+            std::copy_n(playing_->begin() + static_cast<std::ptrdiff_t>(position_), copied, target);
+            position_ += copied;
+        }
+        std::fill(target + copied, target + count, std::int16_t{0});
+    };
+
+    copyTo(out);
+    const int cue = marked_.exchange(noCue, std::memory_order_acquire);
+    if (cue == noCue)
+        return;
+    // The cue that still plays fades out under the new one: a hard cut would click.
+    std::array<std::int16_t, 4 * periodFrames> old{};
+    const std::size_t fade = std::min(count, old.size());
+    std::copy_n(out, fade, old.begin());
+    playing_ = &cues_[static_cast<std::size_t>(cue)];
+    position_ = 0;
+    copyTo(out);
+    for (std::size_t i = 0; i < fade; ++i) {
+        const long faded = old[i] * static_cast<long>(fade - i) / static_cast<long>(fade);
+        out[i] = static_cast<std::int16_t>(std::clamp(out[i] + faded, -32768L, 32767L));
+    }
+}
+
+void SdlSound::keepDeviceOpen()
+{
+    SDL_AudioSpec wanted{};
+    wanted.freq = rate;
+    wanted.format = AUDIO_S16SYS;
+    wanted.channels = 1;
+    wanted.samples = periodFrames;
+    wanted.callback = fill;
+    wanted.userdata = this;
+
+    SDL_AudioDeviceID device = 0;
+    std::unique_lock lock(mutex_);
+    for (bool first = true; !ending_; first = false) {
+        lock.unlock();
+        if (device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) {
+            SDL_CloseAudioDevice(device);
+            device = 0;
+        }
+        if (device == 0 && (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)) {
+            if (!first)
+                marked_ = noCue; // what was marked while there was no device is long past
+            device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+            if (device != 0)
+                SDL_PauseAudioDevice(device, 0);
+        }
+        lock.lock();
+        wake_.wait_for(lock, watchInterval, [this] { return ending_; });
+    }
+    lock.unlock();
+    if (device != 0)
+        SDL_CloseAudioDevice(device);
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}

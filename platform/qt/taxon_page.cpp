@@ -1,0 +1,140 @@
+#include "platform/qt/taxon_page.h"
+
+#include "core/main_screen.h"
+#include "sheet/cell_grid.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <algorithm>
+
+namespace {
+
+constexpr int pageWidth = 12945; // twips: the grid and its margins
+constexpr int pageHeight = 4860;
+constexpr int indexHeight = 225;
+constexpr int twipsPerPoint = 20;
+constexpr int indexLetters = 7; // points
+
+QLineEdit* cellBox(QWidget* page, Qt::Alignment alignment)
+{
+    auto* const box = new QLineEdit(page);
+    box->setFrame(false);
+    box->setReadOnly(true);
+    box->unsetCursor(); // the sheet's pointer holds here too
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setContextMenuPolicy(Qt::NoContextMenu);
+    box->setMouseTracking(true);
+    box->setAlignment(alignment);
+    // The cells keep their told colours in a dark theme too, so their letters are dark in any.
+    QPalette colours = box->palette();
+    colours.setColor(QPalette::Text, Qt::black);
+    colours.setColor(QPalette::Base, Qt::white);
+    box->setPalette(colours);
+    return box;
+}
+
+} // namespace
+
+TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
+{
+    setMinimumSize(pageWidth / 20, pageHeight / 20);
+    for (int i = 0; i < keysPerLayer; ++i) {
+        names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
+        counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
+        indexes_ += new QLabel(this);
+        indexes_.back()->setAlignment(Qt::AlignCenter);
+    }
+}
+
+QRect TaxonPage::scaled(int left, int top, int width, int height) const
+{
+    const auto pixels = [this](int twips) { return static_cast<int>(twips * pixelsPerTwip_ + 0.5); };
+    return {QPoint(leftMargin_ + pixels(left), pixels(top)),
+            QPoint(leftMargin_ + pixels(left + width) - 1, pixels(top + height) - 1)};
+}
+
+QRect TaxonPage::cellRect(int slot) const
+{
+    return names_[slot - firstSlot_]->geometry().united(counts_[slot - firstSlot_]->geometry());
+}
+
+void TaxonPage::placeCells()
+{
+    QList<int> wanted = {width(), height()};
+    wanted.reserve(2 + 3 * keysPerLayer);
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot)
+        wanted << frmMain.Text1[slot].top << frmMain.Text1[slot].left << frmMain.Text1[slot].fontSize;
+    if (wanted == placed_)
+        return;
+    placed_ = wanted;
+
+    pixelsPerTwip_ = std::min(width() / double(pageWidth), height() / double(pageHeight));
+    leftMargin_ = static_cast<int>((width() - pageWidth * pixelsPerTwip_) / 2);
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        const TextBox& name = frmMain.Text1[slot];
+        const TextBox& count = frmMain.Text2[slot];
+        const Label& index = frmMain.Label1[slot];
+        nameBox(slot)->setGeometry(scaled(name.left, name.top, cellNameWidth, cellCountBelow));
+        countBox(slot)->setGeometry(scaled(count.left, count.top, cellNameWidth, cellCountHeight));
+        indexLabel(slot)->setGeometry(
+            scaled(index.left, index.top, cellNameWidth - 2 * cellIndexInset, indexHeight));
+        sizeLetters(nameBox(slot), name.fontSize);
+        sizeLetters(countBox(slot), count.fontSize);
+        sizeLetters(indexLabel(slot), indexLetters);
+    }
+    update();
+}
+
+void TaxonPage::sizeLetters(QWidget* widget, int points) const
+{
+    QFont letters = widget->font();
+    letters.setPixelSize(std::max(1, static_cast<int>(points * twipsPerPoint * pixelsPerTwip_ + 0.5)));
+    if (letters != widget->font())
+        widget->setFont(letters);
+}
+
+void TaxonPage::frameCell(int slot)
+{
+    const int framed = slot >= firstSlot() && slot <= lastSlot() ? slot : 0;
+    if (framed == framedSlot_)
+        return;
+    for (const int changed : {framedSlot_, framed})
+        if (changed != 0)
+            update(cellRect(changed).adjusted(-4, -4, 4, 4));
+    framedSlot_ = framed;
+}
+
+void TaxonPage::resizeEvent(QResizeEvent*)
+{
+    placeCells();
+}
+
+void TaxonPage::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    // The six blocks of the keyboard, so that the eye finds a key's place at once.
+    QColor block = palette().color(QPalette::Mid);
+    block.setAlpha(60);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(block);
+    for (const int left : {240, 4560, 8880}) {
+        painter.drawRoundedRect(scaled(left - 105, 225, 4035, 1740), 6, 6);
+        painter.drawRoundedRect(scaled(left - 105, 2025, 4035, 2685), 6, 6);
+    }
+
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        const QRectF cell = cellRect(slot);
+        if (event->rect().intersects(cell.toAlignedRect().adjusted(-2, -2, 2, 2)))
+            painter.drawRect(cell.adjusted(-0.5, -0.5, 0.5, 0.5));
+    }
+
+    if (framedSlot_ != 0) {
+        painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(cellRect(framedSlot_)).adjusted(-1.5, -1.5, 1.5, 1.5));
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/code_page.h"
+
+#include <QString>
+
+/// Texts between the records (code page of the sheets) and the widgets.
+
+inline QString shownText(std::string_view text)
+{
+    const std::u16string wide = fromCodePage(text);
+    return QString(reinterpret_cast<const QChar*>(wide.data()), static_cast<qsizetype>(wide.size()));
+}
+
+inline std::string heldText(const QString& text)
+{
+    return toCodePage({reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+}

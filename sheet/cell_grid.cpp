@@ -1,0 +1,70 @@
+#include "sheet/cell_grid.h"
+
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+
+#include <algorithm>
+
+static CellGrid designedGrid()
+{
+    constexpr int left[9] = {240, 1560, 2880, 4560, 5880, 7200, 8880, 10200, 11520};
+    constexpr int top[5] = {360, 1200, 2140, 3000, 3840};
+    constexpr int position[5][9] = {
+        {28, 29, 30, 34, 35, 36, 40, 41, 42}, //
+        {31, 32, 33, 37, 38, 39, 43, 44, 45}, //
+        {1, 2, 3, 10, 11, 12, 19, 20, 21},    //
+        {4, 5, 6, 13, 14, 15, 22, 23, 24},    //
+        {7, 8, 9, 16, 17, 18, 25, 26, 27},
+    };
+    CellGrid grid{};
+    for (int row = 0; row < 5; ++row)
+        for (int column = 0; column < 9; ++column) {
+            grid.CellTop[position[row][column]] = top[row];
+            grid.CellLeft[position[row][column]] = left[column];
+        }
+    return grid;
+}
+
+const CellGrid& cellGrid()
+{
+    static const CellGrid grid = designedGrid();
+    return grid;
+}
+
+/// Grid position of each key number 1 to 45. Of a number that is named twice the later position holds.
+static std::array<int, 46> positionOfNumber()
+{
+    std::array<int, 46> position{};
+    for (int i = 1; i <= keysPerLayer; ++i) {
+        const int number = wholeNumber(sheet.KeySetting[i].Number);
+        if (number >= 1 && number <= keysPerLayer)
+            position[number] = i;
+    }
+    for (int number = 1, empty = 0; number <= keysPerLayer; ++number) {
+        if (position[number] != 0)
+            continue;
+        do
+            ++empty;
+        while (std::find(position.begin(), position.end(), empty) != position.end());
+        position[number] = empty;
+    }
+    return position;
+}
+
+void ArrangeTaxonCells()
+{
+    const CellGrid& grid = cellGrid();
+    const std::array<int, 46> position = positionOfNumber();
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
+        const int i = position[(slot - 1) % keysPerLayer + 1];
+        const int top = grid.CellTop[i];
+        const int left = grid.CellLeft[i];
+        frmMain.Text1[slot].top = top;
+        frmMain.Text1[slot].left = left;
+        frmMain.Text2[slot].top = top + cellCountBelow;
+        frmMain.Text2[slot].left = left;
+        frmMain.Label1[slot].top = top + cellIndexBelow;
+        frmMain.Label1[slot].left = left + cellIndexInset;
+    }
+}
