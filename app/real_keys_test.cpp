@@ -17,6 +17,7 @@ namespace {
 
 /// X keycodes: places on the keyboard, whatever the layout.
 enum Place : std::uint8_t {
+    escape = 9,
     digit1 = 10,
     backspace = 22,
     tab = 23,
@@ -143,7 +144,8 @@ TEST_F(RealKeys, theKeypadGoesByNumLockAndNotByShift)
 
 TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
 {
-    const std::pair<Place, int> keys[] = {{tab, 9}, {space, 32}, {enter, 13}, {f10, 121}, {leftAlt, 18}, {down, 40}};
+    const std::pair<Place, int> keys[] = {{tab, 9},   {space, 32},   {enter, 13},
+                                          {f10, 121}, {leftAlt, 18}, {down, 40}};
     int row = 0;
     for (const auto& [place, code] : keys)
         bind(++row, code);
@@ -156,6 +158,20 @@ TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
     EXPECT_TRUE(named<QWidget>("Text99")->hasFocus());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(window->menuBar()->activeAction(), nullptr);
+}
+
+TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
+{
+    tapWith({leftAlt}, placeF);
+    const QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), "mnuFile");
+    tap(placeQ); // a letter of an open menu counts nothing
+    EXPECT_EQ(total(), 0);
+    tap(escape);
+    tap(escape);
+    tap(placeQ);
+    EXPECT_EQ(total(), 1);
 }
 
 TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)

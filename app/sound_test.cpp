@@ -94,7 +94,8 @@ TEST_F(SoundOnDisk, aCueIsHeardAndANewOneReplacesItWithinOnePeriod)
 TEST_F(SoundOnDisk, whatIsNoWavIsSilence)
 {
     SdlSound sound;
-    for (const std::string& image : {std::string(), std::string("no sound at all"), wav(7, 100).substr(0, 30)})
+    for (const std::string& image :
+         {std::string(), std::string("no sound at all"), wav(7, 100).substr(0, 30)})
         sound.load(Cue::SoundSave, image);
     sound.load(Cue::SoundAlarm, wav(300, 600));
     sound.play(Cue::SoundSave);

@@ -1,5 +1,5 @@
-// The adapter between records and widgets, which the plain tests do not see: each kind of widget shows its record,
-// and what a user does to it reaches the record.
+// The adapter between records and widgets, which the plain tests do not see: each kind of widget shows its
+// record, and what a user does to it reaches the record.
 
 #include "app/window_fixture_test.h"
 
@@ -22,12 +22,15 @@ class Widgets : public WindowTest {};
 TEST_F(Widgets, everyControlHasItsName)
 {
     for (const char* name :
-         {"SSTab1", "Frame1(0)", "Frame1(1)", "Frame1(2)", "Picture1", "Picture2", "Text99", "Combo1", "Combo2",
-          "Label3", "Label4", "Label5", "Label6", "Label7(0)", "Label7(1)", "Label7(2)", "Label9", "Label11",
-          "Label12", "Label13", "Label15", "Command2(0)", "Command3(0)", "Command3(1)", "Command4(0)", "Command5(0)",
-          "Command5(1)", "Command6", "Command8", "Command9", "Text4", "Text6", "Text7", "ProgressBar1"})
+         {"SSTab1",      "Frame1(0)",   "Frame1(1)",   "Frame1(2)",   "Picture1",    "Picture2",
+          "Text99",      "Combo1",      "Combo2",      "Label3",      "Label4",      "Label5",
+          "Label6",      "Label7(0)",   "Label7(1)",   "Label7(2)",   "Label9",      "Label11",
+          "Label12",     "Label13",     "Label15",     "Command2(0)", "Command3(0)", "Command3(1)",
+          "Command4(0)", "Command5(0)", "Command5(1)", "Command6",    "Command8",    "Command9",
+          "Text4",       "Text6",       "Text7",       "ProgressBar1"})
         named<QWidget>(name);
-    for (const auto& [name, last] : {std::pair("Text1", taxonSlots), {"Text2", taxonSlots}, {"Label1", taxonSlots}})
+    for (const auto& [name, last] :
+         {std::pair("Text1", taxonSlots), {"Text2", taxonSlots}, {"Label1", taxonSlots}})
         for (int slot = 1; slot <= last; ++slot)
             named<QWidget>(QString("%1(%2)").arg(name).arg(slot).toLatin1());
     for (int i = 0; i < 3; ++i)
@@ -38,13 +41,49 @@ TEST_F(Widgets, everyControlHasItsName)
             named<QWidget>(QString(name).arg(item).toLatin1());
     EXPECT_EQ(window->objectName(), "frmMain");
 
-    for (const char* name :
-         {"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuSaveCopy", "mnuTemplate", "mnuNext", "mnuSaveHistory",
-          "mnuSaveSaturation", "mnuPercentAll", "mnuPercentSub1", "mnuPercentSub2", "mnuQuit", "mnuUndo", "mnuReset",
-          "mnuStartAmend", "mnuFinishAmend", "mnuFind", "mnuBar", "mnuArea", "mnuDot", "mnuCurve", "mnuDotCurve",
-          "mnuKeyCodeReader", "mnuInitial", "mnuSubtotal", "mnuSummary", "mnuDiagnose", "mnuItalic", "mnuFontSize(6)",
-          "mnuFontSize(7)", "mnuFontSize(8)", "mnuFontSize(9)", "mnuFontSize(10)", "mnuAlign(0)", "mnuAlign(1)",
-          "mnuCoffee", "mnuBeach", "mnuFavorite", "mnuAboutDX1", "mnuAboutApp", "mnuA", "mnuZ"})
+    for (const char* name : {"mnuNew",
+                             "mnuOpen",
+                             "mnuSave",
+                             "mnuSaveAs",
+                             "mnuSaveCopy",
+                             "mnuTemplate",
+                             "mnuNext",
+                             "mnuSaveHistory",
+                             "mnuSaveSaturation",
+                             "mnuPercentAll",
+                             "mnuPercentSub1",
+                             "mnuPercentSub2",
+                             "mnuQuit",
+                             "mnuUndo",
+                             "mnuReset",
+                             "mnuStartAmend",
+                             "mnuFinishAmend",
+                             "mnuFind",
+                             "mnuBar",
+                             "mnuArea",
+                             "mnuDot",
+                             "mnuCurve",
+                             "mnuDotCurve",
+                             "mnuKeyCodeReader",
+                             "mnuInitial",
+                             "mnuSubtotal",
+                             "mnuSummary",
+                             "mnuDiagnose",
+                             "mnuItalic",
+                             "mnuFontSize(6)",
+                             "mnuFontSize(7)",
+                             "mnuFontSize(8)",
+                             "mnuFontSize(9)",
+                             "mnuFontSize(10)",
+                             "mnuAlign(0)",
+                             "mnuAlign(1)",
+                             "mnuCoffee",
+                             "mnuBeach",
+                             "mnuFavorite",
+                             "mnuAboutDX1",
+                             "mnuAboutApp",
+                             "mnuA",
+                             "mnuZ"})
         named<QAction>(name);
 }
 
@@ -65,7 +104,8 @@ TEST_F(Widgets, aBoxShowsItsRecord)
     EXPECT_EQ(shown->palette().color(QPalette::Base), QColor(255, 255, 110));
     EXPECT_EQ(shown->palette().color(QPalette::Text), QColor(Qt::black)) << "dark letters in any theme";
     EXPECT_EQ(named<QLineEdit>("Text2(50)")->text(), "-12");
-    EXPECT_EQ(named<QLineEdit>("Text2(50)")->accessibleName(), QString::fromUtf8("Count of Quercus æ, key 50"));
+    EXPECT_EQ(named<QLineEdit>("Text2(50)")->accessibleName(),
+              QString::fromUtf8("Count of Quercus æ, key 50"));
     EXPECT_EQ(named<QPlainTextEdit>("Text4")->toPlainText(), "First line\nSecond line");
     EXPECT_TRUE(named<QPlainTextEdit>("Text4")->isEnabled());
 }
@@ -178,8 +218,8 @@ TEST_F(Widgets, aClickOnTheSheetReturnsToCountingAndSelectsNothing)
     named<QAbstractButton>("Command8")->setFocus();
     EXPECT_EQ(frmMain.focus, MainFocus::elsewhere);
     QLineEdit* const cell = named<QLineEdit>("Text1(1)");
-    for (const QEvent::Type type :
-         {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
         QMouseEvent event(type, {5, 5}, cell->mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton, {});
         QApplication::sendEvent(cell, &event);
     }

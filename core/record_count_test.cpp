@@ -59,8 +59,8 @@ TEST_F(RecordedCount, goesByTheKeySettings)
     useKeySettings();
     sheet.TaxonRecord[2].KeyIndex = "7";
     sheet.KeySetting[40].Code = " 153 ";    // as key 3: the last row counts
-    sheet.KeySetting[rowSave].Code = "187"; // saves, and leaves no mark on the undo stack
-    for (const int key : {151, 152, 153, 151, 187, undoKey, int{'Q'}})
+    sheet.KeySetting[rowSave].Code = "250"; // saves, and leaves no mark on the undo stack
+    for (const int key : {151, 152, 153, 151, 250, undoKey, int{'Q'}})
         tap(key);
     tapWith(shift1, 152);
     EXPECT_EQ("4", frmMain.Text3[0].text);

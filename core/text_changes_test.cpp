@@ -97,13 +97,14 @@ TEST_F(Totals, openTheNextSampleAndStampTheFirstIndividual)
     sheet.KeysActive = false;
     setText3(0, "1");
     sheet.KeysActive = true;
-    setText3(0, "0");
-    setText3(1, "1"); // neither a percentage nor a subtotal does
+    setText3(0, "0"); // a percentage does not
     EXPECT_FALSE(frmMain.Command5[1].enabled || frmMain.mnuNext.enabled);
     EXPECT_EQ("", sheet.SampleStamp(1, 2));
 
     tap('Q');
     clock.moment.hour = 15;
+    RecountTotals(1); // the total stays what it is
+    setText3(1, "1");
     tap('W');
     EXPECT_TRUE(frmMain.Command5[1].enabled && frmMain.mnuNext.enabled);
     EXPECT_EQ("15/11/2026 (14:05:09)", sheet.SampleStamp(1, 2));
@@ -112,6 +113,8 @@ TEST_F(Totals, openTheNextSampleAndStampTheFirstIndividual)
 
 TEST_F(Totals, sampleThatIsOnlyShownIsNoEdit)
 {
+    setLabel4("1/2");
+    EXPECT_FALSE(frmMain.mnuBar.enabled); // one sample makes no diagram
     addSamples(3);
     sheet.Count(2, 7) = 1;
     sheet.Count(3, 7) = 40000;
@@ -127,5 +130,5 @@ TEST_F(Totals, sampleThatIsOnlyShownIsNoEdit)
     EXPECT_TRUE(counts == sheet.Count && names == sheet.SampleField);
     EXPECT_TRUE(sheet.SheetPristine && sheet.FreshSheet);
     EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.mnuSave.enabled);
-    EXPECT_TRUE(frmMain.mnuBar.enabled && frmMain.mnuDotCurve.enabled); // with samples to draw
+    EXPECT_TRUE(frmMain.mnuBar.enabled && frmMain.mnuDotCurve.enabled);
 }

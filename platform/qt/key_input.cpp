@@ -85,9 +85,13 @@ void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shif
         window_.onEvent([&] { key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift); });
 }
 
-static bool isCtrlLetter(const QKeyEvent& event, int code)
+/// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
+/// counts.
+static bool isForShortcuts(const QKeyEvent& event, int code)
 {
-    return event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z';
+    constexpr int alt = 18;
+    return (event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z') ||
+           (event.modifiers().testFlag(Qt::AltModifier) && !isBoundKey(alt));
 }
 
 bool KeyInput::eventFilter(QObject* target, QEvent* event)
@@ -101,7 +105,7 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
         const bool inWindow = QApplication::activeWindow() == &window_ &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
         const int code = inWindow ? virtualKey(key) : 0;
-        if (code == 0 || !isBoundKey(code) || isCtrlLetter(key, code))
+        if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))
             return false;
         key.accept(); // no menu and no shortcut takes a key that counts
         return true;

@@ -71,9 +71,12 @@ MainWindow::MainWindow()
     whole->addLayout(bottom, 6);
     statusBar()->setObjectName("StatusBar1");
 
-    for (QWidget* const child : surface->findChildren<QWidget*>())
-        child->installEventFilter(this);
-    surface->installEventFilter(this);
+    QList<QWidget*> parts = surface->findChildren<QWidget*>();
+    parts.append(surface);
+    for (QWidget* const part : parts) {
+        part->installEventFilter(this);
+        part->setMouseTracking(true);
+    }
     scaleFont();
 
     // The user moves the focus with Tab among the buttons; the record follows.

@@ -3,6 +3,7 @@
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon)
@@ -15,6 +16,10 @@ Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons 
         box.exec();
         return Answer::ok;
     }
+    // A question may come while the hand plays on: no letter answers it, and Enter or Space leaves things as they are.
+    box.button(QMessageBox::Yes)->setText("Yes");
+    box.button(QMessageBox::No)->setText("No");
+    box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
 }

@@ -24,7 +24,6 @@ QLineEdit* cellBox(QWidget* page, Qt::Alignment alignment)
     box->unsetCursor(); // the sheet's pointer holds here too
     box->setFocusPolicy(Qt::NoFocus);
     box->setContextMenuPolicy(Qt::NoContextMenu);
-    box->setMouseTracking(true);
     box->setAlignment(alignment);
     // The cells keep their told colours in a dark theme too, so their letters are dark in any.
     QPalette colours = box->palette();
@@ -57,6 +56,11 @@ QRect TaxonPage::scaled(int left, int top, int width, int height) const
 QRect TaxonPage::cellRect(int slot) const
 {
     return names_[slot - firstSlot_]->geometry().united(counts_[slot - firstSlot_]->geometry());
+}
+
+double TaxonPage::frameWidth() const
+{
+    return std::max(2.0, 45 * pixelsPerTwip_);
 }
 
 void TaxonPage::placeCells()
@@ -101,7 +105,7 @@ void TaxonPage::frameCell(int slot)
         return;
     for (const int changed : {framedSlot_, framed})
         if (changed != 0)
-            update(cellRect(changed).adjusted(-4, -4, 4, 4));
+            update(cellRect(changed).marginsAdded(QMargins() + static_cast<int>(frameWidth() + 1)));
     framedSlot_ = framed;
 }
 
@@ -134,7 +138,9 @@ void TaxonPage::paintEvent(QPaintEvent* event)
     }
 
     if (framedSlot_ != 0) {
-        painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawRect(QRectF(cellRect(framedSlot_)).adjusted(-1.5, -1.5, 1.5, 1.5));
+        const double width = frameWidth();
+        painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(
+            QRectF(cellRect(framedSlot_)).adjusted(-width / 2, -width / 2, width / 2, width / 2));
     }
 }

@@ -30,6 +30,7 @@ protected:
 private:
     QRect scaled(int left, int top, int width, int height) const;
     QRect cellRect(int slot) const;
+    double frameWidth() const;
     void sizeLetters(QWidget* widget, int points) const;
 
     int firstSlot_;

@@ -1,0 +1,76 @@
+// A key press through DispatchKey to the state, with 250 samples in the sheet. Limit: 10 microseconds (p99).
+
+#include "app/wiring.h"
+#include "core/dispatch_key.h"
+#include "core/main_keys.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "platform/ports.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+
+namespace {
+
+class SilentSound : public Sound {
+    void load(Cue, std::string_view) override {}
+    void play(Cue cue) override { benchmark::DoNotOptimize(cue); }
+    void beep() override {}
+};
+class FixedClock : public Clock {
+    Moment now() override { return {"15/11/2026", 14, 5, 9, 270}; }
+};
+class NoTimer : public OneShotTimer {
+    void start(int) override {}
+    void stop() override {}
+};
+
+SilentSound sound;
+FixedClock clockOfBench;
+NoTimer timer;
+
+void fillSheet(int samples)
+{
+    sheet = SheetState();
+    frmMain = MainScreen();
+    ports = {nullptr, nullptr, &sound, &clockOfBench, &timer, ""};
+    sheet.SoundOn = true;
+    for (int sample = 1; sample <= samples; ++sample) {
+        sheet.SampleField(sample, 1) = decimalText(sample);
+        sheet.SampleField(sample, 2) = decimalText(10 * sample);
+        for (int slot = 1; slot <= taxonSlots; ++slot)
+            sheet.Count(sample, slot) = sample + slot;
+    }
+    sheet.SampleCount = sheet.CurrentSample = sheet.LatestSerial = static_cast<std::int16_t>(samples);
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
+        frmMain.Text2[slot].text = decimalText(sheet.Count(samples, slot));
+        frmMain.Text1[slot].text = sheet.TaxonRecord[slot].Name = "Taxon name " + decimalText(slot);
+        sheet.TaxonRecord[slot].Subtotal1 = slot % 2 == 0 ? "1" : "0";
+    }
+}
+
+void keyPress(benchmark::State& state)
+{
+    fillSheet(static_cast<int>(state.range(0)));
+    const char keys[] = "QWERASDF";
+    std::vector<double> microseconds;
+    std::size_t press = 0;
+    for (auto _ : state) {
+        const auto before = std::chrono::steady_clock::now();
+        Form_KeyDown(keys[press++ % 8], 0);
+        const std::chrono::duration<double, std::micro> took = std::chrono::steady_clock::now() - before;
+        Form_KeyUp('Q', 0);
+        Timer1_Timer();
+        microseconds.push_back(took.count());
+    }
+    std::sort(microseconds.begin(), microseconds.end());
+    state.counters["p50_us"] = microseconds[microseconds.size() / 2];
+    state.counters["p99_us"] = microseconds[microseconds.size() * 99 / 100];
+}
+
+} // namespace
+
+BENCHMARK(keyPress)->Arg(1)->Arg(250)->Iterations(50000);
+BENCHMARK_MAIN();

@@ -1,0 +1,88 @@
+// From the key event to the repainted window, beside a bare window with one line edit that takes the same keys; in
+// turn, in one run. Limit: 3 milliseconds above the bare window (median). To be run on a display.
+
+#include "app/program.h"
+
+#include "core/main_screen.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QWindow>
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+/// Sends one key to a window as the platform does and runs the event loop until it is painted.
+double pressMilliseconds(QWidget& window, int key, quint32 scanCode, quint32 keysym)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const QString text(QChar(key).toLower());
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, scanCode, keysym, 0, text);
+    QApplication::sendEvent(window.windowHandle(), &down);
+    // The paint waits for the window's next update request.
+    QApplication::sendPostedEvents();
+    QApplication::processEvents();
+    const double took = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, scanCode, keysym, 0, text);
+    QApplication::sendEvent(window.windowHandle(), &up);
+    const QDeadlineTimer guard(75); // the repeat guard of the same key
+    while (!guard.hasExpired())
+        QApplication::processEvents(QEventLoop::AllEvents, 5);
+    return took;
+}
+
+double at(std::vector<double> times, double share)
+{
+    std::sort(times.begin(), times.end());
+    return times[static_cast<std::size_t>(share * static_cast<double>(times.size() - 1))];
+}
+
+void activate(QWidget& window)
+{
+    window.activateWindow();
+    window.raise();
+    while (!window.isActiveWindow())
+        QApplication::processEvents(QEventLoop::AllEvents, 5);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QWidget bare;
+    bare.resize(1000, 700);
+    QLineEdit line(&bare);
+    bare.show();
+    Program program(DELIVERED_FOLDER);
+
+    struct Key {
+        int code;
+        quint32 scanCode;
+        quint32 keysym;
+    };
+    const Key keys[] = {{Qt::Key_Q, 24, 'q'}, {Qt::Key_W, 25, 'w'}, {Qt::Key_G, 42, 'g'}, {Qt::Key_M, 58, 'm'}};
+    std::vector<double> bareTimes;
+    std::vector<double> wholeTimes;
+    for (int round = 0; round < 25; ++round) {
+        activate(bare);
+        line.setFocus();
+        for (const Key& key : keys)
+            bareTimes.push_back(pressMilliseconds(bare, key.code, key.scanCode, key.keysym));
+        activate(program.window());
+        for (const Key& key : keys)
+            wholeTimes.push_back(pressMilliseconds(program.window(), key.code, key.scanCode, key.keysym));
+    }
+    std::printf("counted %s of %zu key presses\n", frmMain.Text3[0].text.c_str(), wholeTimes.size());
+    std::printf("key to repainted window, ms (median, p95): bare %.2f %.2f, TallyStrata %.2f %.2f\n",
+                at(bareTimes, 0.5), at(bareTimes, 0.95), at(wholeTimes, 0.5), at(wholeTimes, 0.95));
+    const double above = at(wholeTimes, 0.5) - at(bareTimes, 0.5);
+    std::printf("above the bare window: %.2f ms (limit 3)\n", above);
+    return 0;
+}
