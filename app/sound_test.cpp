@@ -4,8 +4,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace {
@@ -51,7 +51,7 @@ protected:
             return {};
         const QByteArray bytes = file.readAll();
         std::vector<std::int16_t> samples(static_cast<std::size_t>(bytes.size()) / 2);
-        std::memcpy(samples.data(), bytes.data(), samples.size() * 2);
+        std::copy_n(bytes.data(), samples.size() * 2, reinterpret_cast<char*>(samples.data()));
         return samples;
     }
 

@@ -1,5 +1,5 @@
-// From the key event to the repainted window, beside a bare window with one line edit that takes the same keys; in
-// turn, in one run. Limit: 3 milliseconds above the bare window (median). To be run on a display.
+// From the key event to the repainted window, beside a bare window with one line edit that takes the same
+// keys; in turn, in one run. Limit: 3 milliseconds above the bare window (median). To be run on a display.
 
 #include "app/program.h"
 
@@ -67,7 +67,8 @@ int main(int argc, char* argv[])
         quint32 scanCode;
         quint32 keysym;
     };
-    const Key keys[] = {{Qt::Key_Q, 24, 'q'}, {Qt::Key_W, 25, 'w'}, {Qt::Key_G, 42, 'g'}, {Qt::Key_M, 58, 'm'}};
+    const Key keys[] = {
+        {Qt::Key_Q, 24, 'q'}, {Qt::Key_W, 25, 'w'}, {Qt::Key_G, 42, 'g'}, {Qt::Key_M, 58, 'm'}};
     std::vector<double> bareTimes;
     std::vector<double> wholeTimes;
     for (int round = 0; round < 25; ++round) {

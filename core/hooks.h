@@ -5,10 +5,10 @@
 struct Hooks {
     bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
     void (*ArrangeTaxonCells)() = [] {};
-    void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
-    void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
+    void (*ShowInitial)() = [] {};       ///< brings up the window that identifies the keyboard
+    void (*SaveSheet)(int) = [](int) {}; ///< argument: the save mode, 0 plain, 99 plain and untouched
     void (*AutoBackup)() = [] {};
-    void (*RefreshDiagram)() = [] {};     ///< after a key, while the diagram is open
+    void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
 };
 
 extern Hooks hooks;

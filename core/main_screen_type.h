@@ -21,7 +21,7 @@ struct MainScreen {
     bool enabled = true;
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;
-    int SSTab1 = 0; ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
+    int SSTab1 = 0;     ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
     std::string notice; ///< line at the foot of the window: what an entry would say
 
     // The taxon cells.
@@ -33,16 +33,16 @@ struct MainScreen {
     TextBox Text99; ///< hidden: keeps the focus
 
     // The sample on show and its sums.
-    ComboBox Combo2;              ///< names of all samples; text: the one on show
-    Label Label4;                 ///< serial number / highest serial number, as in "1/1"; setLabel4()
-    std::array<Label, 3> Label2;  ///< captions of the sums: 0 all total, 1 subtotal-1, 2 subtotal-2
-    std::array<TextBox, 3> Text3; ///< the sums, whole numbers; setText3()
+    ComboBox Combo2;                     ///< names of all samples; text: the one on show
+    Label Label4;                        ///< serial number / highest serial number, as in "1/1"; setLabel4()
+    std::array<Label, 3> Label2;         ///< captions of the sums: 0 all total, 1 subtotal-1, 2 subtotal-2
+    std::array<TextBox, 3> Text3;        ///< the sums, whole numbers; setText3()
     std::array<OptionButton, 3> Option1; ///< the sum that the alarm watches and percentages go by
-    TextBox Text4;                ///< note
-    std::array<TextBox, infoItems + 1> Text5;    ///< additional info 1 to 6
-    std::array<Label, infoItems + 1> Label10;    ///< its captions
-    std::array<Button, infoItems + 1> Command7;  ///< "Rename"
-    std::array<Label, 3> Label14; ///< 0 sheet created, 1 count start, 2 last saved
+    TextBox Text4;                       ///< note
+    std::array<TextBox, infoItems + 1> Text5;   ///< additional info 1 to 6
+    std::array<Label, infoItems + 1> Label10;   ///< its captions
+    std::array<Button, infoItems + 1> Command7; ///< "Rename"
+    std::array<Label, 3> Label14;               ///< 0 sheet created, 1 count start, 2 last saved
 
     // History and file.
     LogBox Text7;    ///< all actions, one a line

@@ -12,8 +12,8 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The number of a text that is nothing but a few digits, perhaps with a minus: nearly every text that is parsed,
-/// and a key press parses a thousand of them.
+/// The number of a text that is nothing but a few digits, perhaps with a minus: nearly every text that is
+/// parsed, and a key press parses a thousand of them.
 bool isShortWhole(std::string_view text, std::int32_t& number)
 {
     const bool negative = !text.empty() && text.front() == '-';
@@ -80,8 +80,8 @@ std::int32_t wholeNumber(std::string_view text)
 
 std::int32_t within32Bits(std::int64_t number)
 {
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(number, std::numeric_limits<std::int32_t>::min(),
-                                                              std::numeric_limits<std::int32_t>::max()));
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(
+        number, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()));
 }
 
 bool isWholeNumber(std::string_view text)

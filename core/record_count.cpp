@@ -45,7 +45,8 @@ void RecordCount(int keyCode, int /*shift*/)
     frmMain.Text99.text.clear();
     // 4.
     const int carriedSlot = std::abs(wholeNumber(carried));
-    const int slot = carriedSlot <= taxonSlots ? carriedSlot : 0; // the carrier counts no slot beside the sheet
+    const int slot =
+        carriedSlot <= taxonSlots ? carriedSlot : 0; // the carrier counts no slot beside the sheet
     if (sheet.UndoStack[0].slot != 0)
         frmMain.Text1[slot].backColor = frmMain.Text2[slot].backColor = plainRow;
     // 5, 6. A key without a slot is put on the stack too, as a stop for Undo.

@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-constexpr int taxonSlots = 135;   ///< slots 1 to 135; slot 0 holds headers or totals, never a taxon
-constexpr int keysPerLayer = 45;  ///< slot = key number + 45 x layer
-constexpr int sampleLimit = 250;  ///< most samples in a sheet
+constexpr int taxonSlots = 135;    ///< slots 1 to 135; slot 0 holds headers or totals, never a taxon
+constexpr int keysPerLayer = 45;   ///< slot = key number + 45 x layer
+constexpr int sampleLimit = 250;   ///< most samples in a sheet
 constexpr int sampleColumns = 256; ///< columns that the tables have room for, 0 to 255
-constexpr int infoItems = 6;      ///< additional info items of a sample, 1 to 6
+constexpr int infoItems = 6;       ///< additional info items of a sample, 1 to 6
 
 /// A table with one column for each sample, 0 to 255; its rows lie behind one another.
 template <class Element, int Rows>
@@ -79,10 +79,10 @@ struct SheetState {
     std::array<TaxonFields, taxonSlots + 1> TaxonRecord; ///< 0: the running subtotals of the sample on show
     std::array<std::int16_t, taxonSlots + 1> KeyIndexOfRow; ///< file row 1 to 135 -> key index
     std::array<std::int16_t, taxonSlots + 1> RowOfKeyIndex; ///< the inverse
-    std::array<std::array<std::string, 5>, 3> SheetHeader; ///< rows 1, 2, columns 1 to 4: heads of the file
-    std::array<std::string, 5> NoteHeader; ///< columns 1 to 4
-    std::string SheetPath;                 ///< UTF-8; shorter than 4 characters: no file yet
-    bool SheetUnnamed = true;              ///< no dialog has named the sheet yet
+    std::array<std::array<std::string, 5>, 3> SheetHeader;  ///< rows 1, 2, columns 1 to 4: heads of the file
+    std::array<std::string, 5> NoteHeader;                  ///< columns 1 to 4
+    std::string SheetPath;                                  ///< UTF-8; shorter than 4 characters: no file yet
+    bool SheetUnnamed = true;                               ///< no dialog has named the sheet yet
 
     std::int16_t SampleCount = 1;   ///< samples in the sheet, 1 to 250
     std::int16_t CurrentSample = 1; ///< column on show and being counted
@@ -119,11 +119,11 @@ struct SheetState {
     bool KeysActive = true;   ///< false while the % button is held: nothing counts, nothing is stored
 
     // Modes and marks.
-    bool Modifying = false;     ///< "Modify template": keys edit and do not count
-    bool SheetPristine = true;  ///< no count and no edit since the last reset of the sheet
-    bool FreshSheet = true;     ///< no accepted key yet: nothing is logged
-    bool WarnNotLatest = true;  ///< counting in another than the latest sample asks first
-    bool AlarmArmed = true;     ///< the next hundred rings
+    bool Modifying = false;        ///< "Modify template": keys edit and do not count
+    bool SheetPristine = true;     ///< no count and no edit since the last reset of the sheet
+    bool FreshSheet = true;        ///< no accepted key yet: nothing is logged
+    bool WarnNotLatest = true;     ///< counting in another than the latest sample asks first
+    bool AlarmArmed = true;        ///< the next hundred rings
     std::int16_t HighlightRow = 0; ///< slot of the pale row, 0 for none
     std::int16_t MoveSource = 0;   ///< slot that a move would start from
     float PreviousCount = 0;       ///< number that a refused one gives way to

@@ -48,7 +48,8 @@ bool isKeyboardIdentified()
 bool readSounds()
 {
     for (int cue = 0; cue < cueCount; ++cue) {
-        const auto image = ports.files->read(ports.programFolder + "/Sound files/" + soundFiles[cue], soundLimit);
+        const auto image =
+            ports.files->read(ports.programFolder + "/Sound files/" + soundFiles[cue], soundLimit);
         if (!image)
             return false;
         ports.sound->load(static_cast<Cue>(cue), *image);

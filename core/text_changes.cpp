@@ -59,7 +59,8 @@ void Text0_Change()
     const int delta = sheet.MinusArmed ? -1 : 1;
     const int slot = std::abs(wholeNumber(frmMain.Text0.text));
     if (slot >= 1 && slot <= taxonSlots)
-        setText2(slot, decimalText(within32Bits(std::int64_t{wholeNumber(frmMain.Text2[slot].text)} + delta)));
+        setText2(slot,
+                 decimalText(within32Bits(std::int64_t{wholeNumber(frmMain.Text2[slot].text)} + delta)));
     RecountTotals(sheet.CurrentSample);
     setText0("");
     setText3(0, decimalText(sheet.SampleTotal));
@@ -109,7 +110,8 @@ void Text3_Change(int total)
     if (all != 0)
         frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
     if (all == 1 && !sheet.SampleSwitching) // a sample that is only shown began earlier
-        frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) = dateStamp(ports.clock->now());
+        frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) =
+            dateStamp(ports.clock->now());
 }
 
 void Label4_Change()

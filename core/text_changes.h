@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-/// Writes to those texts of the main window whose change runs a handler inside the writer. A write of the text
-/// that already stands there runs nothing. These are the program's own writes: they are no edits, so they
-/// leave the marks of unsaved work alone.
+/// Writes to those texts of the main window whose change runs a handler inside the writer. A write of the
+/// text that already stands there runs nothing. These are the program's own writes: they are no edits, so
+/// they leave the marks of unsaved work alone.
 
 void setText0(std::string_view text);
 void setText1(int slot, std::string_view text);

@@ -62,4 +62,6 @@ void Undo()
     sheet.AlarmArmed = true;
 }
 
-void Amend() {}
+void Amend()
+{
+}

@@ -1,7 +1,7 @@
 #pragma once
 
-/// One event of the user or of a timer. Handlers run to their end; a message box inside one lets others in, so
-/// they nest. What must wait for the end of the running handler is left with atEndOfUserEvent().
+/// One event of the user or of a timer. Handlers run to their end; a message box inside one lets others in,
+/// so they nest. What must wait for the end of the running handler is left with atEndOfUserEvent().
 class UserEvent {
 public:
     UserEvent();

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-/// What stands at 0x80 to 0x9F; all else is as in Unicode. The five places that the code page leaves empty map
-/// to the control characters of the same number, so that no byte of a file is lost.
+/// What stands at 0x80 to 0x9F; all else is as in Unicode. The five places that the code page leaves empty
+/// map to the control characters of the same number, so that no byte of a file is lost.
 constexpr std::array<char16_t, 32> upperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

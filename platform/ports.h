@@ -28,7 +28,16 @@ public:
     virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
 };
 
-enum class Cue { SoundKey1, SoundKey2, SoundKey3, SoundOpening, SoundUndo, SoundSave, SoundAlarm, SoundError };
+enum class Cue {
+    SoundKey1,
+    SoundKey2,
+    SoundKey3,
+    SoundOpening,
+    SoundUndo,
+    SoundSave,
+    SoundAlarm,
+    SoundError
+};
 constexpr int cueCount = 8;
 
 /// One voice: a cue replaces the one that still plays. Nothing here waits for a device or fails; without a

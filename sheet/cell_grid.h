@@ -18,6 +18,6 @@ constexpr int cellIndexBelow = 615; ///< key index below the top of the name
 constexpr int cellIndexInset = 15;
 
 /// Gives each of the 135 cells its place: position i shows the key number that the key number map has put
-/// there, on all three pages alike. A map that names a number twice or not at all hides no taxon: numbers that
-/// it leaves out fill the positions that it leaves empty.
+/// there, on all three pages alike. A map that names a number twice or not at all hides no taxon: numbers
+/// that it leaves out fill the positions that it leaves empty.
 void ArrangeTaxonCells();

@@ -16,7 +16,8 @@ void ApplyItalics()
 {
     const auto first = frmMain.Text1.begin() + 1;
     const auto last = frmMain.Text1.end();
-    const bool anyUpright = std::any_of(first, last, [](const TextBox& name) { return isUpright(name.text); });
+    const bool anyUpright =
+        std::any_of(first, last, [](const TextBox& name) { return isUpright(name.text); });
     for (auto name = first; name != last; ++name)
         name->italic = frmMain.mnuItalic.checked && anyUpright && !isUpright(name->text);
 }

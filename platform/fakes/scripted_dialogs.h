@@ -6,8 +6,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-/// Answers message boxes by a script. A message that was not announced fails the test, and so does one that was
-/// announced and never came.
+/// Answers message boxes by a script. A message that was not announced fails the test, and so does one that
+/// was announced and never came.
 class ScriptedDialogs : public Dialogs {
 public:
     std::function<void()> whenOpened = [] {}; ///< what happens to the window below a box

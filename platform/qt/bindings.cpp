@@ -131,7 +131,8 @@ void show(LogBinding& binding)
         return;
     // The line break in front of an added line is what appending makes of itself.
     const std::string_view added = std::string_view(now).substr(binding.shownLength);
-    const QString lines = shownText(added.substr(binding.shownLength != 0 && added.starts_with("\r\n") ? 2 : 0));
+    const QString lines =
+        shownText(added.substr(binding.shownLength != 0 && added.starts_with("\r\n") ? 2 : 0));
     binding.widget->appendPlainText(lines);
     binding.widget->moveCursor(QTextCursor::End);
     binding.shownLength = now.size();

@@ -13,8 +13,8 @@ class QPlainTextEdit;
 class QProgressBar;
 class QRadioButton;
 
-/// Which widget shows which control record: one list for each kind of widget. show() touches only what differs
-/// from what it showed last; widgets are written so that no signal of a user's edit comes back.
+/// Which widget shows which control record: one list for each kind of widget. show() touches only what
+/// differs from what it showed last; widgets are written so that no signal of a user's edit comes back.
 
 template <class Widget, class Record>
 struct Binding {

@@ -10,8 +10,8 @@
 #include <QKeyEvent>
 #include <QWindow>
 
-/// Milliseconds. The two halves of a repeat carry the same time, but on a busy machine the second one has been
-/// seen to arrive some 10 ms after the first.
+/// Milliseconds. The two halves of a repeat carry the same time, but on a busy machine the second one has
+/// been seen to arrive some 10 ms after the first.
 constexpr int releaseWaits = 15;
 
 KeyInput::KeyInput(MainWindow& window) : window_(window)

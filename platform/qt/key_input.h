@@ -10,8 +10,8 @@ class MainWindow;
 class QKeyEvent;
 
 /// The way of real keys into the program. The main window's keys are seen before any widget of it: a key that
-/// is bound goes no further, so it moves no focus, presses no button and opens no menu, and as the focus rests
-/// on a widget without text input, no input method sees it. Ctrl and a letter is left to the shortcuts.
+/// is bound goes no further, so it moves no focus, presses no button and opens no menu, and as the focus
+/// rests on a widget without text input, no input method sees it. Ctrl and a letter is left to the shortcuts.
 class KeyInput : public QObject {
 public:
     explicit KeyInput(MainWindow& window);

@@ -119,10 +119,12 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     scaleFont();
 }
 
-/// The whole sheet grows with the window: the letters of its controls here, those of the cells in their pages.
+/// The whole sheet grows with the window: the letters of its controls here, those of the cells in their
+/// pages.
 void MainWindow::scaleFont()
 {
-    const double scale = std::min(width() / double(designSize.width()), height() / double(designSize.height()));
+    const double scale =
+        std::min(width() / double(designSize.width()), height() / double(designSize.height()));
     QFont letters = font();
     letters.setPixelSize(std::max(9, static_cast<int>(designLetters * scale + 0.5)));
     if (letters == centralWidget()->font())

@@ -27,8 +27,8 @@ public:
         present();
     }
 
-    /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds and
-    /// does not grow with the sheet.
+    /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds
+    /// and does not grow with the sheet.
     void present();
 
 protected:

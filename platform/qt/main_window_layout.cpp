@@ -196,7 +196,8 @@ QWidget* MainWindow::infoPanel()
         QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
         box->setAccessibleName(QString("Additional info %1").arg(item));
         grid->addWidget(box, item, 1);
-        grid->addWidget(boundButton(indexed("Command7", item), frmMain.Command7[item], "Rename", nullptr), item, 2);
+        grid->addWidget(boundButton(indexed("Command7", item), frmMain.Command7[item], "Rename", nullptr),
+                        item, 2);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(infoItems + 1, 1);

@@ -7,9 +7,9 @@
 #include "sheet/name_display.h"
 
 #include <QAction>
+#include <QMap>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMap>
 
 namespace {
 
@@ -31,16 +31,11 @@ struct Menu {
 };
 
 constexpr Menu menus[] = {
-    {"mnuFile", "&File", nullptr},
-    {"mnuPercent", "Save percentage table", "mnuFile"},
-    {"mnuEdit", "&Edit", nullptr},
-    {"mnuDiagram", "&Diagram", nullptr},
-    {"mnuTools", "&Tools", nullptr},
-    {"mnuView", "&View", nullptr},
-    {"mnuFont", "Font size", "mnuView"},
-    {"mnuAlignment", "Alignment", "mnuView"},
-    {"mnuHelp", "&Help", nullptr},
-    {"mnuTired", "Are you tired?", "mnuHelp"},
+    {"mnuFile", "&File", nullptr},       {"mnuPercent", "Save percentage table", "mnuFile"},
+    {"mnuEdit", "&Edit", nullptr},       {"mnuDiagram", "&Diagram", nullptr},
+    {"mnuTools", "&Tools", nullptr},     {"mnuView", "&View", nullptr},
+    {"mnuFont", "Font size", "mnuView"}, {"mnuAlignment", "Alignment", "mnuView"},
+    {"mnuHelp", "&Help", nullptr},       {"mnuTired", "Are you tired?", "mnuHelp"},
 };
 
 void undo()

@@ -11,8 +11,8 @@
 #include <vector>
 
 /// The cues, played from memory through the sound device. play() only marks the cue; the device's own thread
-/// takes it up at its next period of 256 frames (5.8 ms). The device is opened, watched and, when it vanishes,
-/// opened anew on a thread of its own, so that neither start nor count ever waits for it.
+/// takes it up at its next period of 256 frames (5.8 ms). The device is opened, watched and, when it
+/// vanishes, opened anew on a thread of its own, so that neither start nor count ever waits for it.
 class SdlSound : public Sound {
 public:
     SdlSound();

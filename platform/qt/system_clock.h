@@ -5,8 +5,8 @@
 #include <QDate>
 #include <QTimer>
 
-/// Local time, with the date in the system's short form but always four digits of the year. A system without a
-/// form of its own gets dd/mm/yyyy, as the data sheets say.
+/// Local time, with the date in the system's short form but always four digits of the year. A system without
+/// a form of its own gets dd/mm/yyyy, as the data sheets say.
 class SystemClock : public Clock {
 public:
     Moment now() override;

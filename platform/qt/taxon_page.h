@@ -5,9 +5,9 @@
 class QLabel;
 class QLineEdit;
 
-/// One page of the sheet: the 45 cells of a layer, each a name, a count and a key index. It places them by their
-/// records and scales them, letters included, with its own size. The row counted last gets a frame, since its
-/// colour alone is not enough for every eye.
+/// One page of the sheet: the 45 cells of a layer, each a name, a count and a key index. It places them by
+/// their records and scales them, letters included, with its own size. The row counted last gets a frame,
+/// since its colour alone is not enough for every eye.
 class TaxonPage : public QWidget {
 public:
     explicit TaxonPage(int layer);
@@ -18,7 +18,8 @@ public:
     int firstSlot() const { return firstSlot_; }
     int lastSlot() const { return firstSlot_ + 44; }
 
-    /// Brings places and letter sizes up to date with the records and the page's size. Cheap when nothing changed.
+    /// Brings places and letter sizes up to date with the records and the page's size. Cheap when nothing
+    /// changed.
     void placeCells();
     /// Moves the frame to a slot; one of another page takes it away.
     void frameCell(int slot);

@@ -14,5 +14,6 @@ inline QString shownText(std::string_view text)
 
 inline std::string heldText(const QString& text)
 {
-    return toCodePage({reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+    return toCodePage(
+        {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
 }
