@@ -19,6 +19,8 @@ TEST_F(FileLocation, isBrokenBehindFoldersAndBlanks)
         {"a\\" + x38 + "x", "a\\" + x38 + "x"}, // two characters are no line
         {x38 + "\\" + x38, x38 + "\\\r\n" + x38},
         {x38 + "x\\" + x38, x38 + "x\\" + x38},
+        {thirty + "123456789\\" + x38,
+         thirty + "\r\n123456789\\" + x38}, // the second line would be too short
         {thirty + thirty + thirty + "end", thirty + "\r\n" + thirty + "\r\n" + thirty + "end"},
         {thirty + thirty + thirty + thirty,
          thirty + "\r\n" + thirty + "\r\n" + thirty + thirty}, // three lines at most
