@@ -2,6 +2,7 @@
 
 #include "core/dispatch_key.h"
 #include "core/main_keys.h"
+#include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "platform/key_codes.h"
 #include "platform/qt/main_window.h"
@@ -34,8 +35,8 @@ void KeyInput::keyboardLost()
 
 bool KeyInput::isForCounting(const QObject* target) const
 {
-    return target == window_.windowHandle() && QApplication::activePopupWidget() == nullptr &&
-           QApplication::activeModalWidget() == nullptr;
+    return target == window_.windowHandle() && frmMain.enabled &&
+           QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
 }
 
 int KeyInput::virtualKey(const QKeyEvent& event)

@@ -11,6 +11,7 @@ namespace {
 constexpr int rate = 44100;
 constexpr int periodFrames = 256;
 constexpr auto watchInterval = std::chrono::seconds(1);
+constexpr int turnsBetweenTries = 10;
 
 /// The samples of a WAV image at the rate of the device; none if it is no WAV.
 std::vector<std::int16_t> decoded(std::string_view image)
@@ -115,17 +116,23 @@ void SdlSound::keepDeviceOpen()
     wanted.userdata = this;
 
     SDL_AudioDeviceID device = 0;
+    int untilNextTry = 0; // in turns of the watch
     std::unique_lock lock(mutex_);
     for (bool first = true; !ending_; first = false) {
         lock.unlock();
         if (device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) {
             SDL_CloseAudioDevice(device);
             device = 0;
+            untilNextTry = 0;
         }
-        if (device == 0 && (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)) {
+        // Where there is no device, a new one is looked for now and then, and only while there is something
+        // to play.
+        if (device == 0 && (first || (--untilNextTry <= 0 && marked_ != noCue))) {
+            untilNextTry = turnsBetweenTries;
             if (!first)
                 marked_ = noCue; // what was marked while there was no device is long past
-            device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+            if (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)
+                device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
             if (device != 0)
                 SDL_PauseAudioDevice(device, 0);
         }
