@@ -18,7 +18,13 @@ static std::string slotText(int keyNumber)
     return text.size() == 1 ? "0" + text : text;
 }
 
-/// Empty if the key counts no taxon. Of a code that stands in two rows the last row counts.
+static bool isShiftKey(int keyCode)
+{
+    return keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
+}
+
+/// Empty if the key counts no taxon. Of a code that stands in two rows the last row counts. A shift key never
+/// counts: it repeats while it is held, and what it counted could not be taken back.
 static std::string slotTextOfKey(int keyCode)
 {
     if (!sheet.UseKeySettings) {
@@ -29,6 +35,8 @@ static std::string slotTextOfKey(int keyCode)
         return keyNumber == 0 ? "" : slotText(keyNumber);
     }
     std::string text;
+    if (isShiftKey(keyCode))
+        return text;
     for (int row = 1; row <= keysPerLayer; ++row)
         if (leadingNumber(sheet.KeySetting[row].Code) == keyCode)
             text = slotText(wholeNumber(sheet.TaxonRecord[row].KeyIndex));
@@ -37,7 +45,6 @@ static std::string slotTextOfKey(int keyCode)
 
 void RecordCount(int keyCode, int /*shift*/)
 {
-    const bool isShiftKey = keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
     // 1, 2. The write to the carrier changes the count before it returns.
     const std::string carried = slotTextOfKey(keyCode);
     setText0(carried);
@@ -50,14 +57,14 @@ void RecordCount(int keyCode, int /*shift*/)
     if (sheet.UndoStack[0].slot != 0)
         frmMain.Text1[slot].backColor = frmMain.Text2[slot].backColor = plainRow;
     // 5, 6. A key without a slot is put on the stack too, as a stop for Undo.
-    if (!isShiftKey) {
+    if (!isShiftKey(keyCode)) {
         std::move_backward(sheet.UndoStack.begin(), sheet.UndoStack.end() - 1, sheet.UndoStack.end());
         const int sign = sheet.MinusArmed ? -1 : 1;
         sheet.UndoStack[0] = {sheet.CurrentSample, static_cast<std::int16_t>(sign * slot)};
     }
     // 7, 8.
     const int counted = std::abs(sheet.UndoStack[0].slot);
-    if (counted == 0 || sheet.FreshSheet || isShiftKey || keyCode == sheet.MinusKey)
+    if (counted == 0 || sheet.FreshSheet || isShiftKey(keyCode) || keyCode == sheet.MinusKey)
         return;
     // 9 to 12.
     logAction((sheet.MinusArmed ? "(Amend) " : "") + frmMain.Label1[counted].caption + ": " +

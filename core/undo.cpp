@@ -30,6 +30,7 @@ static void takeBack(UndoEntry entry)
     // 3.
     if (entry.sample != sheet.CurrentSample) {
         showSample(entry.sample);
+        sheet.WarnNotLatest = true; // the next key may still be meant for the sample before
         logAction("(Change sample: " + frmMain.Combo2.text + ")");
     }
     // 4.
@@ -46,10 +47,13 @@ static void takeBack(UndoEntry entry)
     sheet.UndoStack.back() = {};
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
               frmMain.Text1[slot].text);
+    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true; // taking back is work to save too
 }
 
 void Undo()
 {
+    if (!sheet.KeysActive) // the boxes show percentages, which must not become counts
+        return;
     // 1, 2. An entry without a slot is never taken off: what lies below it is out of reach.
     if (sheet.UndoStack[0].slot != 0)
         takeBack(sheet.UndoStack[0]);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Takes back the newest count of the undo stack, in the sample where it was made: that sample comes on show
-/// first. An entry without a slot stops it for good. No messages.
+/// first. An entry without a slot stops it for good. Does nothing while KeysActive is false. No messages.
 void Undo();
 /// Counting in reverse is told by MinusArmed; this operation does nothing and is kept for its name.
 void Amend();

@@ -13,10 +13,10 @@ UserEvent::UserEvent()
 
 UserEvent::~UserEvent()
 {
-    if (depth == 1) {
-        for (std::size_t i = 0; i < waiting.size(); ++i) // a handler may leave another one
-            waiting[i]();
-        waiting.clear();
+    while (depth == 1 && !waiting.empty()) { // a handler may leave another one
+        const auto handler = waiting.front();
+        waiting.erase(waiting.begin());
+        handler();
     }
     --depth;
 }

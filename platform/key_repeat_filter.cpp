@@ -11,8 +11,9 @@ KeyRepeatFilter::Events KeyRepeatFilter::down(const RawKey& key)
     else
         letOutPending(events);
 
-    const bool repeats = repeatsPending || key.markedRepeat;
-    const int code = repeats ? codeOfPress(key) : key.code;
+    const int pressed = pressedCode(key.physicalKey);
+    const bool repeats = pressed != 0 && (repeatsPending || key.markedRepeat);
+    const int code = repeats ? pressed : key.code;
     setPressedCode(key.physicalKey, code);
     events.add({code, true});
     return events;
@@ -22,8 +23,9 @@ KeyRepeatFilter::Events KeyRepeatFilter::up(const RawKey& key)
 {
     Events events;
     letOutPending(events);
-    if (!key.markedRepeat)
-        pending = PendingRelease{key.physicalKey, codeOfPress(key), key.timestampMs};
+    const int pressed = pressedCode(key.physicalKey);
+    if (!key.markedRepeat && pressed != 0)
+        pending = PendingRelease{key.physicalKey, pressed, key.timestampMs};
     return events;
 }
 
@@ -55,10 +57,9 @@ void KeyRepeatFilter::letOutPending(Events& events)
     pending.reset();
 }
 
-int KeyRepeatFilter::codeOfPress(const RawKey& key) const
+int KeyRepeatFilter::pressedCode(std::uint32_t physicalKey) const
 {
-    const bool seen = key.physicalKey < pressedCodes.size() && pressedCodes[key.physicalKey] != 0;
-    return seen ? pressedCodes[key.physicalKey] : key.code;
+    return physicalKey < pressedCodes.size() ? pressedCodes[physicalKey] : 0;
 }
 
 void KeyRepeatFilter::setPressedCode(std::uint32_t physicalKey, int code)

@@ -9,7 +9,7 @@ namespace keycodes {
 
 /// A key event as the toolkit reports it.
 struct RawKey {
-    std::uint32_t physicalKey; ///< number of the key itself: X keycode, scan code
+    std::uint32_t physicalKey; ///< number of the key itself, below 512: X keycode, scan code
     int code;                  ///< virtual-key code, 1..255
     std::uint64_t timestampMs; ///< 0 if the event has no time; then it is never taken for part of a pair
     bool markedRepeat;         ///< the toolkit says that the keyboard repeats a held key
@@ -32,7 +32,7 @@ struct KeyEvent {
 ///
 /// A key reports the code of its press until it is released, even if NumLock, Shift or the layout changed in
 /// between, so that every down is followed by the up of the same code. A release whose press was never seen
-/// is passed on with its own code.
+/// is dropped: that press went to another window, or to a shortcut, and did nothing here that could end.
 class KeyRepeatFilter {
 public:
     /// The events that result from a call, in order.
@@ -69,7 +69,7 @@ private:
 
     bool isRepeatOfPending(const RawKey& key) const;
     void letOutPending(Events& events);
-    int codeOfPress(const RawKey& key) const;
+    int pressedCode(std::uint32_t physicalKey) const;
     void setPressedCode(std::uint32_t physicalKey, int code);
 
     std::array<std::uint8_t, 512> pressedCodes{}; // X has 256 keycodes, Windows 512 scan codes; 0 while up

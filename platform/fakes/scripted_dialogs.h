@@ -23,7 +23,7 @@ public:
         script_.push_back({std::move(text), std::move(title), answer});
     }
 
-    Answer ask(std::string_view text, std::string_view title, Buttons, Icon) override
+    Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon) override
     {
         whenOpened();
         if (script_.empty()) {
@@ -34,6 +34,7 @@ public:
         script_.pop_front();
         EXPECT_EQ(message.text, text);
         EXPECT_EQ(message.title, title);
+        EXPECT_EQ(message.answer == Answer::ok, buttons == Buttons::ok) << "an answer that has no button";
         return message.answer;
     }
 
