@@ -224,6 +224,13 @@ TEST_F(Widgets, aClickOnTheSheetReturnsToCountingAndSelectsNothing)
         QApplication::sendEvent(cell, &event);
     }
     EXPECT_TRUE(sink->hasFocus());
+    frmMain.Label1[9].visible = frmMain.Label1[9].enabled = true;
+    window->present();
+    QLabel* const index = named<QLabel>("Label1(9)");
+    QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, index->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                      Qt::LeftButton, {});
+    QApplication::sendEvent(index, &press);
+    EXPECT_EQ(sheet.MoveSource, 9);
     EXPECT_FALSE(cell->hasSelectedText());
     EXPECT_FALSE(sink->inputMethodQuery(Qt::ImEnabled).toBool()) << "an input method would take the keys";
 }

@@ -101,7 +101,9 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         onEvent(isCell ? Text1_MouseMove : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
-        if (qobject_cast<QAbstractButton*>(target) == nullptr)
+        if (name.startsWith("Label1("))
+            onEvent([slot = name.mid(7).chopped(1).toInt()] { Label1_Click(slot); });
+        else if (qobject_cast<QAbstractButton*>(target) == nullptr)
             onEvent(giveFocusBack);
         break;
     case QEvent::MouseButtonRelease:
