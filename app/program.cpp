@@ -4,10 +4,18 @@
 #include "core/main_keys.h"
 #include "core/start_up.h"
 
+#include <QScreen>
+
 Program::Program(const QString& folder)
     : timer_([this] { window_.onEvent(Timer1_Timer); }), dialogs_(window_), keys_(window_)
 {
-    ports = {&files_, &dialogs_, &sound_, &clock_, &timer_, folder.toStdString()};
+    ports = {&files_,
+             &dialogs_,
+             &sound_,
+             &clock_,
+             &timer_,
+             folder.toStdString(),
+             15 * window_.screen()->size().width()};
     connectRooms();
     window_.onEvent(Form_Load);
     window_.show();

@@ -1,6 +1,8 @@
 #include "app/wiring.h"
 
 #include "core/hooks.h"
+#include "files/backup.h"
+#include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 
@@ -8,4 +10,6 @@ void connectRooms()
 {
     hooks.ReadKeySettings = ReadKeySettings;
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
+    hooks.SaveSheet = SaveSheet;
+    hooks.AutoBackup = AutoBackup;
 }

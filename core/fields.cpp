@@ -1,34 +1,84 @@
 #include "core/fields.h"
 
-#include <algorithm>
+#include <charconv>
 
-constexpr std::string_view separators = ",\r\n";
-
-std::optional<std::string> FieldReader::next()
+static bool isSeparator(char c)
 {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
-    if (rest_.empty())
-        return std::nullopt;
+    return c == ',' || c == '\r' || c == '\n';
+}
 
-    std::string field;
-    if (rest_.front() == '"') {
-        const std::size_t closing = rest_.find('"', 1);
+static bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+std::optional<std::string_view> FieldReader::next()
+{
+    const char* at = rest_.data();
+    const char* const end = at + rest_.size();
+    while (at != end && isBlank(*at))
+        ++at;
+    if (at == end) {
+        rest_ = {};
+        return std::nullopt;
+    }
+
+    std::string_view field;
+    if (*at == '"') {
+        const std::size_t begin = static_cast<std::size_t>(at + 1 - rest_.data());
+        const std::size_t closing = rest_.find('"', begin);
         if (closing == std::string_view::npos) {
             rest_ = {};
             return std::nullopt;
         }
-        field = rest_.substr(1, closing - 1);
-        rest_.remove_prefix(closing + 1);
-        rest_.remove_prefix(std::min(rest_.find_first_of(separators), rest_.size()));
+        field = rest_.substr(begin, closing - begin);
+        at = rest_.data() + closing + 1;
+        while (at != end && !isSeparator(*at))
+            ++at;
     } else {
-        const std::size_t end = std::min(rest_.find_first_of(separators), rest_.size());
-        const std::size_t last = rest_.substr(0, end).find_last_not_of(" \t");
-        field = last == std::string_view::npos ? "" : rest_.substr(0, last + 1);
-        rest_.remove_prefix(end);
+        const char* const begin = at;
+        while (at != end && !isSeparator(*at))
+            ++at;
+        const char* last = at;
+        while (last != begin && isBlank(last[-1]))
+            --last;
+        field = {begin, static_cast<std::size_t>(last - begin)};
     }
 
-    atLineEnd_ = rest_.empty() || rest_.front() != ',';
-    if (!rest_.empty())
-        rest_.remove_prefix(rest_.substr(0, 2) == "\r\n" ? 2 : 1);
+    atLineEnd_ = at == end || *at != ',';
+    if (at != end)
+        at += *at == '\r' && at + 1 != end && at[1] == '\n' ? 2 : 1;
+    rest_ = {at, static_cast<std::size_t>(end - at)};
     return field;
+}
+
+void FieldWriter::separate()
+{
+    if (lineBegun_)
+        text_ += ',';
+    lineBegun_ = true;
+}
+
+FieldWriter& FieldWriter::text(std::string_view field)
+{
+    separate();
+    text_ += '"';
+    text_ += field;
+    text_ += '"';
+    return *this;
+}
+
+FieldWriter& FieldWriter::number(long long field)
+{
+    separate();
+    char digits[24];
+    const auto written = std::to_chars(digits, digits + sizeof digits, field);
+    text_.append(digits, written.ptr);
+    return *this;
+}
+
+void FieldWriter::endLine()
+{
+    text_ += "\r\n";
+    lineBegun_ = false;
 }

@@ -61,7 +61,7 @@ struct MainScreen {
 
     // Menus. Only entries whose state a handler changes stand here.
     MenuEntry mnuNew, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
-    MenuEntry mnuPercent;
+    MenuEntry mnuPercent, mnuPercentAll, mnuPercentSub1, mnuPercentSub2; ///< captions follow the subtotals
     MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;

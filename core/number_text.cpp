@@ -95,3 +95,10 @@ std::string decimalText(long long number)
     const auto written = std::to_chars(buffer, buffer + sizeof buffer, number);
     return std::string(buffer, written.ptr);
 }
+
+std::string plainDecimal(double number)
+{
+    char buffer[400]; // the largest double has 309 digits
+    const auto written = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed);
+    return std::string(buffer, written.ptr);
+}

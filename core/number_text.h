@@ -22,3 +22,7 @@ bool isWholeNumber(std::string_view text);
 std::int32_t within32Bits(std::int64_t number);
 
 std::string decimalText(long long number);
+
+/// The plain decimal writing of a number: the shortest that gives it back, a digit before the point, no
+/// exponent and no zeros at the end, as in "0.5", "12.5", "-3".
+std::string plainDecimal(double number);

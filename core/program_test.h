@@ -35,7 +35,7 @@ protected:
         sheet.SoundOn = true;
         frmMain = MainScreen();
         hooks = Hooks();
-        ports = {&files, &dialogs, &sound, &clock, &timer, "/program"};
+        ports = {&files, &dialogs, &sound, &clock, &timer, "/program", 15360};
         dialogs.whenOpened =
             [this] { // a message box takes the keyboard, and stays longer than the repeat guard
                 Form_Deactivate();

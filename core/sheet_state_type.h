@@ -81,6 +81,12 @@ struct SheetState {
     std::array<std::int16_t, taxonSlots + 1> RowOfKeyIndex; ///< the inverse
     std::array<std::array<std::string, 5>, 3> SheetHeader;  ///< rows 1, 2, columns 1 to 4: heads of the file
     std::array<std::string, 5> NoteHeader;                  ///< columns 1 to 4
+    std::array<std::array<std::string, 5>, infoItems + 1> AdditionalHeader; ///< rows 1 to 6; column 4: label
+    std::array<std::array<std::string, 5>, 4> DateHeader;                   ///< rows 1 to 3
+    int FileGeneration = 3;      ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
+    bool TemplateOpened = false; ///< the sheet came from a template and has not been saved since
+    std::array<std::int16_t, sampleColumns> SampleSerial{}; ///< column -> serial number, as last read
+    std::array<std::int16_t, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
     std::string SheetPath;                                  ///< UTF-8; shorter than 4 characters: no file yet
     bool SheetUnnamed = true;                               ///< no dialog has named the sheet yet
 
@@ -130,6 +136,10 @@ struct SheetState {
     bool SampleSwitching = false;  ///< a whole sample is being shown: change handlers store nothing
     bool SoundOn = false;          ///< all eight cues could be read
     bool DiagramOpen = false;
+    bool NamesNotNumeric = false; ///< at least one sample name is no plain number: no depth order
+    int SaveResult = 0; ///< 1: closing began, 2: the save did not complete
+    int DiagramWidth = 0;  ///< size of the diagram window to open with, twips; 0: its default
+    int DiagramHeight = 0;
     int BackupSlot = 99; ///< 99: the master copy is still to come
     Colour DiagramColour = RGB(0, 128, 0);
 };

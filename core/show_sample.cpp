@@ -6,6 +6,16 @@
 #include "core/sheet_state.h"
 #include "core/text_changes.h"
 
+ShowingSample::ShowingSample()
+{
+    sheet.SampleSwitching = true;
+}
+
+ShowingSample::~ShowingSample()
+{
+    sheet.SampleSwitching = false;
+}
+
 static std::string orDashes(const std::string& text)
 {
     return text.empty() ? "---" : text;
@@ -13,7 +23,7 @@ static std::string orDashes(const std::string& text)
 
 void showSample(int sample)
 {
-    sheet.SampleSwitching = true;
+    const ShowingSample showing;
     sheet.CurrentSample = static_cast<std::int16_t>(sample);
     for (int slot = 1; slot <= taxonSlots; ++slot)
         setText2(slot, decimalText(sheet.Count(sample, slot)));
@@ -27,5 +37,4 @@ void showSample(int sample)
         frmMain.Text5[item].text = orDashes(sheet.AdditionalInfo(sample, item));
     for (int date = 0; date < 3; ++date)
         frmMain.Label14[date].caption = orDashes(sheet.SampleStamp(sample, date + 1));
-    sheet.SampleSwitching = false;
 }

@@ -1,5 +1,14 @@
 #pragma once
 
+/// While one lives, a sample is being shown: what is written to the boxes is neither stored nor stamped.
+class ShowingSample {
+public:
+    ShowingSample();
+    ~ShowingSample();
+    ShowingSample(const ShowingSample&) = delete;
+    ShowingSample& operator=(const ShowingSample&) = delete;
+};
+
 /// Puts a column of the sheet on show: counts, totals, name, serial number, note, additional info and dates.
 /// Stores nothing and stamps nothing.
 /// `sample`: 1 to SampleCount; becomes CurrentSample.

@@ -12,10 +12,10 @@ std::optional<KeySettingTable> parseKeySettings(std::string_view fileText)
     for (KeySettingRow& row : table) {
         std::string* const last = &row.Number;
         for (std::string* field : {&row.Definition, &row.Code, last}) {
-            auto text = reader.next();
+            const auto text = reader.next();
             if (!text || reader.atLineEnd() != (field == last))
                 return std::nullopt;
-            *field = std::move(*text);
+            *field = *text;
         }
     }
     const bool anyKey = std::any_of(table.begin() + 1, table.begin() + 1 + keysPerLayer,

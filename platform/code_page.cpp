@@ -36,3 +36,64 @@ std::string toCodePage(std::u16string_view text)
     }
     return result;
 }
+
+namespace {
+
+/// Reads one character of UTF-8 and takes it off the front; 0xFFFFFFFF and one byte if it is none.
+char32_t takeUtf8(std::string_view& text)
+{
+    constexpr char32_t invalid = 0xFFFFFFFF;
+    const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byteAt(0);
+    const std::size_t length = lead < 0x80       ? 1
+                               : lead >> 5 == 6  ? 2
+                               : lead >> 4 == 14 ? 3
+                               : lead >> 3 == 30 ? 4
+                                                 : 0;
+    char32_t character = length == 1 ? lead : lead & (0x7F >> length);
+    bool valid = length != 0 && length <= text.size();
+    for (std::size_t i = 1; valid && i < length; ++i) {
+        valid = byteAt(i) >> 6 == 2;
+        character = character << 6 | (byteAt(i) & 0x3F);
+    }
+    constexpr char32_t lowest[] = {0, 0, 0x80, 0x800, 0x10000};
+    valid = valid && character >= lowest[length] && character <= 0x10FFFF &&
+            (character < 0xD800 || character > 0xDFFF);
+    text.remove_prefix(valid ? length : 1);
+    return valid ? character : invalid;
+}
+
+bool isMultiByteUtf8(std::string_view text)
+{
+    bool multiByte = false;
+    while (!text.empty()) {
+        const std::size_t before = text.size();
+        if (takeUtf8(text) > 0x10FFFF)
+            return false;
+        multiByte = multiByte || before - text.size() > 1;
+    }
+    return multiByte;
+}
+
+} // namespace
+
+std::string toCodePageFromUtf8(std::string_view text)
+{
+    std::u16string wide;
+    wide.reserve(text.size());
+    while (!text.empty()) {
+        const char32_t character = takeUtf8(text);
+        wide += character <= 0xFFFF ? static_cast<char16_t>(character)
+                                    : char16_t{0xFFFD}; // shown as "?" either way
+    }
+    return toCodePage(wide);
+}
+
+std::string fileTextInCodePage(std::string bytes)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (std::string_view(bytes).substr(0, mark.size()) == mark)
+        bytes.erase(0, mark.size());
+    const bool plain = std::all_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0; });
+    return plain || !isMultiByteUtf8(bytes) ? bytes : toCodePageFromUtf8(bytes);
+}

@@ -9,3 +9,9 @@
 std::u16string fromCodePage(std::string_view text);
 /// A character that the code page lacks becomes "?".
 std::string toCodePage(std::u16string_view text);
+
+/// A path or another UTF-8 text in the code page; bytes that are no UTF-8 become "?".
+std::string toCodePageFromUtf8(std::string_view text);
+/// The bytes of a text file in the code page. A byte order mark is dropped. A file that is UTF-8 with at
+/// least one character of several bytes, as spreadsheets write it, is converted; any other is taken as it is.
+std::string fileTextInCodePage(std::string bytes);

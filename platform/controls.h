@@ -59,6 +59,7 @@ struct LogBox {
 struct MenuEntry {
     bool enabled = true;
     bool checked = false;
+    std::string caption = {}; ///< empty: as designed
 };
 
 struct ProgressBar {

@@ -14,18 +14,29 @@ public:
     virtual ~Files() = default;
     /// The bytes of a file; nothing if it is missing, cannot be read, is no file or is larger than `limit`.
     virtual std::optional<std::string> read(const std::string& path, std::size_t limit) = 0;
+    /// Writes a whole file over what is there. False if any step failed: open, room on the disk, write,
+    /// flush, close. The old bytes are left alone if the file cannot be opened or the disk has no room for
+    /// the new ones.
+    virtual bool write(const std::string& path, std::string_view bytes) = 0;
+    /// Makes an empty file where there is none; one that is there keeps its bytes.
+    virtual bool create(const std::string& path) = 0;
 };
 
 enum class Buttons { ok, yesNo };
 enum class Answer { ok, yes, no };
 enum class Icon { exclamation, question };
 
-/// A message box: it blocks until it is answered. Closing it by its frame or by Esc answers No, or OK where
-/// there is no No.
+/// Boxes that block until they are answered.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
+    /// A message. Closing it by its frame or by Esc answers No, or OK where there is no No.
     virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
+    /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists;
+    /// adds nothing to a name. `proposed` may be empty.
+    virtual std::optional<std::string> chooseFileToSave(const std::string& proposed) = 0;
+    /// Path of a data file to read, or nothing if the user cancels.
+    virtual std::optional<std::string> chooseFileToOpen() = 0;
 };
 
 enum class Cue {
@@ -82,6 +93,7 @@ struct Ports {
     Clock* clock = nullptr;
     OneShotTimer* Timer1 = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
+    int screenWidth = 15360;   ///< of the screen that the program is on, twips
 };
 
 extern Ports ports;

@@ -2,12 +2,17 @@
 
 #include "platform/ports.h"
 
+#include <cstdint>
 #include <map>
+#include <set>
 
-/// Files in memory, by path.
+/// Files in memory, by path, and the faults of a disk.
 class MemoryFiles : public Files {
 public:
     std::map<std::string, std::string> contents;
+    std::set<std::string> unwritable; ///< read-only, locked, a folder, or below a folder that is missing
+    std::size_t room = SIZE_MAX;      ///< bytes that one file may take
+    bool closeFails = false;
 
     std::optional<std::string> read(const std::string& path, std::size_t limit) override
     {
@@ -15,5 +20,16 @@ public:
         if (file == contents.end() || file->second.size() > limit)
             return std::nullopt;
         return file->second;
+    }
+    bool write(const std::string& path, std::string_view bytes) override
+    {
+        if (unwritable.count(path) != 0 || bytes.size() > room)
+            return false;
+        contents[path] = bytes;
+        return !closeFails;
+    }
+    bool create(const std::string& path) override
+    {
+        return unwritable.count(path) == 0 && (contents.try_emplace(path), true);
     }
 };

@@ -16,6 +16,28 @@ public:
     {
         for (const Expected& message : script_)
             ADD_FAILURE() << "Message that never came: " << message.text;
+        EXPECT_TRUE(paths.empty()) << "file dialogs that never came";
+    }
+
+    /// Paths that the file dialogs answer, in order; nothing is a cancel.
+    std::deque<std::optional<std::string>> paths;
+    std::string proposed; ///< name that the last save dialog proposed
+
+    std::optional<std::string> chooseFileToSave(const std::string& name) override
+    {
+        proposed = name;
+        return chooseFileToOpen();
+    }
+    std::optional<std::string> chooseFileToOpen() override
+    {
+        whenOpened();
+        if (paths.empty()) {
+            ADD_FAILURE() << "Unannounced file dialog";
+            return std::nullopt;
+        }
+        const auto path = paths.front();
+        paths.pop_front();
+        return path;
     }
 
     void expect(std::string text, std::string title, Answer answer = Answer::ok)

@@ -97,6 +97,8 @@ void show(ActionBinding& binding)
     binding.widget->setEnabled(binding.record->enabled);
     if (binding.widget->isCheckable())
         binding.widget->setChecked(binding.record->checked);
+    if (binding.record->caption != binding.shown.caption)
+        binding.widget->setText(shownText(binding.shown.caption = binding.record->caption));
 }
 
 void show(BarBinding& binding)

@@ -2,17 +2,22 @@
 
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "files/open_sheet.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -50,6 +55,7 @@ MainWindow::MainWindow()
     setObjectName("frmMain");
     setMinimumSize(designSize * 0.85);
     resize(designSize);
+    setAcceptDrops(true);
     makeMenus();
 
     auto* const surface = new QWidget;
@@ -119,6 +125,26 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     scaleFont();
+}
+
+static QString droppedFile(const QDropEvent& event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFile(*event).isEmpty())
+        event->acceptProposedAction();
+}
+
+/// The file manager is let go first: the questions of opening must not keep it waiting.
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const std::string path = droppedFile(*event).toStdString();
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, path] { onEvent([&] { openDropped(path); }); });
 }
 
 /// The whole sheet grows with the window: the letters of its controls here, those of the cells in their

@@ -34,6 +34,8 @@ public:
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
     void resizeEvent(QResizeEvent*) override;
+    void dragEnterEvent(QDragEnterEvent*) override;
+    void dropEvent(QDropEvent*) override;
 
 private:
     void beginEvent();

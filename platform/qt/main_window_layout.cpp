@@ -1,6 +1,8 @@
 // What stands where in the main window.
 
 #include "core/main_screen.h"
+#include "files/open_sheet.h"
+#include "files/save_sheet.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
@@ -120,8 +122,8 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
     row->addWidget(boundButton("Command9", frmMain.Command9, "Go", nullptr));
     row->addStretch(1);
-    row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", nullptr));
-    row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", nullptr));
+    row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", mnuOpen_Click));
+    row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", mnuSave_Click));
     row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", nullptr));
     row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", nullptr));
     row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", nullptr));

@@ -2,6 +2,9 @@
 
 #include "core/main_screen.h"
 #include "core/undo.h"
+#include "files/open_sheet.h"
+#include "files/save_sheet.h"
+#include "files/template_file.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/name_display.h"
@@ -61,20 +64,20 @@ QList<Entry> entries()
     MainScreen& f = frmMain;
     return {
         {"mnuFile", "mnuNew", "New", &f.mnuNew},
-        {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen},
+        {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen, mnuOpen_Click},
         {"mnuFile", nullptr, nullptr},
-        {"mnuFile", "mnuSave", "Save", &f.mnuSave},
-        {"mnuFile", "mnuSaveAs", "Save as...", &f.mnuSaveAs},
-        {"mnuFile", "mnuSaveCopy", "Save copy...", &f.mnuSaveCopy},
-        {"mnuFile", "mnuTemplate", "Create template"},
+        {"mnuFile", "mnuSave", "Save", &f.mnuSave, mnuSave_Click},
+        {"mnuFile", "mnuSaveAs", "Save as...", &f.mnuSaveAs, mnuSaveAs_Click},
+        {"mnuFile", "mnuSaveCopy", "Save copy...", &f.mnuSaveCopy, mnuSaveCopy_Click},
+        {"mnuFile", "mnuTemplate", "Create template", nullptr, mnuTemplate_Click},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuNext", "Next sample", &f.mnuNext},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory},
         {"mnuFile", "mnuSaveSaturation", "Save Saturation curve"},
-        {"mnuPercent", "mnuPercentAll", "% by All total"},
-        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1"},
-        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2"},
+        {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll},
+        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1},
+        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuQuit", "Quit"},
 

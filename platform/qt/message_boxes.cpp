@@ -4,7 +4,15 @@
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
+#include <QFileDialog>
 #include <QMessageBox>
+
+static std::optional<std::string> chosen(const QString& path)
+{
+    return path.isEmpty() ? std::nullopt : std::optional(path.toStdString());
+}
+
+static const QString dataFiles = "DataFile(*.csv)";
 
 Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon)
 {
@@ -23,4 +31,17 @@ Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons 
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+std::optional<std::string> MessageBoxes::chooseFileToSave(const std::string& proposed)
+{
+    window_.present();
+    return chosen(
+        QFileDialog::getSaveFileName(&window_, "Save", QString::fromStdString(proposed), dataFiles));
+}
+
+std::optional<std::string> MessageBoxes::chooseFileToOpen()
+{
+    window_.present();
+    return chosen(QFileDialog::getOpenFileName(&window_, "Open", {}, dataFiles));
 }

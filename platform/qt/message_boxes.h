@@ -4,11 +4,13 @@
 
 class MainWindow;
 
-/// The program's message boxes, above its main window.
+/// The program's message boxes and file dialogs, above its main window.
 class MessageBoxes : public Dialogs {
 public:
     explicit MessageBoxes(MainWindow& window) : window_(window) {}
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) override;
+    std::optional<std::string> chooseFileToSave(const std::string& proposed) override;
+    std::optional<std::string> chooseFileToOpen() override;
 
 private:
     MainWindow& window_;

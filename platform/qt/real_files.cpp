@@ -2,6 +2,26 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
+#if defined(Q_OS_LINUX)
+#include <fcntl.h>
+#endif
+
+/// Asks the disk for the room of the new bytes while the old ones still stand. A file that only grew by that
+/// is given its old length back if the room is not there.
+static bool reserveRoom([[maybe_unused]] QFile& file, [[maybe_unused]] qint64 bytes)
+{
+#if defined(Q_OS_LINUX)
+    const qint64 before = file.size();
+    const int failure = posix_fallocate(file.handle(), 0, std::max<qint64>(bytes, 1));
+    if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG) {
+        file.resize(before);
+        return false;
+    }
+#endif
+    return true; // a system that cannot tell finds out while it writes
+}
 
 std::optional<std::string> RealFiles::read(const std::string& path, std::size_t limit)
 {
@@ -13,4 +33,21 @@ std::optional<std::string> RealFiles::read(const std::string& path, std::size_t 
     if (file.error() != QFile::NoError || bytes.size() != file.size())
         return std::nullopt;
     return bytes.toStdString();
+}
+
+bool RealFiles::write(const std::string& path, std::string_view bytes)
+{
+    QFile file(QString::fromStdString(path));
+    const auto size = static_cast<qint64>(bytes.size());
+    // ReadWrite keeps the old bytes until the new ones have their room.
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !reserveRoom(file, size))
+        return false;
+    const bool written = file.write(bytes.data(), size) == size && file.resize(size) && file.flush();
+    file.close();
+    return written && file.error() == QFile::NoError;
+}
+
+bool RealFiles::create(const std::string& path)
+{
+    return QFile(QString::fromStdString(path)).open(QIODevice::ReadWrite);
 }

@@ -1,0 +1,49 @@
+#include "core/reset_sheet.h"
+
+#include "core/hooks.h"
+#include "core/main_screen.h"
+#include "core/recount_totals.h"
+#include "core/sheet_state.h"
+
+#include <utility>
+
+static void resetState()
+{
+    SheetState before = std::exchange(sheet, SheetState());
+    sheet.KeySetting = std::move(before.KeySetting);
+    sheet.Shift1Key = before.Shift1Key;
+    sheet.Shift2Key = before.Shift2Key;
+    sheet.MinusKey = before.MinusKey;
+    sheet.UseKeySettings = before.UseKeySettings;
+    sheet.KeysInitialised = before.KeysInitialised;
+    sheet.SoundOn = before.SoundOn;
+    sheet.ActionText = std::move(before.ActionText);
+    sheet.ActionTime = std::move(before.ActionTime);
+    sheet.ActionCount = before.ActionCount;
+    sheet.BackupSlot = before.BackupSlot;
+    sheet.DiagramColour = before.DiagramColour;
+}
+
+static void resetScreen()
+{
+    MainScreen before = std::exchange(frmMain, MainScreen());
+    frmMain.Combo1 = std::move(before.Combo1);
+    frmMain.Text7 = std::move(before.Text7);
+    frmMain.Combo2.itemsRevision = before.Combo2.itemsRevision + 1;
+    frmMain.mnuItalic = before.mnuItalic;
+    frmMain.mnuFontSize = before.mnuFontSize;
+    frmMain.mnuAlign = before.mnuAlign;
+    frmMain.mnuFavorite = before.mnuFavorite;
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
+        frmMain.Text1[slot].fontSize = before.Text1[slot].fontSize;
+        frmMain.Text1[slot].rightAligned = before.Text1[slot].rightAligned;
+    }
+    hooks.ArrangeTaxonCells();
+}
+
+void resetSheet()
+{
+    resetState();
+    resetScreen();
+    RecountTotals(sheet.CurrentSample);
+}

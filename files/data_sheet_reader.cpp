@@ -1,0 +1,222 @@
+#include "files/data_sheet_reader.h"
+
+#include "core/number_text.h"
+#include "files/note_migration.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int lastColumn = sampleColumns - 1;
+
+int generationOf(std::string_view tag)
+{
+    return tag == "Saved:"                        ? 1
+           : tag == "Last saved (dd/mm/yyyy):"    ? 2
+           : tag == "Last modified (dd/mm/yyyy):" ? 3
+                                                  : 0;
+}
+
+std::int16_t within16Bits(double number)
+{
+    return static_cast<std::int16_t>(std::clamp(std::nearbyint(number), -32768.0, 32767.0));
+}
+
+std::string& infoCell(SheetState& tables, int sample, int row)
+{
+    return tables.AdditionalInfo(sample, row);
+}
+std::string& noteCell(SheetState& tables, int sample, int row)
+{
+    return tables.SampleNote(sample, row);
+}
+std::string& stampCell(SheetState& tables, int sample, int row)
+{
+    return tables.SampleStamp(sample, row);
+}
+std::string& fieldCell(SheetState& tables, int sample, int row)
+{
+    return tables.SampleField(sample, row);
+}
+
+} // namespace
+
+bool DataSheetReader::readText(std::string& field)
+{
+    const auto text = fields_.next();
+    if (text)
+        field = *text;
+    return text.has_value();
+}
+
+bool DataSheetReader::readNumber(std::int32_t lowest, std::int32_t highest, std::int32_t& number)
+{
+    const auto text = fields_.next();
+    if (!text)
+        return false;
+    const double read = std::nearbyint(leadingNumber(*text));
+    if (read < lowest || read > highest)
+        return false;
+    number = static_cast<std::int32_t>(read);
+    return true;
+}
+
+bool DataSheetReader::readHead(std::array<std::string, 5>& head)
+{
+    for (int column = 1; column <= 4; ++column)
+        if (!readText(head[column]))
+            return false;
+    return true;
+}
+
+bool DataSheetReader::readSamples(std::string& (*cell)(SheetState&, int, int), int row)
+{
+    for (int sample = 1; sample <= samplesInFile(); ++sample)
+        if (!readText(cell(sheet_, sample, row)))
+            return false;
+    return true;
+}
+
+bool DataSheetReader::readPath()
+{
+    sheet_.TemplateOpened = false;
+    if (!readText(sheet_.SheetHeader[1][1]))
+        return false; // an empty file costs no count
+    for (int slot = 0; slot <= taxonSlots; ++slot)
+        for (int sample = 0; sample <= sheet_.SampleCount; ++sample)
+            sheet_.Count(sample, slot) = 0;
+    return true;
+}
+
+bool DataSheetReader::readSerials()
+{
+    auto& head = sheet_.SheetHeader[1];
+    if (!readText(head[2]) || !readText(head[3]) || !readText(head[4]))
+        return false;
+    if (head[4] != "Serial No." && !readText(head[4])) // one field more may stand there, and only one
+        return false;
+    sheet_.FileGeneration = generationOf(head[2]);
+
+    // The serial numbers end at the first text that is no plain number; that is field 1 of line 2.
+    int count = 0;
+    double latest = -9999;
+    sheet_.SampleSerial.fill(0);
+    sheet_.SerialSample.fill(0);
+    for (;;) {
+        const auto field = fields_.next();
+        if (!field)
+            return false;
+        const double serial = leadingNumber(*field);
+        if (*field != plainDecimal(serial)) {
+            sheet_.SheetHeader[2][1] = *field;
+            break;
+        }
+        if (++count > lastColumn)
+            return false;
+        sheet_.SampleField(count, 1) = *field;
+        sheet_.SampleSerial[count] = within16Bits(serial);
+        if (serial >= 0 && serial <= lastColumn)
+            sheet_.SerialSample[within16Bits(serial)] = static_cast<std::int16_t>(count);
+        latest = std::max(latest, serial);
+    }
+    sheet_.SampleCount = sheet_.CurrentSample = static_cast<std::int16_t>(count);
+    sheet_.LatestSerial = latest > -9999 ? within16Bits(latest) : std::int16_t{0};
+    return true;
+}
+
+bool DataSheetReader::readNames()
+{
+    for (int column = 2; column <= 4; ++column)
+        if (!readText(sheet_.SheetHeader[2][column]))
+            return false;
+    return readSamples(fieldCell, 2);
+}
+
+bool DataSheetReader::readTaxon(int row)
+{
+    constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+    std::int32_t keyIndex = 0;
+    std::int32_t subtotal1 = 0;
+    std::int32_t subtotal2 = 0;
+    std::string name;
+    if (!readNumber(0, taxonSlots, keyIndex))
+        return false;
+    sheet_.KeyIndexOfRow[row] = static_cast<std::int16_t>(keyIndex);
+    sheet_.RowOfKeyIndex[keyIndex] = static_cast<std::int16_t>(row);
+    if (!readNumber(lowest, highest, subtotal1) || !readNumber(lowest, highest, subtotal2) || !readText(name))
+        return false;
+    sheet_.TaxonRecord[keyIndex] = {decimalText(keyIndex), decimalText(keyIndex), decimalText(subtotal1),
+                                    decimalText(subtotal2), name};
+    for (int sample = 1; sample <= samplesInFile(); ++sample)
+        if (!readNumber(lowest, highest, sheet_.Count(sample, keyIndex)))
+            return false;
+    return true;
+}
+
+std::optional<int> DataSheetReader::repeatedKeyIndex() const
+{
+    const auto& keyIndexes = sheet_.KeyIndexOfRow;
+    for (int row = 2; row <= taxonSlots; ++row)
+        if (std::find(keyIndexes.begin() + 1, keyIndexes.begin() + row, keyIndexes[row]) !=
+            keyIndexes.begin() + row)
+            return keyIndexes[row];
+    return std::nullopt;
+}
+
+void DataSheetReader::beginFromTemplate(std::string_view sampleName)
+{
+    sheet_.TemplateOpened = true;
+    sheet_.SampleCount = sheet_.CurrentSample = 1;
+    sheet_.SampleField(1, 1) = "1";
+    sheet_.SampleField(1, 2) = sampleName;
+}
+
+bool DataSheetReader::readTexts()
+{
+    // No leftovers of the sheet before: neither what this layout has no lines for, nor what a template leaves
+    // out.
+    for (int sample = 1; sample <= sheet_.SampleCount; ++sample) {
+        for (int item = 1; item <= infoItems; ++item)
+            sheet_.AdditionalInfo(sample, item) = "---";
+        sheet_.SampleNote(sample, 0) = "---";
+        for (int date = 1; date <= 3; ++date)
+            sheet_.SampleStamp(sample, date) = "---";
+    }
+    return readAdditional() && readNotes() && readDates();
+}
+
+bool DataSheetReader::readAdditional()
+{
+    if (sheet_.FileGeneration < 2)
+        return true;
+    for (int item = 1; item <= infoItems; ++item)
+        if (!readHead(sheet_.AdditionalHeader[item]) || !readSamples(infoCell, item))
+            return false;
+    return true;
+}
+
+bool DataSheetReader::readNotes()
+{
+    if (!readHead(sheet_.NoteHeader) || !readSamples(noteCell, 0))
+        return false;
+    if (sheet_.FileGeneration < 3) {
+        NoteMigration migration;
+        for (int sample = 1; sample <= samplesInFile(); ++sample)
+            migration.clean(sheet_.SampleNote(sample, 0), sheet_.SampleStamp(sample, 1),
+                            sheet_.SampleStamp(sample, 3));
+    }
+    return true;
+}
+
+bool DataSheetReader::readDates()
+{
+    if (sheet_.FileGeneration != 3)
+        return true;
+    for (int date = 1; date <= 3; ++date)
+        if (!readHead(sheet_.DateHeader[date]) || !readSamples(stampCell, date))
+            return false;
+    return true;
+}

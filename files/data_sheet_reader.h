@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/fields.h"
+#include "core/sheet_state_type.h"
+
+#include <optional>
+#include <string_view>
+
+/// Reads a data sheet, an older layout of one, or a template, into the tables of a sheet.
+/// docs/data-formats.md tells the lines. The file is a stream of fields: lines mean nothing to the reader,
+/// and position alone gives a field its meaning. The steps are called in this order, each once; a step
+/// returns false at a read failure (the end of the file, a number or place out of range), and what it had
+/// read until then stays in the tables.
+class DataSheetReader {
+public:
+    /// `text` is in the code page and must outlive the reader.
+    DataSheetReader(std::string_view text, SheetState& tables) : fields_(text), sheet_(tables) {}
+
+    /// Reads the path that the file was saved to, and empties the counts.
+    bool readPath();
+    /// The rest of line 1: heads, layout and serial numbers. They tell how many samples there are; 0 is a
+    /// template. SampleCount and CurrentSample follow.
+    bool readSerials();
+    /// Line 2: names of the subtotals and samples.
+    bool readNames();
+    /// One of the 135 taxon lines, 1 to 135. It is kept under its key index.
+    bool readTaxon(int row);
+    /// The first key index that stands in two taxon lines.
+    std::optional<int> repeatedKeyIndex() const;
+    /// Makes a template a sheet with one sample, so that the steps that follow skip sample columns.
+    void beginFromTemplate(std::string_view sampleName);
+    /// Additional info, notes and dates, as far as the layout has them. What it has not is "---".
+    bool readTexts();
+
+private:
+    bool readText(std::string& field);
+    bool readNumber(std::int32_t lowest, std::int32_t highest, std::int32_t& number);
+    bool readHead(std::array<std::string, 5>& head);
+    bool readSamples(std::string& (*cell)(SheetState&, int sample, int row), int row);
+    int samplesInFile() const { return sheet_.TemplateOpened ? 0 : sheet_.SampleCount; }
+    bool readAdditional();
+    bool readNotes();
+    bool readDates();
+
+    FieldReader fields_;
+    SheetState& sheet_;
+};

@@ -1,0 +1,233 @@
+#include "files/open_sheet.h"
+
+#include "core/action_log.h"
+#include "core/highlight.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/recount_totals.h"
+#include "core/reset_sheet.h"
+#include "core/sheet_state.h"
+#include "core/show_sample.h"
+#include "core/snapshot.h"
+#include "core/text_changes.h"
+#include "diagram/sample_names.h"
+#include "files/backup.h"
+#include "files/data_sheet_reader.h"
+#include "files/sheet_name.h"
+#include "files/sheet_on_screen.h"
+#include "platform/code_page.h"
+#include "platform/ports.h"
+#include "sheet/cell_grid.h"
+#include "sheet/file_location.h"
+#include "sheet/name_display.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+
+namespace {
+
+constexpr std::size_t sheetLimit = 256u << 20; // the fullest sheet takes less than a megabyte
+
+/// Steps 1 to 4. True if the sheet in memory may go.
+bool mayGo()
+{
+    if (sheet.SheetPristine)
+        return true;
+    if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
+        ports.sound->play(Cue::SoundError);
+    const bool begun = frmMain.Label4.caption != "1/0";
+    if (sheet.SoundOn && begun)
+        ports.sound->play(Cue::SoundError);
+    if ((begun || sheet.SampleTotal != 0) &&
+        ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
+                           Icon::question) != Answer::yes) {
+        // On purpose: the next opening asks nothing.
+        sheet.SheetPristine = true;
+        sheet.FreshSheet = false;
+        return false;
+    }
+    RestoreSnapshot();
+    for (int i = 0; i <= 100; ++i)
+        sheet.UndoStack[i].slot = 0;
+    return true;
+}
+
+/// Steps 9 to 11.
+void showHeads()
+{
+    const auto& names = sheet.SheetHeader[2];
+    const int last = sheet.SampleCount;
+    frmMain.Text99.text = decimalText(last);
+    setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
+    const std::string& all = frmMain.Label2[0].caption;
+    frmMain.Label2[1].caption = names[2] + ":";
+    frmMain.Label2[2].caption = names[3] + ":";
+    frmMain.mnuPercentAll.caption = "% by " + all.substr(0, all.size() - 1);
+    frmMain.mnuPercentSub1.caption = "% by " + names[2];
+    frmMain.mnuPercentSub2.caption = "% by " + names[3];
+
+    frmMain.Combo2.items.clear();
+    ++frmMain.Combo2.itemsRevision;
+    for (int sample = 1; sample <= last; ++sample)
+        frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
+    if (last > 0)
+        setText1(0, sheet.SampleField(last, 2)); // shows in Combo2 too
+    sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
+    sheet.SampleTotal = 0;
+    for (int total = 0; total < 3; ++total)
+        setText3(total, "0");
+}
+
+/// Step 12: the row's key index shows its name and its count in the last sample.
+void showTaxon(int row)
+{
+    const int keyIndex = sheet.KeyIndexOfRow[row];
+    setText1(keyIndex, sheet.TaxonRecord[keyIndex].Name);
+    setText2(keyIndex, sheet.SampleCount > 0 ? decimalText(sheet.Count(sheet.SampleCount, keyIndex)) : "0");
+}
+
+enum class Reading { complete, failed, refused };
+
+/// Steps 8 to 15.
+Reading readSheet(std::string_view text, const std::string& path)
+{
+    const ShowingSample showing;
+    DataSheetReader reader(text, sheet);
+    const auto name = baseName(path);
+    if (!reader.readPath() || !name)
+        return Reading::failed;
+    showSheetName(*name);
+    if (!reader.readSerials() || !reader.readNames())
+        return Reading::failed;
+    showHeads();
+    for (int row = 1; row <= taxonSlots; ++row) {
+        if (!reader.readTaxon(row))
+            return Reading::failed;
+        showTaxon(row);
+    }
+    if (const auto repeated = reader.repeatedKeyIndex()) {
+        ports.dialogs->ask("Same key index (" + decimalText(*repeated) + ") is being used more than once.",
+                           "Error", Buttons::ok, Icon::exclamation);
+        return Reading::refused;
+    }
+    if (sheet.SampleCount == 0) {
+        reader.beginFromTemplate(frmMain.Text1[0].text);
+        setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+    }
+    RecountTotals(sheet.CurrentSample);
+    return reader.readTexts() ? Reading::complete : Reading::failed;
+}
+
+/// What can be taken back and the row counted last belong to the sheet before.
+void forgetCounts()
+{
+    sheet.UndoStack.fill({1, 0});
+    frmMain.mnuUndo.enabled = false;
+    highlight(0, plainRow);
+    sheet.HighlightRow = 0;
+}
+
+/// A file that ended early. What was read stays; boxes and tables must still agree, or the next key would
+/// store counts of the sheet before.
+void endEarly()
+{
+    sheet.TemplateOpened = false;
+    if (sheet.SampleCount == 0) { // a column to count in
+        sheet.SampleCount = sheet.CurrentSample = 1;
+        sheet.SampleField(1, 1) = "1";
+    }
+    forgetCounts();
+    showSample(sheet.CurrentSample);
+}
+
+void showTexts()
+{
+    const int last = sheet.CurrentSample;
+    const auto orDashes = [](const std::string& text) { return text.empty() ? "---" : text; };
+    for (int date = 0; date < 3; ++date)
+        frmMain.Label14[date].caption = orDashes(sheet.SampleStamp(last, date + 1));
+    frmMain.Text4.text = sheet.SampleNote(last, 0);
+    for (int item = 1; item <= infoItems; ++item) {
+        std::string label = "Additional info-" + decimalText(item) + ":";
+        if (sheet.FileGeneration >= 2) {
+            label = sheet.AdditionalHeader[item][4];
+            if (label.empty() || label.back() != ':')
+                label += ':';
+        }
+        frmMain.Label10[item].caption = sheet.AdditionalInfo(0, item) = label;
+        frmMain.Text5[item].text = orDashes(sheet.AdditionalInfo(last, item));
+    }
+}
+
+/// Steps 16 to 29, after the file has been closed.
+void settle()
+{
+    ArrangeTaxonCells();
+    forgetCounts();
+    {
+        const ShowingSample showing;
+        RecountTotals(sheet.CurrentSample);
+        showTexts();
+    }
+    TakeSnapshot();
+    logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
+    frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
+    WrapFileLocation();
+    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
+    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    for (int basis = 0; basis < 3; ++basis)
+        frmMain.Option1[basis].selected = basis == 0;
+    for (int slot = 1; slot <= taxonSlots; ++slot)
+        frmMain.Text1[slot].underline = false;
+    sheet.WarnNotLatest = true; // another sample came on show
+    AutoBackup();
+    ApplyItalics();
+
+    constexpr int designWidth = 7545;
+    sheet.DiagramHeight = 0;
+    sheet.DiagramWidth = 0;
+    if (sheet.SampleCount > 50)
+        sheet.DiagramWidth = designWidth + (ports.screenWidth - designWidth) * (sheet.SampleCount - 50) / 200;
+    TestSampleNames();
+    frmMain.enabled = true;
+}
+
+void open(const std::function<std::optional<std::string>()>& choose)
+{
+    if (!mayGo())
+        return;
+    sheet.FreshSheet = true;
+    sheet.TemplateOpened = false;
+    if (const auto path = choose())
+        if (const auto bytes = ports.files->read(*path, sheetLimit)) {
+            beginProgress();
+            sheet.SheetPath = *path;
+            const Reading reading = readSheet(fileTextInCodePage(*bytes), *path);
+            if (reading == Reading::complete) {
+                settle();
+            } else if (reading == Reading::refused) {
+                resetSheet();
+                sheet.SheetPristine = true;
+                sheet.FreshSheet = false;
+            } else {
+                endEarly();
+            }
+        }
+    endProgress();
+    ApplyItalics();
+    TestSampleNames();
+}
+
+} // namespace
+
+void mnuOpen_Click()
+{
+    open([] { return ports.dialogs->chooseFileToOpen(); });
+}
+
+void openDropped(const std::string& path)
+{
+    if (frmMain.enabled && frmMain.mnuOpen.enabled)
+        open([&path] { return std::optional(path); });
+}

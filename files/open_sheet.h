@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+/// Replaces the sheet in memory by a file that the user chooses: a data sheet, an older layout of one, or a
+/// template. Asks first if there is something to lose. A cancelled dialog and every failure to read end
+/// without a message; what was read until then stays, and the sheet has the file's name already.
+void mnuOpen_Click();
+/// The same for a file that was dropped onto the window, questions included. `path`: UTF-8.
+void openDropped(const std::string& path);

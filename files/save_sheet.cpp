@@ -1,0 +1,134 @@
+#include "files/save_sheet.h"
+
+#include "core/action_log.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "core/snapshot.h"
+#include "files/sheet_name.h"
+#include "files/sheet_on_screen.h"
+#include "files/sheet_text.h"
+#include "platform/code_page.h"
+#include "platform/ports.h"
+#include "sheet/file_location.h"
+
+namespace {
+
+enum Mode { plain = 0, copy = 55, saveAs = 77, untouched = 99 };
+
+/// Path A: the dialog was cancelled.
+void endCancelled()
+{
+    sheet.SaveResult = 2;
+    endProgress();
+}
+
+/// Path B: anything else that went wrong. One message stands for all.
+void endFailed()
+{
+    sheet.SaveResult = 2;
+    ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
+                       "Error", Buttons::ok, Icon::exclamation);
+    endProgress();
+}
+
+/// Writes the sheet; what the writing has changed in it goes back if it fails.
+bool write(int mode, const std::string& path, const std::vector<SampleTotals>& totals)
+{
+    const Moment now = ports.clock->now();
+    const auto headBefore = sheet.SheetHeader[1];
+    std::string& modified = sheet.SampleStamp(sheet.CurrentSample, 3);
+    const std::string modifiedBefore = modified;
+
+    stampHead("Last modified (dd/mm/yyyy):", mode == copy ? sheet.SheetPath : path, now);
+    if (mode == plain && !sheet.FreshSheet)
+        modified = dateStamp(now);
+    fillEmptyCells(sheet, shownCaptions());
+    if (!ports.files->write(path, dataSheetText(sheet, totals))) {
+        sheet.SheetHeader[1] = headBefore;
+        modified = modifiedBefore;
+        return false;
+    }
+    if (mode == plain && !sheet.FreshSheet)
+        frmMain.Label14[2].caption = modified;
+    return true;
+}
+
+void takeName(const std::string& path, const std::string& name)
+{
+    sheet.SheetPath = path;
+    sheet.SheetUnnamed = false;
+    showSheetName(name);
+    frmMain.Text6.text = toCodePageFromUtf8(path);
+    WrapFileLocation();
+}
+
+} // namespace
+
+void SaveSheet(int mode)
+{
+    if (!sheet.KeysActive) // the boxes show percentages, which must not become counts
+        return;
+    beginProgress();
+    storeShownSample();
+    // Before any dialog and any file: totals that no file can hold.
+    const auto totals = sampleTotals(sheet);
+    if (!totals) {
+        endFailed();
+        return;
+    }
+    if (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != copy))
+        mode = saveAs;
+
+    std::string path = sheet.SheetPath;
+    if (mode == saveAs || mode == copy) {
+        const auto chosen = ports.dialogs->chooseFileToSave(
+            mode == saveAs ? sheet.SheetPath : proposedCopyName(sheet.SheetPath, ports.clock->now().date));
+        if (!chosen) {
+            endCancelled();
+            return;
+        }
+        path = *chosen;
+    }
+    const auto name = baseName(path);
+    if (mode == saveAs &&
+        !name) { // a name without a point: the file is there, empty, and the sheet stays unnamed
+        ports.files->create(path);
+        endFailed();
+        return;
+    }
+    if (!write(mode, path, *totals)) {
+        endFailed();
+        return;
+    }
+
+    if (mode == saveAs)
+        takeName(path, *name);
+    if (mode != copy) {
+        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+        sheet.TemplateOpened = false;
+        TakeSnapshot(); // what a reset goes back to is what is on disk
+    }
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundSave);
+    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
+    logAction(mode == saveAs ? "(Save as)" : mode == copy ? "(Save copy)" : "(Save)");
+    frmMain.mnuSaveCopy.enabled = true;
+    if (mode == plain && !sheet.Modifying)
+        frmMain.focus = MainFocus::Text99;
+    endProgress();
+}
+
+void mnuSave_Click()
+{
+    SaveSheet(sheet.SheetPristine ? untouched : plain);
+}
+
+void mnuSaveAs_Click()
+{
+    SaveSheet(saveAs);
+}
+
+void mnuSaveCopy_Click()
+{
+    SaveSheet(copy);
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+/// The name of a sheet within its path: what stands between the last point (its last character aside) and the
+/// folder separator before it, "\" or "/". Nothing for a path without a point.
+std::optional<std::string> baseName(const std::string& path);
+
+/// Name proposed for a copy: "C:\Cores\Lake1.csv" on 15/11/2026 gives "C:\Cores\Lake1_(15.11.2026).csv".
+/// `date`: the short date; day, month and year are taken by their places in dd/mm/yyyy.
+std::string proposedCopyName(const std::string& path, const std::string& date);
