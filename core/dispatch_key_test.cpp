@@ -18,80 +18,51 @@ protected:
         hooks.AutoBackup = [] { ++backups; };
         hooks.RefreshDiagram = [] { ++refreshes; };
     }
-    /// As if `individuals` of slot 1 had been counted.
-    static void haveCounted(int individuals)
-    {
-        frmMain.Text2[1].text = frmMain.Text3[0].text = decimalText(individuals);
-        sheet.Count(1, 1) = individuals;
-    }
-    Cue lastCue() const { return sound.played.at(sound.played.size() - 1); }
     static int all() { return wholeNumber(frmMain.Text3[0].text); }
+    static bool noShiftIsHeld()
+    {
+        return sheet.Layer == 0 && frmMain.SSTab1 == 0 && !sheet.Shift1Down && !sheet.Shift2Down;
+    }
 };
-using Layers = Keyboard;
-using RepeatGuard = Keyboard;
-using Acceptance = Keyboard;
-using Alarm = Keyboard;
-using StaleSample = Keyboard;
-using LostFocus = Keyboard;
 
 } // namespace
 
-TEST_F(Layers, bothShiftsReachTheThirdPageInEitherOrder)
+TEST_F(Keyboard, eachLayerHasItsCueAndBothShiftsTogetherTheThird)
 {
-    // 1 and 2: that shift key goes down; a and b: it comes up.
-    const std::pair<int, std::vector<std::string>> cases[] = {
-        {0, {"", "a", "12ba", "12ab", "1a"}},
-        {1, {"1", "2", "111", "222", "12a", "12b", "12a22"}},
-        {2, {"12", "21", "1222", "2111", "12a1", "12b2"}}};
-    for (const auto& [layer, sequences] : cases)
-        for (const std::string& events : sequences) {
-            sheet = SheetState();
-            sheet.SoundOn = true;
-            frmMain = MainScreen();
-            for (const char event : events)
-                event < 'a' ? down(shift1 + event - '1') : up(shift1 + event - 'a');
-            EXPECT_EQ(layer, frmMain.SSTab1) << events;
-            tap('Q');
-            EXPECT_EQ(1, shown(1 + 45 * layer)) << events;
-            EXPECT_EQ(static_cast<Cue>(layer), lastCue()) << events;
-        }
+    down(shift2);
+    tapWith(shift1, 'Q');
+    up(shift2);
+    tapWith(shift1, 'Q');
+    tap('Q');
+    EXPECT_TRUE(shown(91) == 1 && shown(46) == 1 && shown(1) == 1);
+    EXPECT_EQ((std::vector{Cue::SoundKey3, Cue::SoundKey2, Cue::SoundKey1}), sound.played);
 }
 
-TEST_F(RepeatGuard, dropsTheSameKeyAndIsProlongedOnlyByKeysThatAreTaken)
+TEST_F(Keyboard, guardHoldsOffTheSameKeyFor70MillisecondsOfItsOwn)
 {
-    for (const int key : {int{'Q'}, int{'Q'}, shift1})
+    for (const int key : {int{'Q'}, int{'Q'}, shift1, int{'W'}})
         down(key);
-    EXPECT_EQ(1, all());
-    EXPECT_EQ(70, timer.milliseconds);
-    EXPECT_EQ(1, timer.starts);
-    down('W');
-    EXPECT_EQ(2, timer.starts); // a full time of its own
-    down('Q');
-    EXPECT_EQ(3, all());
+    EXPECT_EQ(2, all());
+    EXPECT_TRUE(timer.milliseconds == 70 && timer.starts == 2);
     runOutTimer();
-    EXPECT_EQ(0, timer.milliseconds);
-    down('Q'); // a held key counts again and again
-    EXPECT_EQ(4, all());
+    down('W'); // a held key counts again and again
+    EXPECT_EQ(3, all());
 }
 
-TEST_F(Acceptance, keysThatMayNotCountChangeNothing)
+TEST_F(Keyboard, keysThatMayNotCountChangeNothing)
 {
     tap('P');
     sheet.KeysActive = false;
     tap('Q');
     sheet.KeysActive = sheet.Modifying = true;
-    down(shift1);
-    tap('Q');
-    tap(undoKey);
-    EXPECT_EQ(0, all());
-    EXPECT_TRUE(sheet.FreshSheet && sheet.SheetPristine);
+    for (const int key : {shift1, int{'Q'}, undoKey})
+        tap(key);
+    EXPECT_EQ(0, all() + sheet.ActionCount + frmMain.SSTab1);
+    EXPECT_TRUE(sheet.FreshSheet && sheet.SheetPristine && sound.played.empty());
     EXPECT_FALSE(frmMain.Command5[0].enabled);
-    EXPECT_EQ(0, frmMain.SSTab1);
-    EXPECT_TRUE(sound.played.empty());
-    EXPECT_EQ(0, sheet.ActionCount);
 }
 
-TEST_F(Acceptance, firstKeysOpenTheEntriesTheyNeed)
+TEST_F(Keyboard, firstKeysOpenTheEntriesTheyNeed)
 {
     frmMain.mnuNext.enabled = true;
     frmMain.enabled = false; // as a dialog may have left it
@@ -99,56 +70,46 @@ TEST_F(Acceptance, firstKeysOpenTheEntriesTheyNeed)
     EXPECT_TRUE(sheet.SheetPristine && !sheet.FreshSheet);
     EXPECT_TRUE(!frmMain.mnuNext.enabled && frmMain.enabled);
     tap(shift1);
-    EXPECT_FALSE(sheet.SheetPristine);
-    EXPECT_TRUE(frmMain.mnuNew.enabled && frmMain.mnuUndo.enabled);
-    EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.Command2[0].enabled ||
-                 frmMain.mnuSaveHistory.enabled);
+    EXPECT_TRUE(!sheet.SheetPristine && frmMain.mnuNew.enabled && frmMain.mnuUndo.enabled);
+    EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.Command2[0].enabled);
     tap('Q');
     EXPECT_TRUE(frmMain.Command5[0].enabled && frmMain.mnuSave.enabled && frmMain.mnuSaveHistory.enabled);
     EXPECT_TRUE(frmMain.Command2[0].enabled && frmMain.mnuReset.enabled);
 }
 
-TEST_F(Acceptance, saveKeySavesAndCountsIfItIsACounterKeyToo)
+TEST_F(Keyboard, saveKeySavesAndCountsIfItIsACounterKeyToo)
 {
     sheet.KeySetting[rowSave].Code = decimalText('P');
+    sheet.DiagramOpen = true; // follows every key that is taken but the shift keys
     tap('P');
     EXPECT_EQ(99, savedMode);
     EXPECT_TRUE(sheet.FreshSheet);
     sheet.KeySetting[rowSave].Code = decimalText('Q');
-    tap('Q', 2);
+    for (const int key : {int{'Q'}, int{'Q'}, shift1, undoKey})
+        tap(key);
     EXPECT_EQ(0, savedMode);
-    EXPECT_EQ(2, all());
+    EXPECT_EQ(1, all());
+    EXPECT_EQ(3, refreshes);
 }
 
-TEST_F(Acceptance, diagramFollowsEveryKeyThatIsTakenButTheShiftKeys)
+TEST_F(Keyboard, alarmRingsAndBacksUpOnceOnTheWayUp)
 {
-    sheet.DiagramOpen = true;
-    tap(shift1);
-    tap('P');
-    EXPECT_EQ(0, refreshes);
-    tap('Q');
-    down(undoKey);
-    EXPECT_EQ(2, refreshes);
-}
-
-TEST_F(Alarm, ringsAndBacksUpOnceOnTheWayUp)
-{
-    haveCounted(98);
+    frmMain.Text2[1].text = "98";
     tap('Q', 3);
     EXPECT_EQ((std::vector{Cue::SoundKey1, Cue::SoundAlarm, Cue::SoundKey1}), sound.played);
-    tapWith(undoKey, 'Q'); // 100 again, not armed
-    EXPECT_EQ(Cue::SoundUndo, lastCue());
-    tap('Q');
-    tapWith(undoKey, 'Q'); // armed by the reverse count before
-    EXPECT_EQ(Cue::SoundAlarm, lastCue());
-    tapWith(undoKey, 'Q'); // 99
-    EXPECT_EQ(Cue::SoundUndo, lastCue());
-    tap('Q');
-    EXPECT_EQ(Cue::SoundAlarm, lastCue());
+    // Down to 100 it is not armed, but the reverse count arms it; so does 99.
+    for (const auto& [reverse, cue] : {std::pair{true, Cue::SoundUndo},
+                                       {false, Cue::SoundKey1},
+                                       {true, Cue::SoundAlarm},
+                                       {true, Cue::SoundUndo},
+                                       {false, Cue::SoundAlarm}}) {
+        reverse ? tapWith(undoKey, 'Q') : tap('Q');
+        EXPECT_EQ(cue, sound.played.back()) << all();
+    }
     EXPECT_EQ(3, backups);
 }
 
-TEST_F(Alarm, watchesTheChosenTotalUnlessItIsZero)
+TEST_F(Keyboard, alarmWatchesTheChosenTotalUnlessItIsZeroAndNeedsTheSound)
 {
     frmMain.Option1[0].selected = false;
     frmMain.Option1[1].selected = true;
@@ -157,22 +118,16 @@ TEST_F(Alarm, watchesTheChosenTotalUnlessItIsZero)
     tap('Q', 99);
     EXPECT_EQ(0, backups);
     tap('Q');
-    EXPECT_EQ(1, backups);
     tap('W'); // the subtotal still stands at 100
     EXPECT_EQ(1, backups);
-}
-
-TEST_F(Alarm, needsTheSound)
-{
+    tap('Q', 99);
+    sound.played.clear();
     sheet.SoundOn = false;
-    haveCounted(99);
     tap('Q');
-    EXPECT_EQ(0, backups);
-    EXPECT_TRUE(sound.played.empty() && sheet.AlarmArmed);
-    EXPECT_FALSE(sheet.WarnNotLatest);
+    EXPECT_TRUE(backups == 1 && sound.played.empty() && sheet.AlarmArmed && !sheet.WarnNotLatest);
 }
 
-TEST_F(StaleSample, asksUntilAnsweredYes)
+TEST_F(Keyboard, asksBeforeItCountsInAnOlderSampleUntilAnsweredYes)
 {
     addSamples(2);
     tap(undoKey);
@@ -180,10 +135,9 @@ TEST_F(StaleSample, asksUntilAnsweredYes)
     down(shift2); // none of the three counts
     expectStaleQuestion(Answer::no);
     tap('Q');
-    EXPECT_EQ(0, all());
-    EXPECT_EQ(0, sheet.UndoStack[0].slot);
+    EXPECT_EQ(0, all() + sheet.UndoStack[0].slot);
     EXPECT_EQ(std::vector{Cue::SoundError}, sound.played);
-    EXPECT_EQ(0, sheet.Layer + frmMain.SSTab1); // the key-ups went to the message
+    EXPECT_TRUE(noShiftIsHeld()); // the key-ups went to the message
 
     sheet.SoundOn = false;
     dialogs.whenOpened = [] {}; // even if the window never hears of it
@@ -193,32 +147,21 @@ TEST_F(StaleSample, asksUntilAnsweredYes)
     tap('Q');
     EXPECT_EQ(1, shown(91)); // on the layer that it was pressed on
     EXPECT_EQ(1, sound.beeps);
-    EXPECT_EQ(0, sheet.Layer + frmMain.SSTab1);
-    EXPECT_FALSE(sheet.Shift1Down || sheet.Shift2Down);
+    EXPECT_TRUE(noShiftIsHeld());
     tap('W');
     EXPECT_EQ(1, shown(2));
 }
 
-TEST_F(LostFocus, forgetsHeldKeysAndTakesNothingBack)
-{
-    tap('Q');
-    for (const int key : {shift1, shift2, undoKey})
-        down(key);
-    Form_Deactivate();
-    EXPECT_EQ(0, sheet.Layer + frmMain.SSTab1);
-    EXPECT_FALSE(sheet.Shift1Down || sheet.Shift2Down);
-    for (const int key : {undoKey, shift2, shift1})
-        up(key);
-    EXPECT_EQ(1, shown(1));
-    EXPECT_EQ(0, sheet.Layer);
-}
-
-TEST_F(LostFocus, letsTheKeyThatOpenedAWindowCountOnItsLayer)
+TEST_F(Keyboard, forgetsHeldKeysWithTheFocusButNotBeforeTheKeyInWorkHasCounted)
 {
     sheet.KeySetting[rowSave].Code = decimalText('Q');
     hooks.SaveSheet = [](int) { Form_Deactivate(); };
     down(shift1);
     down('Q');
     EXPECT_EQ(1, shown(46));
-    EXPECT_EQ(0, sheet.Layer);
+    EXPECT_TRUE(noShiftIsHeld());
+    down(undoKey);
+    Form_Deactivate();
+    up(undoKey); // takes nothing back
+    EXPECT_EQ(1, stored(46));
 }

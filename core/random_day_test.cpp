@@ -24,7 +24,7 @@ protected:
     bool undoUsed = false; ///< a counter key went down since the Undo key did
     int guarded = 0;       ///< key that is not taken again yet
     int current = 1;
-    bool asks = true;
+    bool asks = true; ///< again after every change of sample, an Undo on another one too
     int pale = 0;
     Colour paleColour = plainRow;
     int justCounted = 0; ///< stays bold until the next sum, even at 0
@@ -65,6 +65,7 @@ protected:
         if (held.count(undoKey) != 0 && !undoUsed) {
             justCounted = 0;
             if (!standing.empty()) {
+                asks = asks || current != standing.back().sample;
                 current = standing.back().sample;
                 pale = standing.back().slot;
                 paleColour = takenBackRow;
@@ -163,10 +164,10 @@ TEST_F(RandomDay, leavesEveryCountWhereAFullRecomputationPutsIt)
             press(undoKey, 0, false);
         } else if (event < 92) {
             letGo(undoKey);
-        } else if (event < 97) {
+        } else if (event < 95) {
             runOutTimer();
             guarded = 0;
-        } else if (event < 98) {
+        } else if (event < 96) {
             Form_Deactivate();
             held.clear();
         } else {

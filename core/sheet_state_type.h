@@ -137,8 +137,8 @@ struct SheetState {
     bool SoundOn = false;          ///< all eight cues could be read
     bool DiagramOpen = false;
     bool NamesNotNumeric = false; ///< at least one sample name is no plain number: no depth order
-    int SaveResult = 0; ///< 1: closing began, 2: the save did not complete
-    int DiagramWidth = 0;  ///< size of the diagram window to open with, twips; 0: its default
+    int SaveResult = 0;           ///< 1: closing began, 2: the save did not complete
+    int DiagramWidth = 0;         ///< size of the diagram window to open with, twips; 0: its default
     int DiagramHeight = 0;
     int BackupSlot = 99; ///< 99: the master copy is still to come
     Colour DiagramColour = RGB(0, 128, 0);

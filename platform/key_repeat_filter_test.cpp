@@ -2,137 +2,71 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <string>
 #include <vector>
-
-namespace keycodes {
-
-void PrintTo(const KeyEvent& event, std::ostream* out)
-{
-    *out << (event.isDown ? "down " : "up ") << event.code;
-}
-
-} // namespace keycodes
 
 namespace {
 
-using keycodes::KeyEvent;
-using keycodes::KeyRepeatFilter;
-using Log = std::vector<KeyEvent>;
+constexpr std::uint32_t keyA = 38, keyS = 39, keypadOne = 87, leftShift = 50, rightShift = 62;
+constexpr bool down = true, up = false, marked = true;
 
-constexpr std::uint32_t keyA = 38, keypadOne = 87;
-
-KeyEvent downOf(int code)
-{
-    return {code, true};
-}
-
-KeyEvent upOf(int code)
-{
-    return {code, false};
-}
-
-/// Feeds a filter and writes down all that comes out.
-class KeyRepeatFilterTest : public testing::Test {
-protected:
-    void down(std::uint32_t key, int code, std::uint64_t time, bool marked = false)
-    {
-        take(filter.down({key, code, time, marked}));
-    }
-    void up(std::uint32_t key, int code, std::uint64_t time, bool marked = false)
-    {
-        take(filter.up({key, code, time, marked}));
-    }
-    void flush() { take(filter.flush()); }
-
-    KeyRepeatFilter filter;
-    Log log;
-
-private:
-    void take(const KeyRepeatFilter::Events& events) { log.insert(log.end(), events.begin(), events.end()); }
+struct Step {
+    bool isDown;
+    std::uint32_t key;
+    int code;
+    std::uint64_t time;
+    bool repeat = false;
 };
 
-TEST_F(KeyRepeatFilterTest, AReleaseComesOutOnFlushAndOnlyOnce)
+/// All that a filter lets out, and behind the stroke what it held back. +65: the key of code 65 went down.
+std::string filtered(const std::vector<Step>& steps)
 {
-    down(keyA, 65, 100);
-    up(keyA, 65, 180);
-    EXPECT_TRUE(filter.hasPending());
-    EXPECT_EQ(log, Log{downOf(65)});
-    flush();
-    flush();
+    keycodes::KeyRepeatFilter filter;
+    std::string log;
+    const auto take = [&log](const keycodes::KeyRepeatFilter::Events& events) {
+        for (const keycodes::KeyEvent& event : events)
+            log += (event.isDown ? "+" : "-") + std::to_string(event.code);
+    };
+    for (const auto& [isDown, key, code, time, repeat] : steps)
+        take(isDown ? filter.down({key, code, time, repeat}) : filter.up({key, code, time, repeat}));
+    log += filter.hasPending() ? "|" : "";
+    take(filter.flush());
     EXPECT_FALSE(filter.hasPending());
-    EXPECT_EQ(log, (Log{downOf(65), upOf(65)}));
+    return log;
 }
 
-TEST_F(KeyRepeatFilterTest, RepeatsMarkedAndUnmarkedAreDownsWithoutUps)
+TEST(KeyRepeats, AreDownsWithoutUpsAndAllElseIsNot)
 {
-    down(keyA, 65, 100);
-    up(keyA, 65, 600, true);
-    down(keyA, 65, 600, true);
-    up(keyA, 65, 640);
-    down(keyA, 65, 640);
-    up(keyA, 65, 700);
-    flush();
-    EXPECT_EQ(log, (Log{downOf(65), downOf(65), downOf(65), upOf(65)}));
+    const std::vector<Step> markedAndNot = {{down, keyA, 65, 100},         {up, keyA, 65, 600, marked},
+                                            {down, keyA, 65, 600, marked}, {up, keyA, 65, 640},
+                                            {down, keyA, 65, 640},         {up, keyA, 65, 700}};
+    EXPECT_EQ(filtered(markedAndNot), "+65+65+65|-65");
+    const std::vector<Step> quick = {{down, keyA, 65, 100}, {up, keyA, 65, 130}, {down, keyA, 65, 131}};
+    EXPECT_EQ(filtered(quick), "+65-65+65");
+    const std::vector<Step> withoutTime = {{down, keyA, 65, 0}, {up, keyA, 65, 0}, {down, keyA, 65, 0}};
+    EXPECT_EQ(filtered(withoutTime), "+65-65+65");
+    const std::vector<Step> anotherKey = {{down, keyA, 65, 100}, {up, keyA, 65, 150}, {down, keyS, 83, 150}};
+    EXPECT_EQ(filtered(anotherKey), "+65-65+83");
+    const std::vector<Step> bothShifts = {{down, leftShift, 16, 100},
+                                          {down, rightShift, 16, 110},
+                                          {up, leftShift, 16, 200},
+                                          {down, rightShift, 16, 200}};
+    EXPECT_EQ(filtered(bothShifts), "+16+16-16+16");
 }
 
-TEST_F(KeyRepeatFilterTest, QuickPressesOfOneKeyStaySeparate)
+TEST(KeyRepeats, KeepTheCodeOfThePressUntilARelease)
 {
-    down(keyA, 65, 100);
-    up(keyA, 65, 130);
-    down(keyA, 65, 131);
-    EXPECT_EQ(log, (Log{downOf(65), upOf(65), downOf(65)}));
-}
-
-TEST_F(KeyRepeatFilterTest, EventsWithoutTimeAreNeverARepeat)
-{
-    down(keyA, 65, 0);
-    up(keyA, 65, 0);
-    down(keyA, 65, 0);
-    EXPECT_EQ(log, (Log{downOf(65), upOf(65), downOf(65)}));
-}
-
-TEST_F(KeyRepeatFilterTest, AnotherKeyLetsTheReleaseOutFirst)
-{
-    down(keyA, 65, 100);
-    up(keyA, 65, 150);
-    down(39, 83, 150);
-    up(39, 83, 170);
-    up(40, 68, 170, true);
-    EXPECT_EQ(log, (Log{downOf(65), upOf(65), downOf(83), upOf(83)}));
-}
-
-TEST_F(KeyRepeatFilterTest, AKeyKeepsTheCodeOfItsPressUntilItIsReleased)
-{
-    down(keypadOne, 97, 100);
-    up(keypadOne, 35, 500);
-    down(keypadOne, 35, 500);
-    down(keypadOne, 35, 540, true);
-    up(keypadOne, 35, 600);
-    flush();
-    down(keypadOne, 35, 700);
-    EXPECT_EQ(log, (Log{downOf(97), downOf(97), downOf(97), upOf(97), downOf(35)}));
-}
-
-TEST_F(KeyRepeatFilterTest, KeysWithOneCodeAreFollowedEachForItself)
-{
-    down(50, 16, 100);
-    down(62, 16, 110);
-    up(50, 16, 200);
-    down(62, 16, 200);
-    EXPECT_EQ(log, (Log{downOf(16), downOf(16), upOf(16), downOf(16)}));
-}
-
-TEST_F(KeyRepeatFilterTest, AReleaseWhosePressWasNotSeenIsDropped)
-{
-    up(keyA, 65, 100);
-    flush();
-    down(keypadOne, 97, 200);
+    const std::vector<Step> numLockChanged = {{down, keypadOne, 97, 100}, {up, keypadOne, 35, 500},
+                                              {down, keypadOne, 35, 500}, {down, keypadOne, 35, 540, marked},
+                                              {up, keypadOne, 35, 600},   {down, keypadOne, 35, 700}};
+    EXPECT_EQ(filtered(numLockChanged), "+97+97+97-97+35");
+    const std::vector<Step> pressNotSeen = {{up, keyA, 65, 100}, {up, 5000, 70, 500}};
+    EXPECT_EQ(filtered(pressNotSeen), "");
+    keycodes::KeyRepeatFilter filter;
+    filter.down({keypadOne, 97, 200, false});
     filter.forget();
-    up(keypadOne, 97, 300);
-    up(5000, 70, 500);
-    flush();
-    EXPECT_EQ(log, (Log{downOf(97)}));
+    filter.up({keypadOne, 97, 300, false});
+    EXPECT_FALSE(filter.hasPending());
 }
 
 } // namespace

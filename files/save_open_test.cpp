@@ -1,0 +1,342 @@
+#include "core/fields.h"
+#include "core/program_test.h"
+#include "core/snapshot.h"
+#include "files/backup.h"
+#include "files/open_sheet.h"
+#include "files/save_sheet.h"
+#include "files/sheet_name.h"
+#include "files/template_file.h"
+
+#include <algorithm>
+
+namespace {
+
+const std::string busy = "The file is being used by another software. Please close the file and try again.";
+const std::string folder = "/program/References/Back up files/";
+
+class SheetFiles : public ProgramTest {
+protected:
+    SheetFiles()
+    {
+        hooks.SaveSheet = SaveSheet;
+        hooks.AutoBackup = AutoBackup;
+        sheet.BackupSlot = -1;
+    }
+    void saveAs(const std::string& path)
+    {
+        dialogs.paths.push_back(path);
+        mnuSaveAs_Click();
+    }
+    void open(const std::string& path)
+    {
+        dialogs.paths.push_back(path);
+        mnuOpen_Click();
+    }
+    /// A sheet of two samples on disk, the second on show.
+    void makeSheet()
+    {
+        addSamples(2);
+        sheet.CurrentSample = 2;
+        frmMain.Combo2.text = frmMain.Text1[0].text = "20";
+        tap('Q', 3);
+        saveAs("/home/Lake1.csv");
+    }
+    static std::string lastAction() { return frmMain.Combo1.text; }
+    std::string field(const std::string& path, int line, std::size_t number)
+    {
+        FieldReader fields(files.contents.at(path));
+        std::string found;
+        for (int at = 1; at <= line; ++at) {
+            for (std::size_t i = 1;; ++i) {
+                found = fields.next().value();
+                if (at == line && i == number)
+                    return found;
+                if (fields.atLineEnd())
+                    break;
+            }
+        }
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(SheetFiles, theFirstSaveAsksForANameAndTheNextOnesKeepIt)
+{
+    tap('Q');
+    dialogs.paths.push_back(std::nullopt);
+    mnuSave_Click();
+    EXPECT_TRUE(frmMain.Command5[0].enabled && sheet.SheetPath.empty() && sheet.SheetUnnamed);
+    EXPECT_EQ(sheet.SaveResult, 2);
+    EXPECT_TRUE(files.contents.empty());
+
+    dialogs.paths.push_back("/home/cores/Lake1.csv");
+    mnuSave_Click();
+    EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [Lake1]");
+    EXPECT_EQ(frmMain.Text6.text, "/home/cores/Lake1.csv");
+    EXPECT_EQ(lastAction(), "(Save as)");
+    EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.mnuSave.enabled || sheet.SheetUnnamed);
+    EXPECT_TRUE(frmMain.Command5[1].enabled && frmMain.mnuNext.enabled);
+    EXPECT_EQ(sound.played.back(), Cue::SoundSave);
+    EXPECT_EQ(field("/home/cores/Lake1.csv", 1, 3), "15/11/2026_(14:05:09)");
+    EXPECT_EQ(field("/home/cores/Lake1.csv", 147, 5), "---") << "save as stamps nothing";
+
+    tap('W');
+    mnuSave_Click();
+    EXPECT_EQ(lastAction(), "(Save)");
+    EXPECT_EQ(field("/home/cores/Lake1.csv", 4, 5), "1");
+    EXPECT_EQ(field("/home/cores/Lake1.csv", 147, 5), "15/11/2026 (14:05:09)");
+    EXPECT_EQ(frmMain.Label14[2].caption, "15/11/2026 (14:05:09)");
+    EXPECT_FALSE(frmMain.pointer == Pointer::hourglass || frmMain.ProgressBar1.visible);
+}
+
+TEST_F(SheetFiles, aCopyLeavesTheSheetItsNameAndItsUnsavedWork)
+{
+    makeSheet();
+    tap('W');
+    dialogs.paths.push_back("/home/copy.csv");
+    mnuSaveCopy_Click();
+    EXPECT_EQ(dialogs.proposed, "/home/Lake1_(15.11.2026).csv");
+    EXPECT_EQ(field("/home/copy.csv", 1, 1), "/home/Lake1.csv");
+    EXPECT_EQ(field("/home/copy.csv", 4, 6), "1");
+    EXPECT_EQ(lastAction(), "(Save copy)");
+    EXPECT_TRUE(frmMain.Command5[0].enabled && frmMain.mnuSave.enabled);
+    EXPECT_EQ(sheet.SheetPath, "/home/Lake1.csv");
+    RestoreSnapshot();
+    EXPECT_EQ(shown(2), 0) << "a reset goes back to the sheet's own file";
+    EXPECT_EQ(shown(1), 3);
+}
+
+TEST_F(SheetFiles, everyFailedWriteIsToldAndCostsNothing)
+{
+    makeSheet();
+    tap('W');
+    const std::string before = files.contents.at("/home/Lake1.csv");
+    const std::function<void()> faults[] = {
+        [this] {
+            files.unwritable.insert({"/home/Lake1.csv", "/home/other.csv"});
+        },
+        [this] { files.room = 10; },
+        [] { sheet.Count(1, 5) = 40000; },
+    };
+    const std::function<void()> saves[] = {
+        [] { mnuSave_Click(); },
+        [this] { saveAs("/home/other.csv"); },
+        [this] {
+            dialogs.paths.push_back("/home/other.csv");
+            mnuSaveCopy_Click();
+        },
+    };
+    for (const auto& fault : faults) {
+        fault();
+        for (const auto& save : saves) {
+            sheet.SaveResult = 1;
+            dialogs.expect(busy, "Error");
+            save();
+            dialogs.paths.clear(); // totals are looked at before any dialog
+            EXPECT_EQ(sheet.SaveResult, 2);
+            EXPECT_EQ(files.contents.at("/home/Lake1.csv"), before);
+            EXPECT_EQ(files.contents.count("/home/other.csv"), 0U);
+            EXPECT_TRUE(frmMain.Command5[0].enabled && frmMain.mnuSave.enabled);
+            EXPECT_EQ(sheet.SheetPath + frmMain.caption, "/home/Lake1.csvTallyStrata 3.2.5 - [Lake1]");
+            EXPECT_EQ(shown(2), 1);
+            EXPECT_FALSE(frmMain.pointer == Pointer::hourglass || frmMain.ProgressBar1.visible);
+        }
+        files.unwritable.clear();
+        files.room = SIZE_MAX;
+    }
+    sheet.Count(1, 5) = 0;
+    files.closeFails = true;
+    dialogs.expect(busy, "Error");
+    mnuSave_Click();
+    EXPECT_TRUE(frmMain.Command5[0].enabled);
+    RestoreSnapshot();
+    EXPECT_EQ(shown(2), 0) << "no failed save becomes what a reset goes back to";
+}
+
+TEST_F(SheetFiles, aNameWithoutAPointIsRefusedAfterTheFileWasMade)
+{
+    tap('Q');
+    dialogs.expect(busy, "Error");
+    saveAs("/home/lake");
+    EXPECT_EQ(files.contents.at("/home/lake"), "");
+    EXPECT_TRUE(sheet.SheetPath.empty());
+    EXPECT_EQ(baseName("C:\\Cores\\Lake.1.csv"), "Lake.1");
+    EXPECT_EQ(baseName("/v1.2/lake"), "v1");
+}
+
+TEST_F(SheetFiles, theSaveKeySavesAndDoesNothingWhilePercentagesShow)
+{
+    sheet.KeySetting[rowSave].Code = "187";
+    makeSheet();
+    tap('W');
+    sheet.KeysActive = false;
+    tap(187);
+    EXPECT_EQ(field("/home/Lake1.csv", 4, 6), "0");
+    sheet.KeysActive = true;
+    tap(187);
+    EXPECT_EQ(field("/home/Lake1.csv", 4, 6), "1");
+}
+
+TEST_F(SheetFiles, openingShowsTheLastSampleAndForgetsTheSheetBefore)
+{
+    makeSheet();
+    const std::string saved = files.contents.at("/home/Lake1.csv");
+    sheet = SheetState();
+    frmMain = MainScreen();
+    sheet.SoundOn = true;
+    sheet.SheetUnnamed = false;
+    open("/home/Lake1.csv");
+    EXPECT_EQ(sheet.CurrentSample, 2);
+    EXPECT_EQ(shown(1), 3);
+    EXPECT_EQ(frmMain.Text3[0].text, "3");
+    EXPECT_EQ(frmMain.Label4.caption, "2/2");
+    EXPECT_EQ(frmMain.Combo2.items, (std::vector<std::string>{"10", "20"}));
+    EXPECT_EQ(frmMain.Combo2.text + frmMain.Text1[0].text, "2020");
+    EXPECT_EQ(frmMain.Text4.text, "note 2");
+    EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [Lake1]");
+    EXPECT_EQ(lastAction(), "(Open) /home/Lake1.csv");
+    EXPECT_TRUE(frmMain.mnuBar.enabled && frmMain.Command5[1].enabled);
+    EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.mnuSave.enabled || sheet.NamesNotNumeric);
+    EXPECT_EQ(files.contents.count(folder + "Master_back_up.csv"), 1U);
+    EXPECT_TRUE(sheet.SheetPristine && sheet.FreshSheet);
+
+    // The untouched sheet is rewritten as it was but for the time of writing.
+    sheet.SheetPath = "/home/again.csv";
+    mnuSave_Click();
+    std::string again = files.contents.at("/home/again.csv");
+    EXPECT_EQ(again.substr(again.find("\r\n")), saved.substr(saved.find("\r\n")));
+
+    tap('Q');
+    EXPECT_EQ(stored(1), 4);
+    tap(8);
+    tap(8); // nothing of the sheet before
+    EXPECT_EQ(stored(1), 3);
+}
+
+TEST_F(SheetFiles, openingAsksBeforeWorkIsLost)
+{
+    const std::string question = "This action will abort current data. Do you proceed?";
+    makeSheet();
+    tap('W');
+    dialogs.expect(question, "Caution!", Answer::no);
+    mnuOpen_Click();
+    EXPECT_EQ(shown(2), 1);
+    EXPECT_TRUE(sheet.SheetPristine);
+    EXPECT_FALSE(sheet.FreshSheet);
+    dialogs.paths.push_back(std::nullopt); // asks nothing now
+    mnuOpen_Click();
+    EXPECT_EQ(shown(2), 1);
+
+    tap('W');
+    dialogs.expect(question, "Caution!", Answer::yes);
+    dialogs.paths.push_back(std::nullopt);
+    mnuOpen_Click();
+    EXPECT_EQ(shown(2), 0) << "Yes goes back to the last save";
+    EXPECT_EQ(sheet.UndoStack[0].slot, 0);
+
+    frmMain.mnuOpen.enabled = false;
+    openDropped("/home/Lake1.csv"); // dropped while it may not be opened
+    EXPECT_EQ(lastAction().substr(0, 6), "2: ---");
+}
+
+TEST_F(SheetFiles, whatCannotBeReadIsSilentAndLeavesASheetToCountIn)
+{
+    makeSheet();
+    sheet.SheetPristine = true;
+    open("/home/missing.csv");
+    files.contents["/home/empty.csv"] = "";
+    open("/home/empty.csv");
+    EXPECT_EQ(shown(1), 3) << "neither cost a count";
+
+    const std::string whole = files.contents.at("/home/Lake1.csv");
+    for (const double part : {0.001, 0.01, 0.05, 0.5, 0.9}) {
+        files.contents["/home/half.csv"] =
+            whole.substr(0, static_cast<std::size_t>(part * double(whole.size())));
+        sheet.SheetPristine = true;
+        open("/home/half.csv");
+        EXPECT_EQ(sheet.SheetPath, "/home/half.csv");
+        EXPECT_GE(sheet.CurrentSample, 1);
+        for (int slot = 1; slot <= taxonSlots; ++slot)
+            EXPECT_EQ(shown(slot), stored(slot)) << part;
+        tap('Q');
+        EXPECT_EQ(shown(1), stored(1));
+    }
+    EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [half]");
+}
+
+TEST_F(SheetFiles, aRepeatedKeyIndexIsToldAndGivesAFreshSheet)
+{
+    makeSheet();
+    std::string& text = files.contents["/home/twice.csv"] = files.contents.at("/home/Lake1.csv");
+    text.replace(text.find("\r\n9,0"), 5, "\r\n4,0");
+    sheet.SheetPristine = true;
+    frmMain.mnuItalic.checked = false;
+    dialogs.expect("Same key index (4) is being used more than once.", "Error");
+    const std::size_t logged = sheet.ActionText.size();
+    open("/home/twice.csv");
+    EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [Untitled]");
+    EXPECT_TRUE(sheet.SheetPath.empty() && sheet.SheetPristine && !sheet.FreshSheet && sheet.SoundOn);
+    EXPECT_FALSE(frmMain.mnuItalic.checked || frmMain.ProgressBar1.visible);
+    EXPECT_EQ(sheet.ActionText.size(), logged);
+    EXPECT_EQ(sheet.SampleCount, 1);
+    EXPECT_EQ(shown(1), 0);
+}
+
+TEST_F(SheetFiles, aTemplateHoldsTheTaxaAndIsNotOverwrittenUnasked)
+{
+    makeSheet();
+    sheet.TaxonRecord[1].Name = "Pinus";
+    std::swap(sheet.KeyIndexOfRow[1], sheet.KeyIndexOfRow[2]);
+    dialogs.paths.push_back("/home/pollen.csv");
+    const std::string action = lastAction();
+    mnuTemplate_Click();
+    const std::string& text = files.contents.at("/home/pollen.csv");
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 147);
+    EXPECT_EQ(field("/home/pollen.csv", 4, 4), "Pinus") << "the order of the rows is kept";
+    EXPECT_EQ(field("/home/pollen.csv", 147, 4), "All total");
+    EXPECT_EQ(lastAction() + sheet.SheetPath, action + "/home/Lake1.csv");
+    files.unwritable.insert("/home/locked.csv");
+    for (const auto& path : {std::optional<std::string>("/home/locked.csv"), std::optional<std::string>()}) {
+        dialogs.paths.push_back(path);
+        mnuTemplate_Click(); // without a message
+    }
+
+    sheet.SheetPristine = true;
+    open("/home/pollen.csv");
+    EXPECT_TRUE(sheet.TemplateOpened);
+    EXPECT_EQ(frmMain.Label4.caption, "1/0");
+    EXPECT_EQ(sheet.SampleCount, 1);
+    EXPECT_EQ(frmMain.Text1[1].text, "Pinus");
+    EXPECT_EQ(frmMain.Text3[0].text, "0");
+    tap('Q');
+    dialogs.paths.push_back("/home/Lake2.csv");
+    mnuSave_Click();
+    EXPECT_EQ(dialogs.proposed, "/home/pollen.csv");
+    EXPECT_EQ(sheet.SheetPath, "/home/Lake2.csv");
+    EXPECT_FALSE(sheet.TemplateOpened);
+}
+
+TEST_F(SheetFiles, backupsGoToTheMasterFirstAndThenRoundTheRing)
+{
+    sheet.BackupSlot = 99;
+    AutoBackup();
+    EXPECT_EQ(files.contents.size(), 1U);
+    const auto line = [this](int slot) {
+        return field(folder + "Auto_back_up_(" + decimalText(slot) + ").csv", 3, 5);
+    };
+    for (int hundred = 1; hundred <= 11; ++hundred)
+        tap('Q', 100);
+    EXPECT_EQ(files.contents.size(), 11U);
+    EXPECT_EQ(line(0), "1100") << "the eleventh over the first";
+    EXPECT_EQ(line(9), "1000");
+    const std::string text = files.contents.at(folder + "Auto_back_up_(1).csv");
+    EXPECT_NE(text.find("\r\n\"1\",\"0\",\"0\",\"---\",\"200\"\r\n"), std::string::npos)
+        << "every field is text";
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 144);
+
+    files.unwritable.insert(folder + "Auto_back_up_(1).csv");
+    tap('Q', 100); // quiet, and its turn is over
+    EXPECT_EQ(sheet.BackupSlot, 1);
+    EXPECT_EQ(files.contents.at(folder + "Auto_back_up_(1).csv"), text);
+}
