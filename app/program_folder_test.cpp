@@ -1,5 +1,4 @@
 #include "platform/qt/program_folder.h"
-#include "platform/qt/real_files.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,15 +46,4 @@ TEST(ProgramFolder, isTheExecutablesOwnWhereItCanBeWrittenElseAFilledFolderOfThe
     programFolder(root.filePath("usr/bin"), user);
     EXPECT_EQ(text(user + "/References/KeySetting.csv"), "my keys");
     EXPECT_EQ(text(user + "/Sound files/Key-1.wav"), "cue");
-}
-
-TEST(RealFiles, readWholeFilesAndRefuseWhatIsNone)
-{
-    const QTemporaryDir root;
-    write(root.filePath("a.csv"), "a,b\r\n");
-    RealFiles files;
-    EXPECT_EQ(files.read(root.filePath("a.csv").toStdString(), 100), "a,b\r\n");
-    EXPECT_EQ(files.read(root.filePath("a.csv").toStdString(), 4), std::nullopt) << "larger than the limit";
-    EXPECT_EQ(files.read(root.path().toStdString(), 100), std::nullopt) << "a folder";
-    EXPECT_EQ(files.read(root.filePath("missing.csv").toStdString(), 100), std::nullopt);
 }

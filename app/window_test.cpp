@@ -7,15 +7,18 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QUrl>
 
 class Widgets : public WindowTest {};
 
@@ -233,4 +236,22 @@ TEST_F(Widgets, aClickOnTheSheetReturnsToCountingAndSelectsNothing)
     EXPECT_EQ(sheet.MoveSource, 9);
     EXPECT_FALSE(cell->hasSelectedText());
     EXPECT_FALSE(sink->inputMethodQuery(Qt::ImEnabled).toBool()) << "an input method would take the keys";
+}
+
+TEST_F(Widgets, aDroppedDataSheetIsOpened)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(DELIVERED_FOLDER "/examples/khil_phytoliths.csv")});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    sheet.BackupSlot = 0;
+    ports.programFolder = "/nowhere"; // no backup into the delivered files
+    QApplication::sendEvent(window, &drop);
+    ASSERT_TRUE(waitFor([] { return sheet.SampleCount == 16; }));
+    EXPECT_EQ(window->windowTitle(), "TallyStrata 3.2.5 - [khil_phytoliths]");
+    EXPECT_EQ(named<QLineEdit>("Text2(1)")->text(), "1");
+    EXPECT_EQ(named<QComboBox>("Combo2")->count(), 16);
+    EXPECT_EQ(named<QComboBox>("Combo2")->currentText(), "EKH-C-18");
 }
