@@ -199,6 +199,8 @@ void MainWindow::presentNames()
             if (named == frmMain.Text1[slot].text)
                 continue;
             named = frmMain.Text1[slot].text;
+            page->nameBox(slot)->setToolTip(named == "---" ? QString()
+                                                           : shownText(named)); // long names are cut
             page->nameBox(slot)->setAccessibleName(QString("Taxon, key %1").arg(slot));
             page->countBox(slot)->setAccessibleName(
                 QString("Count of %1, key %2").arg(shownText(named)).arg(slot));
