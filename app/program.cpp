@@ -1,9 +1,11 @@
 #include "app/program.h"
 
 #include "app/wiring.h"
+#include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/start_up.h"
 
+#include <QApplication>
 #include <QScreen>
 
 Program::Program(const QString& folder)
@@ -17,6 +19,7 @@ Program::Program(const QString& folder)
              folder.toStdString(),
              15 * window_.screen()->size().width()};
     connectRooms();
+    hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);
     window_.show();
 }

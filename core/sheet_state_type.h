@@ -135,6 +135,7 @@ struct SheetState {
     float PreviousCount = 0;       ///< number that a refused one gives way to
     bool SampleSwitching = false;  ///< a whole sample is being shown: change handlers store nothing
     bool SoundOn = false;          ///< all eight cues could be read
+    bool Unloading = false;        ///< the windows are being taken down
     bool DiagramOpen = false;
     bool NamesNotNumeric = false; ///< at least one sample name is no plain number: no depth order
     int SaveResult = 0;           ///< 1: closing began, 2: the save did not complete

@@ -6,14 +6,14 @@
 #include "core/sheet_state.h"
 #include "core/text_changes.h"
 
-ShowingSample::ShowingSample()
+ShowingSample::ShowingSample() : before_(sheet.SampleSwitching)
 {
     sheet.SampleSwitching = true;
 }
 
 ShowingSample::~ShowingSample()
 {
-    sheet.SampleSwitching = false;
+    sheet.SampleSwitching = before_;
 }
 
 static std::string orDashes(const std::string& text)

@@ -7,6 +7,9 @@ public:
     ~ShowingSample();
     ShowingSample(const ShowingSample&) = delete;
     ShowingSample& operator=(const ShowingSample&) = delete;
+
+private:
+    bool before_;
 };
 
 /// Puts a column of the sheet on show: counts, totals, name, serial number, note, additional info and dates.

@@ -4,6 +4,7 @@
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "core/text_changes.h"
 
 void TakeSnapshot()
@@ -22,6 +23,7 @@ void TakeSnapshot()
 
 void RestoreSnapshot()
 {
+    const ShowingSample showing; // a sample that comes back to one individual is not begun anew
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         frmMain.Text2[slot].bold = frmMain.Text1[slot].bold = false;
         sheet.TaxonRecord[slot] = sheet.SavedTaxon[slot];

@@ -1,10 +1,10 @@
 #include "core/fields.h"
 #include "core/program_test.h"
+#include "core/sheet_name.h"
 #include "core/snapshot.h"
 #include "files/backup.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
-#include "files/sheet_name.h"
 #include "files/template_file.h"
 
 #include <algorithm>

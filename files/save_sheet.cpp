@@ -2,9 +2,9 @@
 
 #include "core/action_log.h"
 #include "core/main_screen.h"
+#include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
-#include "files/sheet_name.h"
 #include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
 #include "platform/code_page.h"

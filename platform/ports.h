@@ -22,15 +22,16 @@ public:
     virtual bool create(const std::string& path) = 0;
 };
 
-enum class Buttons { ok, yesNo };
-enum class Answer { ok, yes, no };
+enum class Buttons { ok, yesNo, yesNoCancel };
+enum class Answer { ok, yes, no, cancel };
 enum class Icon { exclamation, question };
 
 /// Boxes that block until they are answered.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    /// A message. Closing it by its frame or by Esc answers No, or OK where there is no No.
+    /// A message. Closing it by its frame or by Esc answers Cancel, else No, else OK: the
+    /// last of them that it has.
     virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
     /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists;
     /// adds nothing to a name. `proposed` may be empty.

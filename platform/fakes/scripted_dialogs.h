@@ -57,6 +57,7 @@ public:
         EXPECT_EQ(message.text, text);
         EXPECT_EQ(message.title, title);
         EXPECT_EQ(message.answer == Answer::ok, buttons == Buttons::ok) << "an answer that has no button";
+        EXPECT_TRUE(message.answer != Answer::cancel || buttons == Buttons::yesNoCancel);
         return message.answer;
     }
 

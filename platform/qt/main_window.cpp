@@ -1,5 +1,6 @@
 #include "platform/qt/main_window.h"
 
+#include "core/endings.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
@@ -8,6 +9,7 @@
 #include "sheet/focus_and_pointer.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QLabel>
@@ -125,6 +127,15 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     scaleFont();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (sheet.Unloading)
+        return;
+    event->ignore(); // the handler ends the program itself, or not
+    bool cancel = false;
+    onEvent([&cancel] { Form_Unload(cancel); });
 }
 
 static QString droppedFile(const QDropEvent& event)

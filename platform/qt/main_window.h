@@ -34,6 +34,7 @@ public:
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
     void resizeEvent(QResizeEvent*) override;
+    void closeEvent(QCloseEvent*) override;
     void dragEnterEvent(QDragEnterEvent*) override;
     void dropEvent(QDropEvent*) override;
 

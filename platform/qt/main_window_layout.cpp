@@ -1,5 +1,6 @@
 // What stands where in the main window.
 
+#include "core/endings.h"
 #include "core/main_screen.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
@@ -127,7 +128,7 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", nullptr));
     row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", nullptr));
     row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", nullptr));
-    row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", nullptr));
+    row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", AbortCount));
     return panel(row);
 }
 

@@ -1,5 +1,6 @@
 // The menu bar. Each entry stands once in the table: its menu, name, caption, record and handler.
 
+#include "core/endings.h"
 #include "core/main_screen.h"
 #include "core/undo.h"
 #include "files/open_sheet.h"
@@ -79,10 +80,10 @@ QList<Entry> entries()
         {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1},
         {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2},
         {"mnuFile", nullptr, nullptr},
-        {"mnuFile", "mnuQuit", "Quit"},
+        {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 
         {"mnuEdit", "mnuUndo", "Undo", &f.mnuUndo, undo},
-        {"mnuEdit", "mnuReset", "Reset", &f.mnuReset},
+        {"mnuEdit", "mnuReset", "Reset", &f.mnuReset, AbortCount},
         {"mnuEdit", nullptr, nullptr},
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend},

@@ -18,19 +18,30 @@ Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons 
 {
     window_.present(); // the box is read against what the handler has done so far
     QMessageBox box(icon == Icon::question ? QMessageBox::Question : QMessageBox::Warning, shownText(title),
-                    shownText(text),
-                    buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes | QMessageBox::No, &window_);
-    if (buttons == Buttons::ok) {
-        box.exec();
-        return Answer::ok;
-    }
-    // A question may come while the hand plays on: no letter answers it, and Enter or Space leaves things as
-    // they are.
-    box.button(QMessageBox::Yes)->setText("Yes");
-    box.button(QMessageBox::No)->setText("No");
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? Answer::yes : Answer::no;
+                    shownText(text), QMessageBox::NoButton, &window_);
+    // A question may come while the hand plays on: no letter answers it, and Enter, Space and Esc never lose
+    // anything.
+    struct Choice {
+        QMessageBox::StandardButton button;
+        const char* text;
+        Answer answer;
+    };
+    const QList<Choice> choices =
+        buttons == Buttons::ok ? QList<Choice>{{QMessageBox::Ok, "OK", Answer::ok}}
+        : buttons == Buttons::yesNo
+            ? QList<Choice>{{QMessageBox::Yes, "Yes", Answer::yes}, {QMessageBox::No, "No", Answer::no}}
+            : QList<Choice>{{QMessageBox::Yes, "Yes", Answer::yes},
+                            {QMessageBox::No, "No", Answer::no},
+                            {QMessageBox::Cancel, "Cancel", Answer::cancel}};
+    for (const Choice& choice : choices)
+        box.addButton(choice.button)->setText(choice.text);
+    box.setDefaultButton(choices.back().button);
+    box.setEscapeButton(choices.back().button);
+    const int pressed = box.exec();
+    for (const Choice& choice : choices)
+        if (choice.button == pressed)
+            return choice.answer;
+    return choices.back().answer;
 }
 
 std::optional<std::string> MessageBoxes::chooseFileToSave(const std::string& proposed)

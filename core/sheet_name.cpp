@@ -1,4 +1,4 @@
-#include "files/sheet_name.h"
+#include "core/sheet_name.h"
 
 std::optional<std::string> baseName(const std::string& path)
 {

@@ -1,0 +1,100 @@
+#include "core/endings.h"
+
+#include "core/action_log.h"
+#include "core/hooks.h"
+#include "core/main_screen.h"
+#include "core/sheet_name.h"
+#include "core/sheet_state.h"
+#include "core/snapshot.h"
+#include "platform/code_page.h"
+#include "platform/ports.h"
+
+static void playCaution()
+{
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
+}
+
+void AbortCount()
+{
+    // 1.
+    playCaution();
+    // 2 to 5.
+    if (sheet.SampleTotal != 0) {
+        if (ports.dialogs->ask("This action will abort all inputs after last saving. Do you proceed?",
+                               "Caution!", Buttons::yesNo, Icon::question) == Answer::yes) {
+            RestoreSnapshot();
+            logAction("(Reset)");
+            for (int i = 0; i <= 100; ++i)
+                sheet.UndoStack[i].slot = 0;
+            frmMain.Command2[0].enabled = false;
+        } else {
+            frmMain.Command2[0].enabled = true;
+        }
+    }
+    // 6.
+    if (sheet.DiagramOpen)
+        hooks.RefreshDiagram();
+    // 7.
+    if (!sheet.Modifying)
+        frmMain.focus = MainFocus::Text99;
+}
+
+static void endProgram()
+{
+    UnloadAll();
+    hooks.EndProgram();
+}
+
+void mnuQuit_Click()
+{
+    playCaution();
+    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
+                           Icon::question) != Answer::yes)
+        return;
+    RestoreSnapshot();
+    sheet.SoundOn = false;
+    endProgram();
+}
+
+static Answer askToSave()
+{
+    std::string name = "Untitled";
+    if (sheet.SheetPath.size() >= 4)
+        name = toCodePageFromUtf8(baseName(sheet.SheetPath).value_or(sheet.SheetPath));
+    return ports.dialogs->ask("Do you want to save the changes you made to '" + name + ".csv'?",
+                              "TallyStrata", Buttons::yesNoCancel, Icon::question);
+}
+
+void Form_Unload(bool& cancel)
+{
+    sheet.SaveResult = 1;
+    if (frmMain.Command5[0].enabled) {
+        const Answer answer = askToSave();
+        if (answer == Answer::cancel) {
+            cancel = true;
+            return;
+        }
+        if (answer == Answer::yes)
+            hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+        if (answer == Answer::yes && sheet.SaveResult == 2) {
+            cancel = true;
+            hooks.AutoBackup(); // the program ends, the counts do not
+            endProgram();
+            return;
+        }
+    }
+    sheet.SoundOn = false;
+    endProgram();
+}
+
+void UnloadAll()
+{
+    sheet.Unloading = true;
+}
+
+void CheckIfReallyEnd()
+{
+    TakeSnapshot();
+    hooks.SaveSheet(0);
+}
