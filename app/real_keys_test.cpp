@@ -49,7 +49,9 @@ private:
     void send(std::uint8_t type, Place place)
     {
         xcb_test_fake_input(connection_, type, place, 0, XCB_NONE, 0, 0, 0);
-        xcb_flush(connection_);
+        // The server has it, and so has the program, however busy the machine is.
+        free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+        QGuiApplication::sync();
     }
     xcb_connection_t* connection_;
 };
@@ -73,13 +75,14 @@ protected:
         settle(150);
     }
 
-    /// Long enough for the repeat guard to end.
+    /// Until the release, which waits for a repeat, is out and the repeat guard has ended.
     void tap(Place place)
     {
         keyboard.press(place);
         settle(20);
         keyboard.release(place);
-        settle(90);
+        settle(40);
+        waitFor([] { return !sheet.RepeatGuard; });
     }
     void tapWith(std::initializer_list<Place> held, Place place)
     {
@@ -89,7 +92,7 @@ protected:
         tap(place);
         for (const Place key : held)
             keyboard.release(key);
-        settle(30);
+        settle(60);
     }
     static int shown(int slot) { return wholeNumber(frmMain.Text2[slot].text); }
     static int total() { return wholeNumber(frmMain.Text3[0].text); }

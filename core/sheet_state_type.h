@@ -132,10 +132,12 @@ struct SheetState {
     bool AlarmArmed = true;        ///< the next hundred rings
     std::int16_t HighlightRow = 0; ///< slot of the pale row, 0 for none
     std::int16_t MoveSource = 0;   ///< slot that a move would start from
-    float PreviousCount = 0;       ///< number that a refused one gives way to
-    bool SampleSwitching = false;  ///< a whole sample is being shown: change handlers store nothing
-    bool SoundOn = false;          ///< all eight cues could be read
-    bool Unloading = false;        ///< the windows are being taken down
+    std::int16_t MoveFrom = 0;     ///< source and target column of a sample move
+    std::int16_t MoveTo = 0;
+    float PreviousCount = 0;      ///< number that a refused one gives way to
+    bool SampleSwitching = false; ///< a whole sample is being shown: change handlers store nothing
+    bool SoundOn = false;         ///< all eight cues could be read
+    bool Unloading = false;       ///< the windows are being taken down
     bool DiagramOpen = false;
     bool NamesNotNumeric = false; ///< at least one sample name is no plain number: no depth order
     int SaveResult = 0;           ///< 1: closing began, 2: the save did not complete

@@ -14,6 +14,7 @@
 #include "diagram/sample_names.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
+#include "files/new_sheet.h"
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
@@ -191,6 +192,8 @@ void settle()
         sheet.DiagramWidth = designWidth + (ports.screenWidth - designWidth) * (sheet.SampleCount - 50) / 200;
     TestSampleNames();
     frmMain.enabled = true;
+    if (sheet.TemplateOpened)
+        showSiteName();
 }
 
 void open(const std::function<std::optional<std::string>()>& choose)

@@ -24,7 +24,7 @@ public:
 
 enum class Buttons { ok, yesNo, yesNoCancel };
 enum class Answer { ok, yes, no, cancel };
-enum class Icon { exclamation, question };
+enum class Icon { exclamation, question, information };
 
 /// Boxes that block until they are answered.
 class Dialogs {

@@ -4,6 +4,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/sample_windows.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
@@ -86,6 +87,8 @@ MainWindow::MainWindow()
         part->setMouseTracking(true);
     }
     scaleFont();
+
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -197,8 +200,9 @@ void MainWindow::present()
         setWindowTitle(title);
     if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
-    setEnabled(frmMain.enabled);
     presentFocusAndPointer();
+    for (FormWindow* const form : forms_)
+        form->present();
 }
 
 /// What a screen reader says of a cell.

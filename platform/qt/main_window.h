@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <array>
 
+class FormWindow;
 class QTabWidget;
 class TaxonPage;
 
@@ -80,5 +81,6 @@ private:
     QList<ComboBinding> combos_;
     QList<LogBinding> logs_;
     std::array<std::string, taxonSlots + 1> namesShown_;
+    QList<FormWindow*> forms_; ///< the small windows above this one
     Pointer pointerShown_ = Pointer::arrow;
 };

@@ -2,6 +2,7 @@
 
 #include "core/endings.h"
 #include "core/main_screen.h"
+#include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "platform/qt/main_window.h"
@@ -125,7 +126,7 @@ QWidget* MainWindow::sampleStrip()
     row->addStretch(1);
     row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", mnuOpen_Click));
     row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", mnuSave_Click));
-    row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", nullptr));
+    row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", mnuNext_Click));
     row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", nullptr));
     row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", nullptr));
     row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", AbortCount));

@@ -3,6 +3,8 @@
 #include "core/endings.h"
 #include "core/main_screen.h"
 #include "core/undo.h"
+#include "files/new_sheet.h"
+#include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "files/template_file.h"
@@ -64,7 +66,7 @@ QList<Entry> entries()
 {
     MainScreen& f = frmMain;
     return {
-        {"mnuFile", "mnuNew", "New", &f.mnuNew},
+        {"mnuFile", "mnuNew", "New", &f.mnuNew, mnuNew_Click},
         {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen, mnuOpen_Click},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuSave", "Save", &f.mnuSave, mnuSave_Click},
@@ -72,7 +74,7 @@ QList<Entry> entries()
         {"mnuFile", "mnuSaveCopy", "Save copy...", &f.mnuSaveCopy, mnuSaveCopy_Click},
         {"mnuFile", "mnuTemplate", "Create template", nullptr, mnuTemplate_Click},
         {"mnuFile", nullptr, nullptr},
-        {"mnuFile", "mnuNext", "Next sample", &f.mnuNext},
+        {"mnuFile", "mnuNext", "Next sample", &f.mnuNext, mnuNext_Click},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory},
         {"mnuFile", "mnuSaveSaturation", "Save Saturation curve"},

@@ -17,8 +17,10 @@ static const QString dataFiles = "DataFile(*.csv)";
 Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon)
 {
     window_.present(); // the box is read against what the handler has done so far
-    QMessageBox box(icon == Icon::question ? QMessageBox::Question : QMessageBox::Warning, shownText(title),
-                    shownText(text), QMessageBox::NoButton, &window_);
+    constexpr QMessageBox::Icon pictures[] = {QMessageBox::Warning, QMessageBox::Question,
+                                              QMessageBox::Information};
+    QMessageBox box(pictures[static_cast<int>(icon)], shownText(title), shownText(text),
+                    QMessageBox::NoButton, &window_);
     // A question may come while the hand plays on: no letter answers it, and Enter, Space and Esc never lose
     // anything.
     struct Choice {

@@ -1,0 +1,56 @@
+#include "diagram/sample_move.h"
+
+#include "core/hooks.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+
+#include <algorithm>
+#include <utility>
+
+/// The element of `from` goes to `to`; those between move one place towards where it was.
+template <class Element, int Rows>
+static void moveColumn(SampleTable<Element, Rows>& table, int from, int to)
+{
+    const int step = from < to ? 1 : -1;
+    for (int row = 0; row < Rows; ++row)
+        for (int column = from; column != to; column += step)
+            std::swap(table(column, row), table(column + step, row));
+}
+
+static std::int16_t placeAfterMove(int sample, int from, int to)
+{
+    if (sample == from)
+        return static_cast<std::int16_t>(to);
+    if (sample > from && sample <= to)
+        --sample;
+    else if (sample < from && sample >= to)
+        ++sample;
+    return static_cast<std::int16_t>(sample);
+}
+
+void MoveSample()
+{
+    const int from = sheet.MoveFrom;
+    const int to = sheet.MoveTo;
+    if (from != to) {
+        moveColumn(sheet.SampleField, from, to);
+        moveColumn(sheet.Count, from, to);
+        moveColumn(sheet.AdditionalInfo, from, to);
+        moveColumn(sheet.SampleNote, from, to);
+        moveColumn(sheet.SampleStamp, from, to);
+        moveColumn(sheet.SavedCount, from, to);
+        moveColumn(sheet.SavedInfo, from, to);
+        for (UndoEntry& entry : sheet.UndoStack)
+            entry.sample = placeAfterMove(entry.sample, from, to);
+        sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);
+
+        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        frmMain.Combo2.items.clear();
+        ++frmMain.Combo2.itemsRevision;
+        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+            frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
+        frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);
+    }
+    if (sheet.DiagramOpen)
+        hooks.RefreshDiagram();
+}

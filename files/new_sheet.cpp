@@ -1,0 +1,83 @@
+#include "files/new_sheet.h"
+
+#include "core/action_log.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/reset_sheet.h"
+#include "core/sheet_name.h"
+#include "core/sheet_state.h"
+#include "core/snapshot.h"
+#include "core/text_changes.h"
+#include "diagram/sample_names.h"
+#include "files/sheet_on_screen.h"
+#include "platform/ports.h"
+
+SampleForm frmSiteName;
+
+void mnuNew_Click()
+{
+    if (frmMain.Text3[0].text != "0" && sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
+    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
+                           Icon::question) != Answer::yes)
+        return;
+    resetSheet();
+    showSiteName();
+}
+
+void showSiteName()
+{
+    frmSiteName.begin("Name of the first sample: ");
+    frmSiteName.visible = true;
+    frmMain.enabled = false;
+}
+
+static void closeSiteName()
+{
+    frmSiteName.visible = false;
+    frmMain.enabled = true;
+    frmMain.focus = MainFocus::Text99;
+    frmMain.Text99.text.clear();
+}
+
+void frmSiteName_Command1_Click()
+{
+    // 1.
+    sheet.SheetHeader[1][1] = frmSiteName.Text1.text;
+    showSheetName(baseName(sheet.SheetPath).value_or("Untitled"));
+    // 2, 3.
+    sheet.NamesNotNumeric = !isDepth(frmSiteName.Text1.text);
+    const std::string name = frmSiteName.Text1.text.empty() ? "1: ---" : frmSiteName.Text1.text;
+    // 4, 5.
+    logAction("(New sample: " + name + ")");
+    sheet.CurrentSample = 1;
+    sheet.SampleField(1, 1) = "1";
+    sheet.SampleField(1, 2) = name;
+    frmMain.Combo2.items = {name};
+    ++frmMain.Combo2.itemsRevision;
+    setText1(0, name); // shows in Combo2 too
+    // 6.
+    frmMain.Label14[0].caption = sheet.SampleStamp(1, 1) = dateStamp(ports.clock->now());
+    for (int date = 2; date <= 3; ++date)
+        frmMain.Label14[date - 1].caption = sheet.SampleStamp(1, date) = "---";
+    // 7, 8.
+    frmMain.Text4.text = sheet.SampleNote(1, 0) = orDashes(frmSiteName.Text2.text);
+    for (int item = 1; item <= infoItems; ++item)
+        frmMain.Text5[item].text = sheet.AdditionalInfo(1, item) = orDashes(frmSiteName.Text3[item].text);
+    TakeSnapshot();
+    // What was typed is work to save.
+    sheet.SheetPristine = false;
+    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = frmMain.mnuNew.enabled = true;
+    // 9.
+    closeSiteName();
+    // 10.
+    setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+    sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
+    // 11. A second stamp of the same text, as every history has it here.
+    StampAction();
+}
+
+void frmSiteName_Command3_Click()
+{
+    closeSiteName();
+}

@@ -1,0 +1,202 @@
+#include "files/next_sample.h"
+
+#include "core/action_log.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "core/snapshot.h"
+#include "core/text_changes.h"
+#include "diagram/sample_move.h"
+#include "diagram/sample_names.h"
+#include "files/open_sheet.h"
+#include "platform/ports.h"
+
+#include <algorithm>
+
+NextForm frmNext;
+
+namespace {
+
+/// The sheet's only column still has its placeholder name.
+bool hasNoSample()
+{
+    return sheet.SampleCount == 1 && leadingNumber(sheet.SampleField(1, 2)) == -9999;
+}
+
+void load()
+{
+    const bool first = hasNoSample();
+    frmNext.begin(first ? "Name of the first sample: " : "Name of the next sample: ");
+    frmNext.Command2.visible = first;
+    frmNext.Command3.visible = !first;
+}
+
+void close()
+{
+    for (Button& rename : frmNext.Command5)
+        rename.visible = true;
+    frmNext.visible = false;
+    frmMain.enabled = true;
+    frmMain.focus = MainFocus::Text99;
+}
+
+bool isNameTaken()
+{
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        if (sheet.SampleField(sample, 2) == frmNext.Text1.text)
+            return true;
+    return false;
+}
+
+/// Counts in a column that has no sample yet would go; the user decides.
+bool mayEmptyPlaceholder()
+{
+    bool counted = false;
+    for (int slot = 1; slot <= taxonSlots; ++slot)
+        counted = counted || sheet.Count(1, slot) != 0;
+    if (!counted)
+        return true;
+    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
+                           Icon::question) != Answer::yes)
+        return false;
+    for (UndoEntry& entry : sheet.UndoStack)
+        if (entry.sample == 1)
+            entry = {};
+    return true;
+}
+
+std::int16_t largestSerial()
+{
+    double largest = -9999;
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        largest = std::max(largest, leadingNumber(sheet.SampleField(sample, 1)));
+    return static_cast<std::int16_t>(largest > -9999 ? std::min(largest, 32766.0) : 0);
+}
+
+/// Of equal depths the new sample comes last.
+void moveToDepth()
+{
+    TestSampleNames();
+    if (sheet.NamesNotNumeric)
+        return;
+    const auto depth = [](int sample) { return leadingNumber(sheet.SampleField(sample, 2)); };
+    sheet.MoveFrom = sheet.SampleCount;
+    sheet.MoveTo = 1;
+    while (sheet.MoveTo < sheet.SampleCount && depth(sheet.MoveTo) <= depth(sheet.SampleCount))
+        ++sheet.MoveTo;
+    MoveSample();
+}
+
+/// False if the name is refused or the user keeps the counts of the placeholder.
+bool AddSample()
+{
+    // 1.
+    if (isNameTaken()) {
+        ports.dialogs->ask("The sample name is already used. Choose another name.", "Error!", Buttons::ok,
+                           Icon::exclamation);
+        return false;
+    }
+    const bool takesPlaceholder = hasNoSample();
+    if (takesPlaceholder && !mayEmptyPlaceholder())
+        return false;
+    // 3, 4.
+    sheet.LatestSerial = largestSerial();
+    if (!takesPlaceholder) {
+        ++sheet.SampleCount;
+        ++sheet.LatestSerial;
+        sheet.CurrentSample = sheet.SampleCount;
+    }
+    const int sample = sheet.CurrentSample = sheet.SampleCount;
+    // 5 to 8.
+    const std::string name = frmNext.Text1.text.empty() ? decimalText(sample) + ": ---" : frmNext.Text1.text;
+    sheet.SampleField(sample, 0).clear();
+    sheet.SampleField(sample, 1) = decimalText(sheet.LatestSerial);
+    sheet.SampleField(sample, 2) = name;
+    frmMain.Combo2.items.push_back(name);
+    setText1(0, name); // shows in Combo2 too
+    // 10. Whatever stood in the column before.
+    for (int slot = 0; slot <= taxonSlots; ++slot) {
+        frmMain.Text1[slot].bold = frmMain.Text2[slot].bold = false;
+        sheet.Count(sample, slot) = sheet.SavedCount(sample, slot) = 0;
+        if (slot > 0)
+            setText2(slot, "0");
+    }
+    // 11, 12.
+    frmMain.Text4.text = sheet.SampleNote(sample, 0) = orDashes(frmNext.Text2.text);
+    for (int item = 1; item <= infoItems; ++item)
+        frmMain.Text5[item].text = sheet.AdditionalInfo(sample, item) = orDashes(frmNext.Text3[item].text);
+    // 13.
+    setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
+    sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
+    sheet.SampleTotal = 0;
+    for (int total = 0; total < 3; ++total)
+        setText3(total, "0");
+    // 6, 14.
+    logAction("(New sample: " + name + ")");
+    moveToDepth();
+    // 15.
+    TakeSnapshot();
+    sheet.SheetPristine = false;
+    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = frmMain.mnuNew.enabled = true;
+    return true;
+}
+
+} // namespace
+
+void mnuNext_Click()
+{
+    TakeSnapshot();
+    NextFile();
+    for (Button& rename : frmNext.Command5)
+        rename.visible = false;
+    frmNext.Command3.visible = true;
+    frmNext.Command4.visible = false;
+    frmNext.entryBoxes = true;
+}
+
+void NextFile()
+{
+    if (sheet.SampleCount >= sampleLimit) {
+        ports.dialogs->ask("Sample number reached 250. Please create new data sheet.", "Format regulation",
+                           Buttons::ok, Icon::information);
+        return;
+    }
+    load();
+    frmNext.visible = true;
+    frmMain.enabled = false;
+}
+
+void showFirstRunChoice()
+{
+    NextFile();
+    frmNext.Command4.visible = true;
+    frmNext.entryBoxes = false;
+}
+
+void frmNext_Command1_Click()
+{
+    if (!AddSample())
+        return;
+    frmMain.Label14[0].caption = dateStamp(ports.clock->now());
+    frmMain.Label14[1].caption = frmMain.Label14[2].caption = "---";
+    for (int date = 0; date < 3; ++date)
+        sheet.SampleStamp(sheet.CurrentSample, date + 1) = frmMain.Label14[date].caption;
+    close();
+}
+
+void frmNext_Command2_Click()
+{
+    close();
+    mnuOpen_Click();
+}
+
+void frmNext_Command3_Click()
+{
+    close();
+}
+
+void frmNext_Command4_Click()
+{
+    frmNext.Command4.visible = false;
+    frmNext.entryBoxes = true;
+}

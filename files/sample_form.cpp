@@ -1,0 +1,31 @@
+#include "files/sample_form.h"
+
+#include "core/main_screen.h"
+
+void SampleForm::begin(std::string label)
+{
+    nameLabel = std::move(label);
+    Text1.text.clear();
+    Text2.text.clear();
+    for (int item = 1; item <= infoItems; ++item) {
+        Label3[item].caption = frmMain.Label10[item].caption;
+        Text3[item].text = "---";
+    }
+}
+
+void SampleForm::enterInfo(int item)
+{
+    if (Text3[item].text == "---")
+        Text3[item].text.clear();
+}
+
+void SampleForm::leaveInfo(int item)
+{
+    if (Text3[item].text.empty())
+        Text3[item].text = "---";
+}
+
+std::string orDashes(const std::string& text)
+{
+    return text.empty() ? "---" : text;
+}

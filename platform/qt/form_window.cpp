@@ -1,0 +1,108 @@
+#include "platform/qt/form_window.h"
+
+#include "platform/qt/main_window.h"
+#include "platform/qt/text.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
+                       void (*cancel)())
+    : QDialog(&main), main_(main), shouldShow_(visible), cancel_(cancel)
+{
+    setObjectName(name);
+    setWindowTitle(title);
+    setModal(true);
+}
+
+void FormWindow::present()
+{
+    for (const auto& showOne : shows_)
+        showOne();
+    presentMore();
+    if (shouldShow_ == isVisible())
+        return;
+    setVisible(shouldShow_);
+    if (shouldShow_ && first_ != nullptr)
+        first_->setFocus();
+}
+
+QLineEdit* FormWindow::box(const QString& name, TextBox& record, std::function<void()> entered,
+                           std::function<void()> left)
+{
+    auto* const edit = new QLineEdit(this);
+    edit->setObjectName(name);
+    edit->setMinimumWidth(220);
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, &record](const QString& text) { main_.onEvent([&] { record.text = heldText(text); }); });
+    shows_ += [edit, &record] {
+        if (heldText(edit->text()) != record.text || edit->text() != shownText(record.text))
+            edit->setText(shownText(record.text));
+    };
+    if (entered || left) {
+        focusHandlers_[edit] = {std::move(entered), std::move(left)};
+        edit->installEventFilter(this);
+    }
+    return edit;
+}
+
+QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
+{
+    auto* const edit = new QPlainTextEdit(this);
+    edit->setObjectName(name);
+    edit->setTabChangesFocus(true);
+    edit->setFixedHeight(4 * edit->fontMetrics().lineSpacing());
+    connect(edit, &QPlainTextEdit::textChanged, this, [this, edit, &record] {
+        main_.onEvent([&] { record.text = heldText(edit->toPlainText().replace("\n", "\r\n")); });
+    });
+    shows_ += [edit, &record] {
+        const QString text = shownText(record.text).replace("\r\n", "\n");
+        if (edit->toPlainText() == text)
+            return;
+        const QSignalBlocker quiet(edit);
+        edit->setPlainText(text);
+    };
+    return edit;
+}
+
+QPushButton* FormWindow::button(const QString& name, const QString& caption, std::function<void()> clicked,
+                                const Button* record)
+{
+    auto* const made = new QPushButton(caption, this);
+    made->setObjectName(name);
+    made->setAutoDefault(false);
+    connect(made, &QPushButton::clicked, this,
+            [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
+    if (record != nullptr)
+        shows_ += [made, record] { made->setVisible(record->visible); };
+    return made;
+}
+
+QLabel* FormWindow::label(const QString& name, const std::string& caption)
+{
+    auto* const made = new QLabel(this);
+    made->setObjectName(name);
+    shows_ += [made, &caption] { made->setText(shownText(caption)); };
+    return made;
+}
+
+bool FormWindow::eventFilter(QObject* target, QEvent* event)
+{
+    const auto handlers = focusHandlers_.constFind(target);
+    if (handlers != focusHandlers_.constEnd()) {
+        if (event->type() == QEvent::FocusIn && handlers->first)
+            main_.onEvent(handlers->first);
+        if (event->type() == QEvent::FocusOut && handlers->second)
+            main_.onEvent(handlers->second);
+    }
+    return false;
+}
+
+/// Esc and the frame's own close button.
+void FormWindow::reject()
+{
+    main_.onEvent(cancel_);
+}

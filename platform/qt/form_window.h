@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/controls.h"
+
+#include <QDialog>
+#include <functional>
+
+class MainWindow;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+
+/// A small window above the main one. It is on show while its record says so; its frame and Esc do what
+/// Cancel does. What the user types goes into the record; what a handler writes there shows again.
+class FormWindow : public QDialog {
+public:
+    FormWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
+               void (*cancel)());
+
+    /// Brings the window up to date with its record.
+    void present();
+
+protected:
+    /// A box of one line bound to a record; `left` runs when it loses the focus, `entered` when it gets it.
+    QLineEdit* box(const QString& name, TextBox& record, std::function<void()> entered = {},
+                   std::function<void()> left = {});
+    QPlainTextEdit* area(const QString& name, TextBox& record);
+    QPushButton* button(const QString& name, const QString& caption, std::function<void()> clicked,
+                        const Button* record = nullptr);
+    QLabel* label(const QString& name, const std::string& caption);
+    /// What present() brings up to date beside the boxes.
+    virtual void presentMore() {}
+    /// The box that has the focus when the window opens.
+    void setFirst(QWidget* widget) { first_ = widget; }
+
+    bool eventFilter(QObject* target, QEvent* event) override;
+    void reject() override;
+
+private:
+    MainWindow& main_;
+    const bool& shouldShow_;
+    void (*cancel_)();
+    QWidget* first_ = nullptr;
+    QList<std::function<void()>> shows_;
+    QHash<QObject*, std::pair<std::function<void()>, std::function<void()>>> focusHandlers_;
+};
