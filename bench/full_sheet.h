@@ -4,12 +4,12 @@
 #include "core/sheet_state_type.h"
 #include "files/sheet_text.h"
 
-/// The text of the fullest sheet: 250 samples of 135 taxa.
-inline std::string fullSheetText()
+/// The text of a sheet of 135 taxa; by default the fullest.
+inline std::string fullSheetText(int samples = sampleLimit)
 {
     SheetState tables;
-    tables.SampleCount = sampleLimit;
-    for (int sample = 1; sample <= sampleLimit; ++sample) {
+    tables.SampleCount = static_cast<std::int16_t>(samples);
+    for (int sample = 1; sample <= samples; ++sample) {
         tables.SampleField(sample, 1) = decimalText(sample);
         tables.SampleField(sample, 2) = decimalText(10 * sample);
         for (int slot = 1; slot <= taxonSlots; ++slot)

@@ -11,8 +11,8 @@ void TakeSnapshot()
 {
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         sheet.SavedTaxon[slot] = sheet.TaxonRecord[slot];
-        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-            sheet.SavedCount(sample, slot) = sheet.Count(sample, slot);
+        for (int sample = 1; sample < sampleColumns; ++sample) // columns beyond the sheet are empty
+            sheet.SavedCount(sample, slot) = sample <= sheet.SampleCount ? sheet.Count(sample, slot) : 0;
     }
     for (int item = 1; item <= infoItems; ++item) {
         sheet.SavedInfo(0, item) = frmMain.Label10[item].caption;
@@ -35,7 +35,9 @@ void RestoreSnapshot()
     for (int item = 1; item <= infoItems; ++item) {
         const std::string& info = sheet.SavedInfo(sheet.CurrentSample, item);
         frmMain.Text5[item].text = info.empty() ? "---" : info;
-        frmMain.Label10[item].caption = sheet.SavedInfo(0, item);
+        frmMain.Label10[item].caption = sheet.AdditionalInfo(0, item) = sheet.SavedInfo(0, item);
+        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+            sheet.AdditionalInfo(sample, item) = sheet.SavedInfo(sample, item);
     }
     RecountTotals(sheet.CurrentSample);
 }

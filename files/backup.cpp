@@ -19,7 +19,8 @@ void AutoBackup()
                                  : "Auto_back_up_(" + decimalText(sheet.BackupSlot) + ").csv";
     stampHead("Backed up (dd/mm/yyyy):", sheet.SheetPath, ports.clock->now());
     fillEmptyCells(sheet, shownCaptions());
-    ports.files->write(ports.programFolder + "/References/Back up files/" + name, backupText(sheet));
-    if (sheet.BackupSlot == masterCopy)
+    const bool written =
+        ports.files->write(ports.programFolder + "/References/Back up files/" + name, backupText(sheet));
+    if (written && sheet.BackupSlot == masterCopy) // a master copy that failed is tried again
         sheet.BackupSlot = -1;
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -42,6 +43,42 @@ std::string& fieldCell(SheetState& tables, int sample, int row)
 }
 
 } // namespace
+
+int completeKeyIndexes(SheetState& tables)
+{
+    std::array<int, taxonSlots + 1> rowOf{};
+    for (int row = 1; row <= taxonSlots; ++row) {
+        int& first = rowOf[tables.KeyIndexOfRow[row]];
+        if (first == 0)
+            first = row;
+    }
+    int completed = 0;
+    int missing = 0;
+    for (int row = 1; row <= taxonSlots; ++row) {
+        std::int16_t& keyIndex = tables.KeyIndexOfRow[row];
+        if (keyIndex != 0 && rowOf[keyIndex] == row)
+            continue;
+        do
+            ++missing;
+        while (rowOf[missing] != 0);
+        tables.TaxonRecord[missing] = {decimalText(missing), decimalText(missing), "0", "0", "---"};
+        if (keyIndex == 0 && rowOf[0] == row) {
+            std::swap(tables.TaxonRecord[missing].Name, tables.TaxonRecord[0].Name);
+            tables.TaxonRecord[missing].Subtotal1 = tables.TaxonRecord[0].Subtotal1;
+            tables.TaxonRecord[missing].Subtotal2 = tables.TaxonRecord[0].Subtotal2;
+        }
+        for (int sample = 0; sample <= tables.SampleCount; ++sample)
+            tables.Count(sample, missing) =
+                keyIndex == 0 && rowOf[0] == row ? std::exchange(tables.Count(sample, 0), 0) : 0;
+        rowOf[missing] = row;
+        keyIndex = static_cast<std::int16_t>(missing);
+        completed = row;
+    }
+    tables.KeyIndexOfRow[0] = tables.RowOfKeyIndex[0] = 0;
+    for (int row = 1; row <= taxonSlots; ++row)
+        tables.RowOfKeyIndex[tables.KeyIndexOfRow[row]] = static_cast<std::int16_t>(row);
+    return completed;
+}
 
 bool DataSheetReader::readText(std::string& field)
 {
@@ -176,6 +213,12 @@ void DataSheetReader::beginFromTemplate(std::string_view sampleName)
 
 bool DataSheetReader::readTexts()
 {
+    for (int column = 1; column <= 3; ++column) {
+        for (auto& head : sheet_.AdditionalHeader)
+            head[column] = "---";
+        for (auto& head : sheet_.DateHeader)
+            head[column] = "---";
+    }
     // No leftovers of the sheet before: neither what this layout has no lines for, nor what a template leaves
     // out.
     for (int sample = 1; sample <= sheet_.SampleCount; ++sample) {

@@ -6,6 +6,11 @@
 #include <optional>
 #include <string_view>
 
+/// Makes the file rows and key indexes each other's inverse where a file left them otherwise: of rows with
+/// the same key index the first keeps it, and those without one (0) get the indexes that no row has, with
+/// what was read of them. The last row that was given an index; 0 if none was.
+int completeKeyIndexes(SheetState& tables);
+
 /// Reads a data sheet, an older layout of one, or a template, into the tables of a sheet.
 /// docs/data-formats.md tells the lines. The file is a stream of fields: lines mean nothing to the reader,
 /// and position alone gives a field its meaning. The steps are called in this order, each once; a step

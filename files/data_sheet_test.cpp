@@ -129,10 +129,8 @@ TEST(DataSheet, readsTheSameAfterASpreadsheetHadIt)
     const std::string quoted = replaced(lakeText(), "\"Poaceae\"", "\"Gr\xE4ser\"");
     const std::string bare = replaced(replaced(quoted, "\"", ""), "\r\n", "\n");
     const std::string utf8 = "\xEF\xBB\xBF" + replaced(bare, "\xE4", "\xC3\xA4");
-    // Its note's trailing blank and the head's are all that a spreadsheet's file has lost.
-    const std::string expected = replaced(quoted, "Note: ", "Note:");
     for (const std::string& text : {bare, utf8})
-        EXPECT_EQ(rewritten(fileTextInCodePage(text)), expected);
+        EXPECT_EQ(rewritten(fileTextInCodePage(text)), quoted);
     EXPECT_EQ(fileTextInCodePage(quoted), quoted) << "the code page's own bytes are no UTF-8";
 }
 
@@ -228,6 +226,8 @@ TEST(NoteMigration, takesTheStampsOutOfOldNotes)
         {"Created: by hand", "Created: by hand", "", ""},
         {"Last saved: a long story that is no stamp at all",
          "Last saved: a long story that is no stamp at all", "", ""},
+        {"Created: 15/11/2026 (19:58:33)\nNote:By way\nof a spreadsheet", "By way\r\nof a spreadsheet",
+         "15/11/2026 (19:58:33)", ""},
         {"\r\n", "---", "", ""},
         {" ", "---", "", ""},
     };

@@ -58,8 +58,25 @@ void NoteMigration::cutLastSaved(std::string& note, std::string& lastSaved)
     }
 }
 
+/// Every line end as CR LF, as it was before a spreadsheet had the file.
+static std::string withWholeLineEnds(std::string_view text)
+{
+    std::string whole;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r' && text[i] != '\n') {
+            whole += text[i];
+            continue;
+        }
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+            ++i;
+        whole += lineEnd;
+    }
+    return whole;
+}
+
 void NoteMigration::clean(std::string& note, std::string& created, std::string& lastSaved)
 {
+    note = withWholeLineEnds(note);
     cutLastSaved(note, lastSaved);
     takeCreated(note, created);
     if (std::string_view(note).starts_with("Note:"))

@@ -31,17 +31,20 @@ namespace {
 constexpr std::size_t sheetLimit = 256u << 20; // the fullest sheet takes less than a megabyte
 
 /// Steps 1 to 4. True if the sheet in memory may go.
-bool mayGo()
+bool mayGo(bool dropped)
 {
-    if (sheet.SheetPristine)
+    // No dialog follows a drop, so it asks wherever there is unsaved work.
+    const bool unsaved = frmMain.Command5[0].enabled;
+    if (sheet.SheetPristine && !(dropped && unsaved))
         return true;
     if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
         ports.sound->play(Cue::SoundError);
     const bool begun = frmMain.Label4.caption != "1/0";
     if (sheet.SoundOn && begun)
         ports.sound->play(Cue::SoundError);
-    if ((begun || sheet.SampleTotal != 0) &&
-        ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
+    if (!begun && sheet.SampleTotal == 0 && !unsaved)
+        return true;
+    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
                            Icon::question) != Answer::yes) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
@@ -72,8 +75,10 @@ void showHeads()
     ++frmMain.Combo2.itemsRevision;
     for (int sample = 1; sample <= last; ++sample)
         frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
-    if (last > 0)
-        setText1(0, sheet.SampleField(last, 2)); // shows in Combo2 too
+    if (last > 0) {
+        setText1(0, sheet.SampleField(last, 2));
+        frmMain.Combo2.text = sheet.SampleField(last, 2);
+    }
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     sheet.SampleTotal = 0;
     for (int total = 0; total < 3; ++total)
@@ -84,11 +89,18 @@ void showHeads()
 void showTaxon(int row)
 {
     const int keyIndex = sheet.KeyIndexOfRow[row];
+    if (keyIndex == 0) // has no box; it is given an index when all rows are known
+        return;
     setText1(keyIndex, sheet.TaxonRecord[keyIndex].Name);
     setText2(keyIndex, sheet.SampleCount > 0 ? decimalText(sheet.Count(sheet.SampleCount, keyIndex)) : "0");
 }
 
-enum class Reading { complete, failed, refused };
+enum class Reading {
+    complete,
+    failed,  ///< ended early
+    refused, ///< a key index stands twice
+    nothing  ///< not even a first field, or a path without a name: the sheet in memory stays
+};
 
 /// Steps 8 to 15.
 Reading readSheet(std::string_view text, const std::string& path)
@@ -96,8 +108,9 @@ Reading readSheet(std::string_view text, const std::string& path)
     const ShowingSample showing;
     DataSheetReader reader(text, sheet);
     const auto name = baseName(path);
-    if (!reader.readPath() || !name)
-        return Reading::failed;
+    if (!name || !reader.readPath())
+        return Reading::nothing;
+    sheet.SheetPath = path;
     showSheetName(*name);
     if (!reader.readSerials() || !reader.readNames())
         return Reading::failed;
@@ -112,6 +125,8 @@ Reading readSheet(std::string_view text, const std::string& path)
                            "Error", Buttons::ok, Icon::exclamation);
         return Reading::refused;
     }
+    if (const int row = completeKeyIndexes(sheet))
+        showTaxon(row);
     if (sheet.SampleCount == 0) {
         reader.beginFromTemplate(frmMain.Text1[0].text);
         setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
@@ -133,13 +148,19 @@ void forgetCounts()
 /// store counts of the sheet before.
 void endEarly()
 {
-    sheet.TemplateOpened = false;
+    completeKeyIndexes(sheet);
     if (sheet.SampleCount == 0) { // a column to count in
         sheet.SampleCount = sheet.CurrentSample = 1;
         sheet.SampleField(1, 1) = "1";
     }
     forgetCounts();
+    {
+        const ShowingSample showing;
+        showHeads();
+    }
     showSample(sheet.CurrentSample);
+    sheet.WarnNotLatest = true;
+    TakeSnapshot(); // a reset must not bring counts of the sheet before
 }
 
 void showTexts()
@@ -196,16 +217,14 @@ void settle()
         showSiteName();
 }
 
-void open(const std::function<std::optional<std::string>()>& choose)
+void open(const std::function<std::optional<std::string>()>& choose, bool dropped)
 {
-    if (!mayGo())
+    if (!mayGo(dropped))
         return;
     sheet.FreshSheet = true;
-    sheet.TemplateOpened = false;
     if (const auto path = choose())
         if (const auto bytes = ports.files->read(*path, sheetLimit)) {
             beginProgress();
-            sheet.SheetPath = *path;
             const Reading reading = readSheet(fileTextInCodePage(*bytes), *path);
             if (reading == Reading::complete) {
                 settle();
@@ -213,7 +232,7 @@ void open(const std::function<std::optional<std::string>()>& choose)
                 resetSheet();
                 sheet.SheetPristine = true;
                 sheet.FreshSheet = false;
-            } else {
+            } else if (reading == Reading::failed) {
                 endEarly();
             }
         }
@@ -226,11 +245,11 @@ void open(const std::function<std::optional<std::string>()>& choose)
 
 void mnuOpen_Click()
 {
-    open([] { return ports.dialogs->chooseFileToOpen(); });
+    open([] { return ports.dialogs->chooseFileToOpen(); }, false);
 }
 
 void openDropped(const std::string& path)
 {
     if (frmMain.enabled && frmMain.mnuOpen.enabled)
-        open([&path] { return std::optional(path); });
+        open([&path] { return std::optional(path); }, true);
 }

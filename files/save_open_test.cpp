@@ -3,6 +3,7 @@
 #include "core/sheet_name.h"
 #include "core/snapshot.h"
 #include "files/backup.h"
+#include "files/new_sheet.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "files/template_file.h"
@@ -247,10 +248,13 @@ TEST_F(SheetFiles, whatCannotBeReadIsSilentAndLeavesASheetToCountIn)
     open("/home/missing.csv");
     files.contents["/home/empty.csv"] = "";
     open("/home/empty.csv");
-    EXPECT_EQ(shown(1), 3) << "neither cost a count";
+    files.contents["/home/README"] = "no data sheet";
+    open("/home/README");
+    EXPECT_EQ(shown(1), 3) << "none of them cost a count";
+    EXPECT_EQ(sheet.SheetPath + frmMain.caption, "/home/Lake1.csvTallyStrata 3.2.5 - [Lake1]");
 
     const std::string whole = files.contents.at("/home/Lake1.csv");
-    for (const double part : {0.001, 0.01, 0.05, 0.5, 0.9}) {
+    for (const double part : {0.01, 0.05, 0.5, 0.9}) {
         files.contents["/home/half.csv"] =
             whole.substr(0, static_cast<std::size_t>(part * double(whole.size())));
         sheet.SheetPristine = true;
@@ -263,6 +267,39 @@ TEST_F(SheetFiles, whatCannotBeReadIsSilentAndLeavesASheetToCountIn)
         EXPECT_EQ(shown(1), stored(1));
     }
     EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [half]");
+    RestoreSnapshot();
+    EXPECT_EQ(shown(1), stored(1));
+    EXPECT_LE(shown(1), 3) << "a reset brings nothing of the sheet before";
+}
+
+TEST_F(SheetFiles, aSheetWithDisorderedKeyIndexesCanBeSavedAndOpenedAgain)
+{
+    makeSheet();
+    sheet.TaxonRecord[9].Name = "Ulmus";
+    sheet.Count(2, 9) = 4;
+    frmMain.Text2[9].text = "4";
+    mnuSave_Click();
+    const std::string whole = files.contents.at("/home/Lake1.csv");
+    std::string& swapped = files.contents["/home/half.csv"] = whole;
+    swapped.replace(swapped.find("\r\n1,0"), 4, "\r\n135,");
+    swapped.erase(swapped.size() / 2);
+    std::string& nameless = files.contents["/home/nameless.csv"] = whole;
+    nameless.replace(nameless.find("\r\n9,0"), 4, "\r\nx,");
+    for (const char* path : {"/home/half.csv", "/home/nameless.csv"}) {
+        sheet.SheetPristine = true;
+        open(path);
+        tap('Q', 2);
+        const int counted = stored(1);
+        mnuSave_Click();
+        sheet.SheetPristine = true;
+        open(path);
+        EXPECT_EQ(stored(1), counted) << path;
+        EXPECT_EQ(sheet.SheetPath, path);
+    }
+    EXPECT_EQ(frmMain.Text1[9].text, "Ulmus")
+        << "the one row without a key index gets the one that is missing";
+    EXPECT_EQ(shown(9), 4);
+    EXPECT_EQ(frmMain.Combo2.text, "20");
 }
 
 TEST_F(SheetFiles, aRepeatedKeyIndexIsToldAndGivesAFreshSheet)
@@ -309,6 +346,9 @@ TEST_F(SheetFiles, aTemplateHoldsTheTaxaAndIsNotOverwrittenUnasked)
     EXPECT_EQ(sheet.SampleCount, 1);
     EXPECT_EQ(frmMain.Text1[1].text, "Pinus");
     EXPECT_EQ(frmMain.Text3[0].text, "0");
+    frmSiteName_Command3_Click();
+    dialogs.paths.push_back(std::nullopt);
+    mnuOpen_Click(); // a change of mind leaves it a sheet begun from a template
     tap('Q');
     dialogs.paths.push_back("/home/Lake2.csv");
     mnuSave_Click();
@@ -320,6 +360,10 @@ TEST_F(SheetFiles, aTemplateHoldsTheTaxaAndIsNotOverwrittenUnasked)
 TEST_F(SheetFiles, backupsGoToTheMasterFirstAndThenRoundTheRing)
 {
     sheet.BackupSlot = 99;
+    files.unwritable.insert(folder + "Master_back_up.csv");
+    AutoBackup();
+    EXPECT_EQ(sheet.BackupSlot, 99) << "a master copy that failed is tried again";
+    files.unwritable.clear();
     AutoBackup();
     EXPECT_EQ(files.contents.size(), 1U);
     const auto line = [this](int slot) {

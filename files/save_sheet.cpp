@@ -66,8 +66,10 @@ void takeName(const std::string& path, const std::string& name)
 
 void SaveSheet(int mode)
 {
-    if (!sheet.KeysActive) // the boxes show percentages, which must not become counts
+    if (!sheet.KeysActive) { // the boxes show percentages, which must not become counts
+        sheet.SaveResult = 2;
         return;
+    }
     beginProgress();
     storeShownSample();
     // Before any dialog and any file: totals that no file can hold.
@@ -103,7 +105,7 @@ void SaveSheet(int mode)
 
     if (mode == saveAs)
         takeName(path, *name);
-    if (mode != copy) {
+    if (mode != copy || path == sheet.SheetPath) {
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
         sheet.TemplateOpened = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk

@@ -10,6 +10,8 @@
 
 void storeShownSample()
 {
+    if (!sheet.KeysActive) // the boxes show percentages; the tables are right
+        return;
     sheet.SampleField(sheet.CurrentSample, 2) = frmMain.Combo2.text;
     for (int slot = 1; slot <= taxonSlots; ++slot)
         sheet.Count(sheet.CurrentSample, slot) = wholeNumber(frmMain.Text2[slot].text);

@@ -149,6 +149,7 @@ void fillEmptyCells(SheetState& sheet, const std::array<std::string, infoItems +
     }
     for (int date = 1; date <= 3; ++date)
         sheet.DateHeader[date][4] = dateNames[date];
+    sheet.NoteHeader[4] = "Note: "; // a spreadsheet drops its trailing blank
     for (int column = 1; column <= 4; ++column) {
         for (int item = 1; item <= infoItems; ++item)
             fill(sheet.AdditionalHeader[item][column]);

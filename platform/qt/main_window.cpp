@@ -149,16 +149,22 @@ static QString droppedFile(const QDropEvent& event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!droppedFile(*event).isEmpty())
-        event->acceptProposedAction();
+    if (droppedFile(*event).isEmpty())
+        return;
+    event->setDropAction(Qt::CopyAction); // never moved: the file stays where it is
+    event->accept();
 }
 
 /// The file manager is let go first: the questions of opening must not keep it waiting.
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const std::string path = droppedFile(*event).toStdString();
-    event->acceptProposedAction();
-    QTimer::singleShot(0, this, [this, path] { onEvent([&] { openDropped(path); }); });
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    QTimer::singleShot(0, this, [this, path] {
+        if (QApplication::activeModalWidget() == nullptr) // a question that came first is answered first
+            onEvent([&] { openDropped(path); });
+    });
 }
 
 /// The whole sheet grows with the window: the letters of its controls here, those of the cells in their
