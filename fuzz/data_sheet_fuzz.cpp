@@ -15,6 +15,7 @@ static bool readWhole(DataSheetReader& reader, SheetState& sheet)
             return false;
     if (reader.repeatedKeyIndex())
         return false;
+    completeKeyIndexes(sheet);
     if (sheet.SampleCount == 0)
         reader.beginFromTemplate("1");
     return reader.readTexts();
@@ -25,7 +26,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = fileTextInCodePage({reinterpret_cast<const char*>(data), size});
     SheetState sheet;
     DataSheetReader reader(text, sheet);
-    if (readWhole(reader, sheet)) {
+    const bool whole = readWhole(reader, sheet);
+    completeKeyIndexes(sheet); // as after a file that ended early
+    if (whole) {
         fillEmptyCells(sheet, {});
         if (const auto totals = sampleTotals(sheet))
             dataSheetText(sheet, *totals);
