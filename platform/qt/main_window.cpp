@@ -132,8 +132,10 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
     case QEvent::FocusOut: {
         // A message or a menu in front is no reason to think that the user is done with the box.
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
-        if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            frmMain.focus = MainFocus::elsewhere; // or the note would call it back
             onEvent(leaveEditedBox);
+        }
         return false;
     }
     default:
