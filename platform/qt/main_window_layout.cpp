@@ -221,7 +221,11 @@ QWidget* MainWindow::infoPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     for (int item = 1; item <= infoItems; ++item) {
-        grid->addWidget(boundLabel(indexed("Label10", item), frmMain.Label10[item]), item, 0);
+        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item]);
+        QSizePolicy size = caption->sizePolicy();
+        size.setRetainSizeWhenHidden(true); // the boxes stay where they are when counting goes on
+        caption->setSizePolicy(size);
+        grid->addWidget(caption, item, 0);
         QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
         listen(Text5_Edited, item);
         box->setAccessibleName(QString("Additional info %1").arg(item));
