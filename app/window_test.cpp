@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -254,4 +255,80 @@ TEST_F(Widgets, aDroppedDataSheetIsOpened)
     EXPECT_EQ(named<QLineEdit>("Text2(1)")->text(), "1");
     EXPECT_EQ(named<QComboBox>("Combo2")->count(), 16);
     EXPECT_EQ(named<QComboBox>("Combo2")->currentText(), "EKH-C-18");
+}
+
+/// Modify template mode in the real window: keys come as real widgets see them.
+class Editing : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        named<QAbstractButton>("Command3(0)")->click();
+    }
+    static void type(const QString& text, int key = 0)
+    {
+        for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(kind, key, Qt::NoModifier, text);
+            QApplication::sendEvent(QApplication::focusWidget(), &event);
+        }
+    }
+    static QString focused() { return QApplication::focusWidget()->objectName(); }
+};
+
+TEST_F(Editing, tabGoesFromCellToCellAsAPersonReads)
+{
+    EXPECT_EQ(focused(), "Text4");
+    named<QWidget>("Text1(30)")->setFocus(Qt::TabFocusReason);
+    for (const char* next : {"Text2(30)", "Text1(34)", "Text2(34)", "Text1(35)"}) {
+        type("\t", Qt::Key_Tab);
+        EXPECT_EQ(focused(), next);
+    }
+    named<QAbstractButton>("Command3(1)")->click();
+    EXPECT_EQ(focused(), "Text99");
+    for (const char* cell : {"Text1(0)", "Text1(30)", "Text2(30)", "Text5(1)", "Text4"})
+        EXPECT_EQ(named<QWidget>(cell)->focusPolicy(), Qt::NoFocus) << cell;
+}
+
+TEST_F(Editing, whatIsTypedIsStoredShownAndLogged)
+{
+    named<QWidget>("Text1(30)")->setFocus(Qt::TabFocusReason);
+    for (const char* letter : {"A", "\"", "\u2192"})
+        type(QString::fromUtf8(letter));
+    EXPECT_EQ(sheet.TaxonRecord[30].Name, "A'?");
+    EXPECT_EQ(named<QLineEdit>("Text1(30)")->text(), "A'?") << "what a file cannot hold shows at once";
+    type("\t", Qt::Key_Tab);
+    EXPECT_EQ(sheet.ActionText.back(), "30: Taxa name [A'?]");
+    type("1");
+    type("2");
+    EXPECT_EQ(sheet.Count(1, 30), 12) << "typing replaces the number";
+    EXPECT_EQ(named<QLineEdit>("Text3(0)")->text(), "12");
+
+    QPlainTextEdit* const note = named<QPlainTextEdit>("Text4");
+    note->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(sheet.ActionText.back(), "30 (A'?): Replace 0 by 12");
+    note->selectAll();
+    note->insertPlainText("First\n\u2192\"");
+    EXPECT_EQ(sheet.SampleNote(1, 0), "First\r\n?'");
+    EXPECT_EQ(note->toPlainText(), "First\n?'");
+    EXPECT_TRUE(note->textCursor().atEnd());
+}
+
+TEST_F(Editing, aRowIsMovedByItsMenu)
+{
+    named<QWidget>("Text2(1)")->setFocus(Qt::TabFocusReason);
+    type("7");
+    QLabel* const index = named<QLabel>("Label1(1)");
+    QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, index->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                      Qt::LeftButton, {});
+    QApplication::sendEvent(index, &press);
+    EXPECT_TRUE(named<QMenu>("mnuRightButton")->isVisible());
+    named<QMenu>("mnuRightButton")->close();
+    QMenu* const targets = named<QMenu>("mnu46to90");
+    targets->popup({0, 0});
+    EXPECT_EQ(frmMain.SSTab1, 1);
+    EXPECT_EQ(named<QAction>("mnuMoveTo2(50)")->text(), "50: ---");
+    targets->close();
+    named<QAction>("mnuMoveTo2(50)")->trigger();
+    EXPECT_EQ(sheet.Count(1, 50), 7);
+    EXPECT_TRUE(waitFor([&] { return !named<QAction>("mnuMoveTo2(50)")->isEnabled(); }));
 }

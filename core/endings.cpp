@@ -1,6 +1,7 @@
 #include "core/endings.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/sheet_name.h"
@@ -69,7 +70,8 @@ static Answer askToSave()
 void Form_Unload(bool& cancel)
 {
     sheet.SaveResult = 1;
-    if (frmMain.Command5[0].enabled) {
+    leaveEditedBox();
+    if (sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled) {
         const Answer answer = askToSave();
         if (answer == Answer::cancel) {
             cancel = true;

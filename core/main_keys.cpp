@@ -9,7 +9,9 @@
 
 void Form_KeyDown(int keyCode, int shift)
 {
-    if (!sheet.Modifying)
+    if (sheet.Modifying)
+        sheet.LastKeyDown = keyCode; // the box that has the focus takes the key next
+    else
         DispatchKey(keyCode, shift);
 }
 

@@ -4,12 +4,16 @@
 #include "platform/controls.h"
 
 #include <array>
+#include <optional>
 
 /// Which control of the main window holds the keyboard focus, as far as handlers read or place it.
 enum class MainFocus {
     Text99, ///< the hidden box that keeps the focus while keys count
+    Text4,  ///< the note
     elsewhere
 };
+
+constexpr Colour modifyColour = RGB(200, 100, 100); ///< the sheet in Modify template mode
 
 /// The main window. Index = slot 1 to 135 (key number + 45 x layer) unless said otherwise; element 0 is never
 /// a taxon. The records are the sheet on show: the next key adds to the number in the text of Text2(slot).
@@ -21,8 +25,9 @@ struct MainScreen {
     bool enabled = true;
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;
-    int SSTab1 = 0;     ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
-    std::string notice; ///< line at the foot of the window: what an entry would say
+    int SSTab1 = 0;                    ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
+    std::optional<Colour> sheetColour; ///< of Picture1 and SSTab1; nothing: the window's own
+    std::string notice;                ///< line at the foot of the window: what an entry would say
 
     // The taxon cells.
     std::array<TextBox, taxonSlots + 1> Text1; ///< taxon name; 0: name of the sample on show; setText1()
@@ -40,6 +45,7 @@ struct MainScreen {
     std::array<OptionButton, 3> Option1; ///< the sum that the alarm watches and percentages go by
     TextBox Text4;                       ///< note
     std::array<TextBox, infoItems + 1> Text5;   ///< additional info 1 to 6
+    Label Label8;                               ///< hidden: mirrors the additional info stored last
     std::array<Label, infoItems + 1> Label10;   ///< its captions
     std::array<Button, infoItems + 1> Command7; ///< "Rename"
     std::array<Label, 3> Label14;               ///< 0 sheet created, 1 count start, 2 last saved
@@ -65,6 +71,7 @@ struct MainScreen {
     MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;
-    std::array<MenuEntry, 11> mnuFontSize; ///< index 6 to 10: the size in points
-    std::array<MenuEntry, 2> mnuAlign;     ///< 0 "Left", 1 "Right"
+    std::array<MenuEntry, taxonSlots + 1> mnuMoveTo; ///< mnuMoveTo1, 2, 3: target slots of a move
+    std::array<MenuEntry, 11> mnuFontSize;           ///< index 6 to 10: the size in points
+    std::array<MenuEntry, 2> mnuAlign;               ///< 0 "Left", 1 "Right"
 };

@@ -65,6 +65,9 @@ struct UndoEntry {
     std::int16_t slot = 0;   ///< positive: counted, negative: counted in reverse, 0: no count
 };
 
+/// Kind of box that the user edits.
+enum class EditedBox { none, Text1, Text2, Text4, Text5 };
+
 /// Everything about the open sheet, the key settings, the log and the modes. The member initialisers are the
 /// state of a program that has just been started: an empty sheet with one sample.
 struct SheetState {
@@ -126,6 +129,7 @@ struct SheetState {
 
     // Modes and marks.
     bool Modifying = false;        ///< "Modify template": keys edit and do not count
+    bool UnsavedEdits = false;     ///< in that mode: there is work to save, from before it or of it
     bool SheetPristine = true;     ///< no count and no edit since the last reset of the sheet
     bool FreshSheet = true;        ///< no accepted key yet: nothing is logged
     bool WarnNotLatest = true;     ///< counting in another than the latest sample asks first
@@ -134,10 +138,14 @@ struct SheetState {
     std::int16_t MoveSource = 0;   ///< slot that a move would start from
     std::int16_t MoveFrom = 0;     ///< source and target column of a sample move
     std::int16_t MoveTo = 0;
-    float PreviousCount = 0;      ///< number that a refused one gives way to
-    bool SampleSwitching = false; ///< a whole sample is being shown: change handlers store nothing
-    bool SoundOn = false;         ///< all eight cues could be read
-    bool Unloading = false;       ///< the windows are being taken down
+    float PreviousCount = 0;            ///< number that a refused one gives way to
+    EditedBox Edited = EditedBox::none; ///< box that is being visited in Modify template mode
+    int EditedIndex = 0;                ///< its index
+    std::string EditOld;                ///< its text when the visit began
+    int LastKeyDown = 9999;             ///< last key that went down in it, 9999 for none yet
+    bool SampleSwitching = false;       ///< a whole sample is being shown: change handlers store nothing
+    bool SoundOn = false;               ///< all eight cues could be read
+    bool Unloading = false;             ///< the windows are being taken down
     bool DiagramOpen = false;
     bool NamesNotNumeric = false; ///< at least one sample name is no plain number: no depth order
     int SaveResult = 0;           ///< 1: closing began, 2: the save did not complete

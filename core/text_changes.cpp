@@ -107,7 +107,7 @@ void Text3_Change(int total)
     if (total != 0 || !sheet.KeysActive)
         return;
     const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
-    if (all != 0)
+    if (all != 0 && !sheet.Modifying) // no next sample while this one is edited
         frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
     if (all == 1 && !sheet.SampleSwitching) // a sample that is only shown began earlier
         frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) =

@@ -15,13 +15,14 @@ void SSTab1_Click(int page)
     giveFocusBack();
 }
 
-void Label1_Click(int slot)
+bool Label1_Click(int slot)
 {
     for (Label& label : frmMain.Label1)
         label.bold = false;
     if (slot != 0)
         frmMain.Label1[slot].bold = true;
     sheet.MoveSource = static_cast<std::int16_t>(slot);
+    return sheet.Modifying && slot != 0;
 }
 
 void Text1_MouseMove()

@@ -48,6 +48,49 @@ void show(LineBinding& binding)
     was = now;
 }
 
+TypedText typedInto(LineBinding& binding)
+{
+    QLineEdit& widget = *binding.widget;
+    QString text = widget.text();
+    for (QChar& character : text)
+        if (character.isSpace() && character != QChar::Nbsp)
+            character = ' ';
+    const int caret = static_cast<int>(heldText(text.left(widget.cursorPosition())).size());
+    const std::string held = heldText(text);
+    if (const QString shown = shownText(held); shown != widget.text()) {
+        widget.setText(shown);
+        widget.setCursorPosition(caret);
+    }
+    binding.shown.text = held;
+    binding.shown.caret = caret;
+    return {held, caret};
+}
+
+/// Records end their lines with CR LF, the widget with one character.
+static std::string heldLines(const QString& text)
+{
+    return heldText(QString(text).replace('\n', "\r\n"));
+}
+
+static int caretInWidget(const TextBox& record)
+{
+    return static_cast<int>(
+        shownText(std::string_view(record.text).substr(0, record.caret)).remove('\r').size());
+}
+
+TypedText typedInto(NoteBinding& binding)
+{
+    QPlainTextEdit& widget = *binding.widget;
+    const QString text = widget.toPlainText();
+    const int caret = static_cast<int>(heldLines(text.left(widget.textCursor().position())).size());
+    const std::string held = heldLines(text);
+    binding.shown.text = held;
+    binding.shown.caret = caret;
+    if (shownText(held).remove('\r') != text)
+        binding.shown.text += '?'; // so that it is shown anew
+    return {held, caret};
+}
+
 void show(NoteBinding& binding)
 {
     const TextBox& now = *binding.record;
@@ -57,6 +100,9 @@ void show(NoteBinding& binding)
     const QSignalBlocker quiet(binding.widget); // it has no signal for a user's edits alone
     if (now.text != was.text)
         binding.widget->setPlainText(shownText(now.text));
+    QTextCursor cursor = binding.widget->textCursor();
+    cursor.setPosition(caretInWidget(now));
+    binding.widget->setTextCursor(cursor);
     binding.widget->setEnabled(now.enabled);
     was = now;
 }
@@ -98,7 +144,9 @@ void show(ActionBinding& binding)
     if (binding.widget->isCheckable())
         binding.widget->setChecked(binding.record->checked);
     if (binding.record->caption != binding.shown.caption)
-        binding.widget->setText(shownText(binding.shown.caption = binding.record->caption));
+        // A name with an "&" has no shortcut letter.
+        binding.widget->setText(
+            shownText(binding.shown.caption = binding.record->caption).replace('&', "&&"));
 }
 
 void show(BarBinding& binding)

@@ -54,6 +54,16 @@ void show(BarBinding& binding);
 void show(ComboBinding& binding);
 void show(LogBinding& binding);
 
+/// Takes what the user made of a box, in the form that the record holds: what the code page lacks shows as
+/// "?" at once, and a line break that came into a box of one line as a blank. `caret`: in characters of the
+/// text.
+struct TypedText {
+    std::string text;
+    int caret;
+};
+TypedText typedInto(LineBinding& binding);
+TypedText typedInto(NoteBinding& binding);
+
 template <class AnyBinding>
 void showAll(QList<AnyBinding>& bindings)
 {

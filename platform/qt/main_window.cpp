@@ -1,5 +1,6 @@
 #include "platform/qt/main_window.h"
 
+#include "core/editing.h"
 #include "core/endings.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
@@ -87,13 +88,16 @@ MainWindow::MainWindow()
         part->setMouseTracking(true);
     }
     scaleFont();
+    plainColours_ = surface->palette();
 
     forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
         if (focused != nullptr && focused->window() == this)
-            frmMain.focus = focused == focusSink_ ? MainFocus::Text99 : MainFocus::elsewhere;
+            frmMain.focus = focused == focusSink_ ? MainFocus::Text99
+                            : focused == note_    ? MainFocus::Text4
+                                                  : MainFocus::elsewhere;
     });
 }
 
@@ -102,7 +106,8 @@ void MainWindow::beginEvent()
     frmMain.notice.clear();
 }
 
-/// A click anywhere on the sheet returns to counting, and selects no text of a cell.
+/// While counting, a click anywhere on the sheet returns to the counting, and selects no text of a cell. In
+/// Modify template mode the boxes are edited.
 bool MainWindow::eventFilter(QObject* target, QEvent* event)
 {
     const QString name = target->objectName();
@@ -112,14 +117,30 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         onEvent(isCell ? Text1_MouseMove : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
-        if (name.startsWith("Label1("))
-            onEvent([slot = name.mid(7).chopped(1).toInt()] { Label1_Click(slot); });
-        else if (qobject_cast<QAbstractButton*>(target) == nullptr)
-            onEvent(giveFocusBack);
+        if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
+            return true;
         break;
     case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
+        if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())
+            enteredByMouse_->selectAll();
+        enteredByMouse_ = nullptr;
         break;
+    case QEvent::MouseButtonDblClick:
+        if (sheet.Modifying && static_cast<QMouseEvent&>(*event).button() == Qt::LeftButton)
+            boxDoubleClicked(static_cast<QWidget*>(target));
+        break;
+    case QEvent::FocusIn:
+        boxEntered(static_cast<QWidget*>(target), static_cast<QFocusEvent&>(*event).reason());
+        return false;
+    case QEvent::FocusOut: {
+        // A message or a menu in front is no reason to think that the user is done with the box.
+        const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
+        if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            frmMain.focus = MainFocus::elsewhere; // or the note would call it back
+            onEvent(leaveEditedBox);
+        }
+        return false;
+    }
     default:
         return false;
     }
@@ -186,6 +207,8 @@ void MainWindow::scaleFont()
 
 void MainWindow::present()
 {
+    // A box that is disabled passes the focus on, which is not the user's doing.
+    const MainFocus wanted = frmMain.focus;
     showAll(lines_);
     showAll(notes_);
     showAll(labels_);
@@ -206,6 +229,8 @@ void MainWindow::present()
         setWindowTitle(title);
     if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
+    presentMode();
+    frmMain.focus = wanted;
     presentFocusAndPointer();
     for (FormWindow* const form : forms_)
         form->present();
@@ -232,6 +257,8 @@ void MainWindow::presentFocusAndPointer()
 {
     if (frmMain.focus == MainFocus::Text99 && isActiveWindow() && !focusSink_->hasFocus())
         focusSink_->setFocus();
+    if (frmMain.focus == MainFocus::Text4 && isActiveWindow() && !note_->hasFocus())
+        note_->setFocus();
     if (frmMain.pointer != pointerShown_) {
         pointerShown_ = frmMain.pointer;
         constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::IBeamCursor, Qt::WaitCursor};

@@ -4,9 +4,12 @@
 #include "platform/qt/bindings.h"
 
 #include <QMainWindow>
+#include <QPalette>
 #include <array>
 
 class FormWindow;
+class QMenu;
+class QMouseEvent;
 class QTabWidget;
 class TaxonPage;
 
@@ -51,6 +54,8 @@ private:
     QWidget* historyPanel();
     QWidget* curvePanel();
     QLabel* boundLabel(const QString& name, const Label& record);
+    /// The user's edits of the box bound last reach `edited`.
+    void listen(void (*edited)(int, std::string_view, int), int index);
     QLineEdit* boundBox(const QString& name, const TextBox& record);
     QAbstractButton* boundButton(const QString& name, const Button& record, const QString& caption,
                                  void (*clicked)());
@@ -58,6 +63,13 @@ private:
 
     // main_window_menus.cpp
     void makeMenus();
+    void makeRowMenu();
+
+    // main_window_editing.cpp
+    bool boxPressed(QWidget* box, const QMouseEvent& press);
+    void boxDoubleClicked(const QWidget* box);
+    void boxEntered(QWidget* box, Qt::FocusReason reason);
+    void presentMode();
 
     /// What an entry says whose work is still to come.
     static void notThereYet(const QString& caption);
@@ -70,6 +82,11 @@ private:
     QTabWidget* tabs_ = nullptr;
     std::array<TaxonPage*, 3> pages_{};
     std::array<QLineEdit*, 3> sums_{};
+    QPlainTextEdit* note_ = nullptr;      ///< Text4
+    QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
+    QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
+    bool modifyingShown_ = false;
+    QPalette plainColours_; ///< of the sheet outside Modify template mode
 
     QList<LineBinding> lines_;
     QList<NoteBinding> notes_;

@@ -1,5 +1,6 @@
 // What stands where in the main window.
 
+#include "core/editing.h"
 #include "core/endings.h"
 #include "core/main_screen.h"
 #include "files/next_sample.h"
@@ -9,6 +10,7 @@
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
 
 #include <QComboBox>
@@ -48,6 +50,16 @@ QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
     return area;
 }
 
+void modify()
+{
+    Command3_Click(0);
+}
+
+void resume()
+{
+    Command3_Click(1);
+}
+
 template <class Layout>
 QWidget* panel(Layout* layout)
 {
@@ -75,6 +87,17 @@ QLineEdit* MainWindow::boundBox(const QString& name, const TextBox& record)
     box->setFocusPolicy(Qt::NoFocus);
     lines_.append({box, &record});
     return box;
+}
+
+void MainWindow::listen(void (*edited)(int, std::string_view, int), int index)
+{
+    const qsizetype at = lines_.size() - 1;
+    connect(lines_[at].widget, &QLineEdit::textEdited, this, [this, edited, index, at] {
+        onEvent([&] {
+            const TypedText typed = typedInto(lines_[at]);
+            edited(index, typed.text, typed.caret);
+        });
+    });
 }
 
 QAbstractButton* MainWindow::boundButton(const QString& name, const Button& record, const QString& caption,
@@ -112,6 +135,7 @@ QWidget* MainWindow::sampleStrip()
     auto* const row = new QHBoxLayout;
     row->addWidget(boundLabel("Label1(0)", frmMain.Label1[0]));
     QLineEdit* const name = boundBox("Text1(0)", frmMain.Text1[0]);
+    listen(Text1_Edited, 0);
     name->setAccessibleName("Sample name");
     row->addWidget(name, 2);
     QComboBox* const samples = boundCombo("Combo2", frmMain.Combo2);
@@ -127,8 +151,8 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", mnuOpen_Click));
     row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", mnuSave_Click));
     row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", mnuNext_Click));
-    row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", nullptr));
-    row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", nullptr));
+    row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", modify));
+    row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", resume));
     row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", AbortCount));
     return panel(row);
 }
@@ -152,7 +176,9 @@ QWidget* MainWindow::sheetPages()
             page->countBox(slot)->setObjectName(indexed("Text2", slot));
             page->indexLabel(slot)->setObjectName(indexed("Label1", slot));
             lines_.append({page->nameBox(slot), &frmMain.Text1[slot]});
+            listen(Text1_Edited, slot);
             lines_.append({page->countBox(slot), &frmMain.Text2[slot]});
+            listen(Text2_Edited, slot);
             labels_.append({page->indexLabel(slot), &frmMain.Label1[slot]});
         }
         tabs_->addTab(page, captions[layer]);
@@ -196,8 +222,13 @@ QWidget* MainWindow::infoPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     for (int item = 1; item <= infoItems; ++item) {
-        grid->addWidget(boundLabel(indexed("Label10", item), frmMain.Label10[item]), item, 0);
+        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item]);
+        QSizePolicy size = caption->sizePolicy();
+        size.setRetainSizeWhenHidden(true); // the boxes stay where they are when counting goes on
+        caption->setSizePolicy(size);
+        grid->addWidget(caption, item, 0);
         QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
+        listen(Text5_Edited, item);
         box->setAccessibleName(QString("Additional info %1").arg(item));
         grid->addWidget(box, item, 1);
         grid->addWidget(boundButton(indexed("Command7", item), frmMain.Command7[item], "Rename", nullptr),
@@ -215,6 +246,14 @@ QWidget* MainWindow::notePanel()
     grid->addWidget(fixedLabel("Label7(0)", "Note:"), 0, 0, 1, 2);
     QPlainTextEdit* const note = textArea("Text4", "Note of the sample");
     notes_.append({note, &frmMain.Text4});
+    note->setTabChangesFocus(true);
+    connect(note, &QPlainTextEdit::textChanged, this, [this, at = notes_.size() - 1] {
+        onEvent([&] {
+            const TypedText typed = typedInto(notes_[at]);
+            Text4_Edited(typed.text, typed.caret);
+        });
+    });
+    note_ = note;
     grid->addWidget(note, 1, 0, 1, 2);
     const char* const captions[] = {"Sheet created:", "Count start:", "Last saved: "};
     const char* const names[] = {"Label11", "Label12", "Label13"};

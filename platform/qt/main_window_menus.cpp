@@ -2,6 +2,7 @@
 
 #include "core/endings.h"
 #include "core/main_screen.h"
+#include "core/transfer_taxa.h"
 #include "core/undo.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -10,6 +11,7 @@
 #include "files/template_file.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
 
 #include <QAction>
@@ -87,8 +89,8 @@ QList<Entry> entries()
         {"mnuEdit", "mnuUndo", "Undo", &f.mnuUndo, undo},
         {"mnuEdit", "mnuReset", "Reset", &f.mnuReset, AbortCount},
         {"mnuEdit", nullptr, nullptr},
-        {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend},
-        {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend},
+        {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
+        {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
         {"mnuEdit", nullptr, nullptr},
         {"mnuEdit", "mnuFind", "Find"},
 
@@ -163,11 +165,42 @@ void MainWindow::makeMenus()
     // The menu of percentage tables is one entry of its own.
     actions_.append({made["mnuPercent"]->menuAction(), &frmMain.mnuPercent});
 
+    makeRowMenu();
+
     // mnuByPass: Ctrl and a letter is taken here and does nothing. It counts nothing either.
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
         auto* const taken = new QAction(this);
         taken->setObjectName(QString("mnu") + letter);
         taken->setShortcut(QKeySequence(QString("Ctrl+") + letter));
         addAction(taken);
+    }
+}
+
+/// The menu of a row. What the end of a target menu sets off waits until the entry that was chosen in it has
+/// done its work, since a menu closes first.
+void MainWindow::makeRowMenu()
+{
+    rowMenu_ = new QMenu("RB", this);
+    rowMenu_->setObjectName("mnuRightButton");
+    QMenu* const move = rowMenu_->addMenu("Move");
+    move->setObjectName("mnuMove2");
+    const char* const names[] = {"mnu1to45", "mnu46to90", "mnu91to135"};
+    const char* const captions[] = {"1-45 (Neutral)", "46-90 (Shift 1 or 2)", "91-135 (Shift 1 and 2)"};
+    for (int layer = 0; layer < 3; ++layer) {
+        QMenu* const targets = move->addMenu(captions[layer]);
+        targets->setObjectName(names[layer]);
+        connect(targets, &QMenu::aboutToShow, this,
+                [this, layer] { onEvent([&] { openTargetMenu(layer); }); });
+        connect(
+            targets, &QMenu::aboutToHide, this, [this, layer] { onEvent([&] { targetMenuClosed(layer); }); },
+            Qt::QueuedConnection);
+        for (int key = 1; key <= keysPerLayer; ++key) {
+            const int slot = layer * keysPerLayer + key;
+            QAction* const target = targets->addAction(QString::number(slot));
+            target->setObjectName(QString("mnuMoveTo%1(%2)").arg(layer + 1).arg(slot));
+            connect(target, &QAction::triggered, this,
+                    [this, slot] { onEvent([&] { mnuMoveTo_Click(slot); }); });
+            actions_.append({target, &frmMain.mnuMoveTo[slot]});
+        }
     }
 }

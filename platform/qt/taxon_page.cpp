@@ -98,6 +98,36 @@ void TaxonPage::sizeLetters(QWidget* widget, int points) const
         widget->setFont(letters);
 }
 
+void TaxonPage::makeEditable(bool editable)
+{
+    setAutoFillBackground(editable);
+    QList<int> order;
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        order << slot;
+        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
+            box->setReadOnly(!editable);
+            box->setFrame(editable);
+            box->setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
+            box->unsetCursor(); // the sheet's pointer holds here
+            if (!editable)
+                box->deselect();
+        }
+    }
+    std::sort(order.begin(), order.end(), [](int one, int other) {
+        const auto place = [](int slot) {
+            return std::pair(frmMain.Text1[slot].top, frmMain.Text1[slot].left);
+        };
+        return place(one) < place(other);
+    });
+    QWidget* last = nullptr;
+    for (const int slot : order)
+        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
+            if (last != nullptr)
+                setTabOrder(last, box);
+            last = box;
+        }
+}
+
 void TaxonPage::frameCell(int slot)
 {
     const int framed = slot >= firstSlot() && slot <= lastSlot() ? slot : 0;

@@ -21,6 +21,9 @@ public:
     /// Brings places and letter sizes up to date with the records and the page's size. Cheap when nothing
     /// changed.
     void placeCells();
+    /// Modify template mode: the cells take keys and look so, and Tab goes from name to count to the next
+    /// cell, row by row.
+    void makeEditable(bool editable);
     /// Moves the frame to a slot; one of another page takes it away.
     void frameCell(int slot);
 

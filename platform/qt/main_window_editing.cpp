@@ -1,0 +1,127 @@
+// Modify template mode in the main window: what makes its boxes editable, and what the mouse and the focus do
+// on them.
+
+#include "core/editing.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/taxon_page.h"
+#include "sheet/focus_and_pointer.h"
+#include "sheet/modify_mode.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+
+namespace {
+
+/// The control that a widget stands for, as in "Text2(12)".
+struct Control {
+    QString name;
+    int index = 0;
+};
+
+Control controlOf(const QWidget* widget)
+{
+    const QString name = widget->objectName();
+    const qsizetype bracket = name.indexOf('(');
+    if (bracket < 0)
+        return {name == "Text4.text" ? "Text4" : name};
+    return {name.left(bracket), name.mid(bracket + 1).chopped(1).toInt()};
+}
+
+void makeEditable(QLineEdit* box, bool editable)
+{
+    box->setReadOnly(!editable);
+    box->setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
+    if (!editable)
+        box->deselect();
+}
+
+QPalette modifyColours(QPalette colours, Colour sheet)
+{
+    const QColor back(sheet.red, sheet.green, sheet.blue);
+    colours.setColor(QPalette::Window, back);
+    colours.setColor(QPalette::WindowText, Qt::black); // in a dark theme too
+    return colours;
+}
+
+} // namespace
+
+/// True if the press goes no further.
+bool MainWindow::boxPressed(QWidget* box, const QMouseEvent& press)
+{
+    const auto [name, index] = controlOf(box);
+    const bool right = press.button() == Qt::RightButton;
+    bool menuOpens = false;
+    onEvent([&, name = name, index = index] {
+        if (name == "Label1")
+            menuOpens = Label1_Click(index);
+        else if (name == "Text1")
+            menuOpens = Text1_MouseDown(index, right);
+        else if (name == "Text2")
+            menuOpens = Text2_MouseDown(index, right);
+        else if (name == "Label10")
+            Label10_Click(index);
+        else if (qobject_cast<QAbstractButton*>(box) == nullptr)
+            giveFocusBack();
+    });
+    if (menuOpens)
+        rowMenu_->popup(press.globalPosition().toPoint());
+    return menuOpens;
+}
+
+void MainWindow::boxDoubleClicked(const QWidget* box)
+{
+    const QString name = controlOf(box).name;
+    if (name == "Text1")
+        onEvent(Text1_DblClick);
+    else if (name == "Text2")
+        onEvent(Text2_DblClick);
+    else if (name == "Text4")
+        onEvent(Text4_DblClick);
+}
+
+void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)
+{
+    if (!sheet.Modifying || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
+        return;
+    const auto [name, index] = controlOf(box);
+    onEvent([&, name = name, index = index] {
+        if (name == "Text1")
+            Text1_GotFocus(index);
+        else if (name == "Text2")
+            Text2_GotFocus(index);
+        else if (name == "Text4")
+            Text4_GotFocus();
+        else if (name == "Text5")
+            Text5_GotFocus(index);
+    });
+    // Typing replaces a count. Tab selects by itself; of a click, the press would take the selection away.
+    enteredByMouse_ =
+        name == "Text2" && reason == Qt::MouseFocusReason ? static_cast<QLineEdit*>(box) : nullptr;
+}
+
+void MainWindow::presentMode()
+{
+    const bool on = frmMain.sheetColour.has_value();
+    if (on == modifyingShown_)
+        return;
+    modifyingShown_ = on;
+    const QPalette colours = on ? modifyColours(plainColours_, *frmMain.sheetColour) : plainColours_;
+    centralWidget()->setPalette(colours);
+    centralWidget()->setAutoFillBackground(on);
+    for (TaxonPage* const page : pages_)
+        page->makeEditable(on);
+    for (const LineBinding& line : lines_) {
+        const Control control = controlOf(line.widget);
+        if (control.name == "Text5" || (control.name == "Text1" && control.index == 0))
+            makeEditable(line.widget, on);
+    }
+    note_->setReadOnly(!on);
+    note_->setUndoRedoEnabled(on);
+    note_->setFocusPolicy(on ? Qt::StrongFocus : Qt::NoFocus);
+}

@@ -1,0 +1,98 @@
+#include "sheet/modify_mode.h"
+
+#include "core/amending.h"
+#include "core/editing.h"
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "sheet/focus_and_pointer.h"
+#include "sheet/name_display.h"
+
+void mnuStartAmend_Click()
+{
+    // 1.
+    frmMain.Text4.enabled = true;
+    frmMain.Text4.text = sheet.SampleNote(sheet.CurrentSample, 0);
+    // 2.
+    for (int item = 1; item <= infoItems; ++item) {
+        frmMain.Label10[item].visible = frmMain.Label10[item].enabled = true;
+        frmMain.Text5[item].enabled = true;
+    }
+    // 3.
+    AmendingOnOff(0);
+}
+
+void mnuFinishAmend_Click()
+{
+    leaveEditedBox(); // the button and the menu leave the focus in the box
+    // 1.
+    frmMain.Text4.enabled = false;
+    for (int item = 1; item <= infoItems; ++item)
+        frmMain.Label10[item].visible = frmMain.Text5[item].enabled = false;
+    // 2.
+    ApplyItalics();
+    // 3.
+    AmendingOnOff(1);
+}
+
+void Command3_Click(int index)
+{
+    frmMain.SSTab1 = 0;
+    if (index == 0)
+        mnuStartAmend_Click();
+    else
+        mnuFinishAmend_Click();
+}
+
+bool Text1_MouseDown(int slot, bool rightButton)
+{
+    if (!sheet.Modifying) {
+        frmMain.focus = MainFocus::Text99;
+        return false;
+    }
+    if (!rightButton || slot == 0) // the sample's name is no row to move
+        return false;
+    sheet.MoveSource = static_cast<std::int16_t>(slot);
+    return true;
+}
+
+bool Text2_MouseDown(int slot, bool rightButton)
+{
+    sheet.PreviousCount = static_cast<float>(wholeNumber(frmMain.Text2[slot].text));
+    return Text1_MouseDown(slot, rightButton);
+}
+
+/// Of a double click the captions of the additional info stay on show, greyed.
+static void endEditing()
+{
+    if (!sheet.Modifying)
+        return;
+    leaveEditedBox();
+    frmMain.Text4.enabled = false;
+    ApplyItalics();
+    AmendingOnOff(1);
+    for (int item = 1; item <= infoItems; ++item)
+        frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false;
+}
+
+void Text1_DblClick()
+{
+    endEditing();
+}
+
+void Text2_DblClick()
+{
+    endEditing();
+}
+
+void Text4_DblClick()
+{
+    endEditing();
+}
+
+void Label10_Click(int item)
+{
+    std::string& caption = frmMain.Label10[item].caption;
+    if (!caption.ends_with(':'))
+        caption += ':';
+}
