@@ -93,10 +93,10 @@ void MainWindow::listen(void (*edited)(int, std::string_view, int), int index)
 {
     const qsizetype at = lines_.size() - 1;
     connect(lines_[at].widget, &QLineEdit::textEdited, this, [this, edited, index, at] {
-        onEvent([&] {
-            const TypedText typed = typedInto(lines_[at]);
-            edited(index, typed.text, typed.caret);
-        });
+        const TypedText typed = typedInto(lines_[at]);
+        onEvent([&] { edited(index, typed.text, typed.caret); });
+        if (edited == Text2_Edited && lines_[at].record->text != typed.text)
+            lines_[at].widget->selectAll(); // a number was refused: typing replaces the one that came back
     });
 }
 
