@@ -27,7 +27,7 @@ static void keepToCharacterRule(TextBox& box)
     }
 }
 
-static void type(TextBox& box, std::string_view text, int caret)
+void typeInto(TextBox& box, std::string_view text, int caret)
 {
     box.text = text;
     box.caret = caret;
@@ -37,7 +37,7 @@ static void type(TextBox& box, std::string_view text, int caret)
 void Text1_Edited(int slot, std::string_view text, int caret)
 {
     const std::string before = frmMain.Text1[slot].text;
-    type(frmMain.Text1[slot], text, caret);
+    typeInto(frmMain.Text1[slot], text, caret);
     if (frmMain.Text1[slot].text == before)
         return;
     sheet.UnsavedEdits = true;
@@ -59,7 +59,7 @@ void Text2_Edited(int slot, std::string_view text, int caret)
 void Text4_Edited(std::string_view text, int caret)
 {
     const std::string before = frmMain.Text4.text;
-    type(frmMain.Text4, text, caret);
+    typeInto(frmMain.Text4, text, caret);
     if (frmMain.Text4.text == before)
         return;
     sheet.SampleNote(sheet.CurrentSample, 0) = frmMain.Text4.text;
@@ -75,7 +75,7 @@ static void storeText5(int item)
 void Text5_Edited(int item, std::string_view text, int caret)
 {
     const std::string before = frmMain.Text5[item].text;
-    type(frmMain.Text5[item], text, caret);
+    typeInto(frmMain.Text5[item], text, caret);
     if (frmMain.Text5[item].text == before)
         return;
     storeText5(item);

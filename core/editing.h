@@ -2,11 +2,18 @@
 
 #include "core/sheet_state_type.h"
 
+#include "platform/controls.h"
+
 #include <string_view>
 
 /// What the user types into the boxes of the sheet in Modify template mode. A box is visited from when it
 /// gets the focus until it is left; each edit is stored at once, and a visit that changed a name or a count
 /// gives one line of the log when it ends. `caret`: characters before the caret, 0 to the length of `text`.
+
+/// What the user typed into a box that is to be stored. The character rule takes its character out again,
+/// with a message, and a double quotation mark that came another way becomes an apostrophe. `caret`:
+/// characters before the caret, 0 to the length of `text`.
+void typeInto(TextBox& box, std::string_view text, int caret);
 
 void Text1_Edited(int slot, std::string_view text, int caret); ///< slot 0: the name of the sample
 void Text2_Edited(int slot, std::string_view text, int caret);

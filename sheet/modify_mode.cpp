@@ -28,7 +28,7 @@ void mnuFinishAmend_Click()
     // 1.
     frmMain.Text4.enabled = false;
     for (int item = 1; item <= infoItems; ++item)
-        frmMain.Label10[item].visible = frmMain.Text5[item].enabled = false;
+        frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false; // boxes keep their captions
     // 2.
     ApplyItalics();
     // 3.

@@ -20,7 +20,7 @@ TEST_F(ModifyMode, hasItsTableOfStates)
     const bool* const modifying[] = {
         &f.Command3[1].enabled, &f.mnuFinishAmend.enabled, &f.Label1[1].visible,   &f.Label1[135].visible,
         &f.Label1[135].enabled, &f.Command7[1].visible,    &f.Command7[6].visible, &f.Text4.enabled,
-        &f.Text5[1].enabled,    &f.Text5[6].enabled,       &f.Label10[1].visible,  &f.Label10[6].visible};
+        &f.Text5[1].enabled,    &f.Text5[6].enabled,       &f.Label10[1].enabled,  &f.Label10[6].enabled};
     const auto expectMode = [&](bool on) {
         for (std::size_t i = 0; i < std::size(counting); ++i)
             EXPECT_EQ(!on, *counting[i]) << i;

@@ -1,5 +1,8 @@
 #include "platform/qt/form_window.h"
 
+#include "core/character_rule.h"
+#include "core/editing.h"
+#include "core/sheet_state.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
@@ -36,16 +39,17 @@ QLineEdit* FormWindow::box(const QString& name, TextBox& record, std::function<v
     auto* const edit = new QLineEdit(this);
     edit->setObjectName(name);
     edit->setMinimumWidth(220);
-    connect(edit, &QLineEdit::textEdited, this,
-            [this, &record](const QString& text) { main_.onEvent([&] { record.text = heldText(text); }); });
+    connect(edit, &QLineEdit::textEdited, this, [this, edit, &record](const QString& text) {
+        main_.onEvent([&] { typeInto(record, heldText(text), edit->cursorPosition()); });
+    });
     shows_ += [edit, &record] {
-        if (heldText(edit->text()) != record.text || edit->text() != shownText(record.text))
-            edit->setText(shownText(record.text));
+        if (edit->text() == shownText(record.text))
+            return;
+        edit->setText(shownText(record.text));
+        edit->setCursorPosition(record.caret);
     };
-    if (entered || left) {
-        focusHandlers_[edit] = {std::move(entered), std::move(left)};
-        edit->installEventFilter(this);
-    }
+    focusHandlers_[edit] = {std::move(entered), std::move(left)};
+    edit->installEventFilter(this);
     return edit;
 }
 
@@ -56,7 +60,12 @@ QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
     edit->setTabChangesFocus(true);
     edit->setFixedHeight(4 * edit->fontMetrics().lineSpacing());
     connect(edit, &QPlainTextEdit::textChanged, this, [this, edit, &record] {
-        main_.onEvent([&] { record.text = heldText(edit->toPlainText().replace("\n", "\r\n")); });
+        const QString text = edit->toPlainText();
+        const QString before = text.left(edit->textCursor().position());
+        main_.onEvent([&] { // line ends are two characters in the record
+            typeInto(record, heldText(QString(text).replace("\n", "\r\n")),
+                     static_cast<int>(before.size() + before.count('\n')));
+        });
     });
     shows_ += [edit, &record] {
         const QString text = shownText(record.text).replace("\r\n", "\n");
@@ -64,7 +73,10 @@ QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
             return;
         const QSignalBlocker quiet(edit);
         edit->setPlainText(text);
+        edit->moveCursor(QTextCursor::End);
     };
+    focusHandlers_[edit] = {};
+    edit->installEventFilter(this);
     return edit;
 }
 
@@ -93,6 +105,8 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
 {
     const auto handlers = focusHandlers_.constFind(target);
     if (handlers != focusHandlers_.constEnd()) {
+        if (event->type() == QEvent::FocusIn)
+            sheet.LastKeyDown = noKeyYet;
         if (event->type() == QEvent::FocusIn && handlers->first)
             main_.onEvent(handlers->first);
         if (event->type() == QEvent::FocusOut && handlers->second)

@@ -100,7 +100,12 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        return isForCounting(target) && takesKey(static_cast<QKeyEvent&>(*event));
+        if (isForCounting(target))
+            return takesKey(static_cast<QKeyEvent&>(*event));
+        if (target->isWindowType() &&
+            event->type() == QEvent::KeyPress) // a box of another window takes it next
+            sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
+        return false;
     case QEvent::ShortcutOverride: {
         auto& key = static_cast<QKeyEvent&>(*event);
         const bool inWindow = QApplication::activeWindow() == &window_ &&

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QPalette>
 #include <array>
+#include <functional>
 
 class FormWindow;
 class QMenu;
@@ -58,7 +59,7 @@ private:
     void listen(void (*edited)(int, std::string_view, int), int index);
     QLineEdit* boundBox(const QString& name, const TextBox& record);
     QAbstractButton* boundButton(const QString& name, const Button& record, const QString& caption,
-                                 void (*clicked)());
+                                 std::function<void()> clicked);
     QComboBox* boundCombo(const QString& name, const ComboBox& record);
 
     // main_window_menus.cpp

@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
+#include "files/rename_info.h"
 #include "files/save_sheet.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/taxon_page.h"
@@ -101,14 +102,14 @@ void MainWindow::listen(void (*edited)(int, std::string_view, int), int index)
 }
 
 QAbstractButton* MainWindow::boundButton(const QString& name, const Button& record, const QString& caption,
-                                         void (*clicked)())
+                                         std::function<void()> clicked)
 {
     auto* const button = new QToolButton;
     button->setText(caption);
     button->setObjectName(name);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the keys count
-    connect(button, &QToolButton::clicked, this, [this, clicked, caption] {
-        onEvent([&] { clicked != nullptr ? clicked() : notThereYet(caption); });
+    connect(button, &QToolButton::clicked, this, [this, clicked = std::move(clicked), caption] {
+        onEvent([&] { clicked ? clicked() : notThereYet(caption); });
     });
     buttons_.append({button, &record});
     return button;
@@ -231,8 +232,10 @@ QWidget* MainWindow::infoPanel()
         listen(Text5_Edited, item);
         box->setAccessibleName(QString("Additional info %1").arg(item));
         grid->addWidget(box, item, 1);
-        grid->addWidget(boundButton(indexed("Command7", item), frmMain.Command7[item], "Rename", nullptr),
-                        item, 2);
+        QAbstractButton* const rename = boundButton(indexed("Command7", item), frmMain.Command7[item],
+                                                    "Rename", [item] { Command7_Click(item); });
+        rename->setAccessibleName(QString("Rename additional info %1").arg(item));
+        grid->addWidget(rename, item, 2);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(infoItems + 1, 1);
