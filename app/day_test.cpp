@@ -1,12 +1,15 @@
 // A whole day at the microscope on the plain program: its file must hold exactly what was counted.
 
 #include "app/wiring.h"
+#include "core/editing.h"
 #include "core/endings.h"
 #include "core/program_test.h"
+#include "core/transfer_taxa.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
+#include "sheet/modify_mode.h"
 
 #include <algorithm>
 
@@ -23,10 +26,12 @@ protected:
     const std::string path = "/home/day.csv";
     std::vector<Sample> expected; ///< in depth order
     Sample* current = nullptr;
+    std::array<std::string, taxonSlots + 1> names;
 
     Day()
     {
         connectRooms();
+        names.fill("---");
         frmSiteName = SampleForm();
         frmNext = NextForm();
     }
@@ -69,11 +74,33 @@ protected:
             dialogs.paths.push_back(path);
         mnuSave_Click();
     }
+    /// Back at the desk: a taxon gets its name, a count is corrected by hand, and a row is moved.
+    void edit()
+    {
+        mnuStartAmend_Click();
+        Text1_GotFocus(1);
+        Text1_Edited(1, "Quercus", 7);
+        names[1] = "Quercus";
+        Text2_GotFocus(93);
+        Text2_Edited(93, "12", 2);
+        current->counts[93] = 12;
+        Text1_GotFocus(47);
+        Text1_Edited(47, "Abies", 5);
+        sheet.MoveSource = 47;
+        TransferTaxa(60);
+        names[60] = "Abies";
+        for (Sample& sample : expected) {
+            sample.counts[60] = sample.counts[47];
+            sample.counts[47] = 0;
+        }
+        tap('Q'); // counts nothing here
+        mnuFinishAmend_Click();
+    }
     std::string expectedTaxa() const
     {
         std::string text;
         for (int slot = 1; slot <= taxonSlots; ++slot) {
-            text += decimalText(slot) + ",0,0,\"---\"";
+            text += decimalText(slot) + ",0,0,\"" + names[slot] + "\"";
             for (const Sample& sample : expected)
                 text += "," + decimalText(sample.counts[slot]);
             text += "\r\n";
@@ -83,12 +110,12 @@ protected:
     std::string expectedHeads() const
     {
         std::string serials = "\"Serial No.\"";
-        std::string names = "\"Key index\",\"Subtotal-1\",\"Subtotal-2\",\"Sample name\"";
+        std::string depths = "\"Key index\",\"Subtotal-1\",\"Subtotal-2\",\"Sample name\"";
         for (const Sample& sample : expected) {
             serials += ",\"" + decimalText(sample.serial) + "\"";
-            names += ",\"" + decimalText(sample.depth) + "\"";
+            depths += ",\"" + decimalText(sample.depth) + "\"";
         }
-        return serials + "\r\n" + names + "\r\n";
+        return serials + "\r\n" + depths + "\r\n";
     }
 };
 
@@ -113,6 +140,8 @@ TEST_F(Day, endsWithExactlyTheFileOfWhatWasCounted)
                            Answer::yes);
             AbortCount();
         }
+        if (i == 15)
+            edit();
         save();
         if (i % 10 == 9) { // lunch: closed and opened again
             sheet.SheetPristine = true;

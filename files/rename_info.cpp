@@ -40,7 +40,10 @@ void frmParaName_Command1_Click()
     if (frmParaName.Label4.caption == "frmMain") {
         sheet.AdditionalInfo(0, item) = frmMain.Label10[item].caption = caption;
         sheet.SheetPristine = false;
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = !sheet.Modifying;
+        if (sheet.Modifying) // Save comes back with the end of the mode
+            sheet.UnsavedEdits = true;
+        else
+            frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
     } else {
         frmNext.Label3[item].caption = caption;
     }
