@@ -52,7 +52,8 @@ int main(int argc, char* argv[])
     ports.files->write(path, fullSheetText());
 
     report("open to ready on screen", "100 ms", [&] {
-        sheet.SheetPristine = true;
+        sheet.SheetPristine = true; // nothing to ask about
+        frmMain.Command5[0].enabled = false;
         program.window().onEvent([&] { openDropped(path); });
         QApplication::sendPostedEvents();
         QApplication::processEvents();
@@ -64,7 +65,8 @@ int main(int argc, char* argv[])
     const std::string almost = folder.filePath("almost.csv").toStdString();
     ports.files->write(almost, fullSheetText(sampleLimit - 1));
     const auto open = [&] {
-        sheet.SheetPristine = true;
+        sheet.SheetPristine = true; // nothing to ask about
+        frmMain.Command5[0].enabled = false;
         program.window().onEvent([&] { openDropped(almost); });
         QApplication::processEvents();
     };

@@ -23,6 +23,8 @@ FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title,
 
 void FormWindow::present()
 {
+    if (!shouldShow_ && !isVisible())
+        return;
     for (const auto& showOne : shows_)
         showOne();
     presentMore();
