@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "app/wiring.h"
+#include "core/endings.h"
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/start_up.h"
@@ -22,4 +23,9 @@ Program::Program(const QString& folder)
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);
     window_.show();
+}
+
+Program::~Program()
+{
+    Form_Terminate();
 }

@@ -12,6 +12,9 @@ class Program {
 public:
     /// `folder` holds "References" and "Sound files".
     explicit Program(const QString& folder);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
     MainWindow& window() { return window_; }
 

@@ -2,12 +2,24 @@
 
 #include "core/hooks.h"
 #include "files/backup.h"
+#include "files/new_sheet.h"
+#include "files/next_sample.h"
+#include "files/rename_info.h"
 #include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 
+/// In this order.
+static void unloadForms()
+{
+    frmNext.visible = false;
+    frmParaName.visible = false;
+    frmSiteName.visible = false;
+}
+
 void connectRooms()
 {
+    hooks.UnloadForms = unloadForms;
     hooks.ReadKeySettings = ReadKeySettings;
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
     hooks.SaveSheet = SaveSheet;

@@ -93,6 +93,13 @@ void Form_Unload(bool& cancel)
 void UnloadAll()
 {
     sheet.Unloading = true;
+    hooks.UnloadForms();
+}
+
+void Form_Terminate()
+{
+    sheet.SoundOn = false;
+    UnloadAll();
 }
 
 void CheckIfReallyEnd()

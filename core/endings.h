@@ -17,5 +17,8 @@ void Form_Unload(bool& cancel);
 /// Takes down all other windows. They read `sheet.Unloading` so as not to bring up the main window again.
 void UnloadAll();
 
+/// The main window is gone.
+void Form_Terminate();
+
 /// Keeps the sheet as it is as what a reset goes back to, and saves it.
 void CheckIfReallyEnd();
