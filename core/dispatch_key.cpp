@@ -13,11 +13,6 @@ namespace {
 constexpr int repeatGuardMilliseconds = 70;
 constexpr int hundred = 100;
 
-bool isShiftKey(int keyCode)
-{
-    return keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
-}
-
 bool isSaveKey(int keyCode)
 {
     return leadingNumber(sheet.KeySetting[rowSave].Code) == keyCode;

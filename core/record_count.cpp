@@ -18,7 +18,7 @@ static std::string slotText(int keyNumber)
     return text.size() == 1 ? "0" + text : text;
 }
 
-static bool isShiftKey(int keyCode)
+bool isShiftKey(int keyCode)
 {
     return keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
 }

@@ -16,7 +16,7 @@ ShowingSample::~ShowingSample()
     sheet.SampleSwitching = before_;
 }
 
-static std::string orDashes(const std::string& text)
+std::string orDashes(const std::string& text)
 {
     return text.empty() ? "---" : text;
 }

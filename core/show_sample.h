@@ -1,5 +1,10 @@
 #pragma once
 
+#include <string>
+
+/// A text of a sample as it is shown and kept: "---" if there is none.
+std::string orDashes(const std::string& text);
+
 /// While one lives, a sample is being shown: what is written to the boxes is neither stored nor stamped.
 class ShowingSample {
 public:

@@ -6,6 +6,7 @@
 #include "core/reset_sheet.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
 #include "diagram/sample_names.h"

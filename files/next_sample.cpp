@@ -4,6 +4,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
 #include "diagram/sample_move.h"

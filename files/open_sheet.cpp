@@ -166,7 +166,6 @@ void endEarly()
 void showTexts()
 {
     const int last = sheet.CurrentSample;
-    const auto orDashes = [](const std::string& text) { return text.empty() ? "---" : text; };
     for (int date = 0; date < 3; ++date)
         frmMain.Label14[date].caption = orDashes(sheet.SampleStamp(last, date + 1));
     frmMain.Text4.text = sheet.SampleNote(last, 0);

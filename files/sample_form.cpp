@@ -24,8 +24,3 @@ void SampleForm::leaveInfo(int item)
     if (Text3[item].text.empty())
         Text3[item].text = "---";
 }
-
-std::string orDashes(const std::string& text)
-{
-    return text.empty() ? "---" : text;
-}

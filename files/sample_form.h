@@ -21,6 +21,3 @@ struct SampleForm {
     void enterInfo(int item);
     void leaveInfo(int item);
 };
-
-/// The text of a box as the sheet keeps it.
-std::string orDashes(const std::string& text);

@@ -27,11 +27,6 @@
 
 namespace {
 
-QString indexed(const char* name, int index)
-{
-    return QString("%1(%2)").arg(name).arg(index);
-}
-
 QLabel* fixedLabel(const char* name, const QString& text)
 {
     auto* const label = new QLabel(text);

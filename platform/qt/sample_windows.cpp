@@ -3,6 +3,7 @@
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/rename_info.h"
+#include "platform/qt/text.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -12,11 +13,6 @@
 #include <QPushButton>
 
 namespace {
-
-QString indexed(const char* name, int index)
-{
-    return QString("%1(%2)").arg(name).arg(index);
-}
 
 QHBoxLayout* buttonRow(std::initializer_list<QWidget*> buttons)
 {

@@ -17,3 +17,9 @@ inline std::string heldText(const QString& text)
     return toCodePage(
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
 }
+
+/// The object name of one of several controls, as in "Text2(12)".
+inline QString indexed(const char* name, int index)
+{
+    return QString("%1(%2)").arg(name).arg(index);
+}
