@@ -8,6 +8,7 @@
 #include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/subtotals.h"
 
 /// In this order.
 static void unloadForms()
@@ -15,6 +16,7 @@ static void unloadForms()
     frmNext.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
+    frmSubtotal.visible = false;
 }
 
 void connectRooms()

@@ -34,6 +34,15 @@ void typeInto(TextBox& box, std::string_view text, int caret)
     keepToCharacterRule(box);
 }
 
+void markUnsavedWork()
+{
+    sheet.SheetPristine = false;
+    if (sheet.Modifying)
+        sheet.UnsavedEdits = true;
+    else
+        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+}
+
 void Text1_Edited(int slot, std::string_view text, int caret)
 {
     const std::string before = frmMain.Text1[slot].text;

@@ -21,6 +21,7 @@
 #include "sheet/cell_grid.h"
 #include "sheet/file_location.h"
 #include "sheet/name_display.h"
+#include "sheet/subtotals.h"
 
 #include <algorithm>
 #include <functional>
@@ -60,16 +61,10 @@ bool mayGo(bool dropped)
 /// Steps 9 to 11.
 void showHeads()
 {
-    const auto& names = sheet.SheetHeader[2];
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
     setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
-    const std::string& all = frmMain.Label2[0].caption;
-    frmMain.Label2[1].caption = names[2] + ":";
-    frmMain.Label2[2].caption = names[3] + ":";
-    frmMain.mnuPercentAll.caption = "% by " + all.substr(0, all.size() - 1);
-    frmMain.mnuPercentSub1.caption = "% by " + names[2];
-    frmMain.mnuPercentSub2.caption = "% by " + names[3];
+    showSubtotalNames();
 
     frmMain.Combo2.items.clear();
     ++frmMain.Combo2.itemsRevision;

@@ -6,6 +6,8 @@
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
 #include "platform/qt/sample_windows.h"
+#include "platform/qt/subtotal_window.h"
+#include "platform/qt/summary_window.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
@@ -90,7 +92,8 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this)};
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this),
+              new SubtotalWindow(*this), new SummaryWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {

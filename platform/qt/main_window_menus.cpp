@@ -9,10 +9,13 @@
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "files/template_file.h"
+#include "files/text_exports.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
+#include "sheet/subtotals.h"
+#include "sheet/summary.h"
 
 #include <QAction>
 #include <QMap>
@@ -78,11 +81,11 @@ QList<Entry> entries()
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuNext", "Next sample", &f.mnuNext, mnuNext_Click},
         {"mnuFile", nullptr, nullptr},
-        {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory},
-        {"mnuFile", "mnuSaveSaturation", "Save Saturation curve"},
-        {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll},
-        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1},
-        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2},
+        {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory, mnuSaveHistory_Click},
+        {"mnuFile", "mnuSaveSaturation", "Save Saturation curve", nullptr, mnuSaveSaturation_Click},
+        {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll, mnuPercentAll_Click},
+        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1, mnuPercentSub1_Click},
+        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2, mnuPercentSub2_Click},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 
@@ -103,9 +106,9 @@ QList<Entry> entries()
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings"},
         {"mnuTools", "mnuInitial", "Initialise"},
-        {"mnuTools", "mnuSubtotal", "Subtotal settings"},
+        {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
         {"mnuTools", nullptr, nullptr},
-        {"mnuTools", "mnuSummary", "Summary"},
+        {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
         {"mnuTools", "mnuDiagnose", "Diagnose"},
 
         {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
