@@ -8,6 +8,7 @@
 #include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/live_curve.h"
 
 /// In this order.
 static void unloadForms()
@@ -24,4 +25,5 @@ void connectRooms()
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.DrawDiversity = DrawDiversity;
 }
