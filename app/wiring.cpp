@@ -8,6 +8,7 @@
 #include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/live_curve.h"
 #include "sheet/subtotals.h"
 
 /// In this order.
@@ -26,4 +27,5 @@ void connectRooms()
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.DrawDiversity = DrawDiversity;
 }

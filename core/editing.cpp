@@ -145,6 +145,20 @@ static void listSampleNames()
     ++frmMain.Combo2.itemsRevision;
 }
 
+void renameShownSample(std::string_view name, int caret)
+{
+    TextBox typed;
+    typeInto(typed, name, caret);
+    if (anotherSampleIsNamed(typed.text)) {
+        frmMain.Combo2.text = frmMain.Text1[0].text;
+        return;
+    }
+    sheet.UnsavedEdits = true;
+    setText1(0, typed.text);
+    frmMain.Combo2.text = typed.text;
+    listSampleNames();
+}
+
 static void leaveText1(int slot)
 {
     const std::string& text = frmMain.Text1[slot].text;

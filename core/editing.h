@@ -24,6 +24,9 @@ void Text2_Edited(int slot, std::string_view text, int caret);
 void Text4_Edited(std::string_view text, int caret);
 void Text5_Edited(int item, std::string_view text, int caret);
 
+/// Names the sample on show from the list of samples. A name that another sample has is refused silently.
+void renameShownSample(std::string_view name, int caret);
+
 /// A visit begins; one that still lasts ends first. Outside the mode there are no visits.
 void Text1_GotFocus(int slot);
 void Text2_GotFocus(int slot);

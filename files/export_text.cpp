@@ -26,9 +26,7 @@ std::string saturationText(const SheetState& sheet, std::string_view sampleName)
     FieldWriter fields;
     fields.text(sampleName).endLine();
     fields.text("No. of individuals").text("Diversity").endLine();
-    // A sample without individuals may still have the curve of what was counted before.
-    const int last = std::min<int>(sheet.DiversityTotal, sheet.SampleTotal);
-    for (int individuals = 1; individuals <= last; ++individuals)
+    for (int individuals = 1; individuals <= sheet.DiversityTotal; ++individuals)
         if (sheet.DiversityCurve[individuals] > 0)
             fields.number(individuals).decimal(sheet.DiversityCurve[individuals] / 10.0).endLine();
     fields.text("(End)").endLine();

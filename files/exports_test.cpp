@@ -25,13 +25,13 @@ protected:
             end = text.find("\r\n", end) + 2;
         return text.substr(begin, end - begin);
     }
-    /// Three samples: counts of 3 taxa, of none, and of numbers whose percentages lie halfway.
+    /// Three samples: thirds, a total below 0, and percentages that lie halfway.
     void makeSheet()
     {
         addSamples(3);
         sheet.SheetHeader[2][2] = "Trees";
         sheet.TaxonRecord[1] = {"1", "1", "1", "0", "Pinus"};
-        const int counts[3][3] = {{1, 2, 0}, {0, 0, 7}, {3, 125, 0}};
+        const int counts[3][3] = {{1, 2, 0}, {0, 0, -7}, {3, 125, 0}};
         for (int sample = 1; sample <= 3; ++sample)
             for (int slot = 1; slot <= 3; ++slot)
                 sheet.Count(sample, slot) = counts[sample - 1][slot - 1];
@@ -85,13 +85,12 @@ TEST_F(Exports, theSaturationFileHoldsThePointsOfTheSampleOnShow)
         EXPECT_EQ(text.substr(0, head.size()), head);
         return text.substr(head.size());
     };
-    sheet.WarnNotLatest = false;
-    sheet.DiversityTotal = sheet.SampleTotal = 5;
+    sheet.DiversityTotal = 5;
     sheet.DiversityCurve = {0, 10, 17, 0, 0, 5};
     EXPECT_EQ(saved(), "1,1\r\n2,1.7\r\n5,0.5\r\n\"(End)\"\r\n") << "no line for a total without a point";
     EXPECT_EQ(dialogs.proposed, "/program/References/Saturation.csv");
-    sheet.SampleTotal = 0;
-    EXPECT_EQ(saved(), "\"(End)\"\r\n") << "everything was taken back, or the sample is new";
+    sheet.DiversityTotal = 0;
+    EXPECT_EQ(saved(), "\"(End)\"\r\n");
     EXPECT_TRUE(sound.played.empty());
     files.unwritable.insert("/home/s.csv");
     choose("/home/s.csv");
@@ -117,7 +116,7 @@ TEST_F(Exports, percentagesAreRoundedHalvesToEven)
     EXPECT_EQ(lines("/home/p.csv", 147, 149),
               "\"---\",\"---\",\"---\",\"Trees\",33.3333,0,2.3438\r\n"
               "\"---\",\"---\",\"---\",\"Subtotal-2\",0,0,0\r\n"
-              "\"---\",\"---\",\"---\",\"All total\",\"100 (n=3)\",\"100 (n=7)\",\"100 (n=128)\"\r\n");
+              "\"---\",\"---\",\"---\",\"All total\",\"100 (n=3)\",\"100 (n=-7)\",\"100 (n=128)\"\r\n");
     const std::string& text = files.contents.at("/home/p.csv");
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 149);
 }
@@ -131,7 +130,7 @@ TEST_F(Exports, aTableByASubtotalHasEveryTaxonAndNoBasisIs9999)
     EXPECT_TRUE(frmMain.Option1[1].selected && frmMain.Text1[1].underline && sheet.AlarmArmed);
     EXPECT_FALSE(frmMain.Option1[0].selected);
     EXPECT_EQ(lines("/home/p.csv", 3, 5), "1,1,0,\"Pinus\",100,9999,100\r\n"
-                                          "2,0,0,\"---\",200,9999,4166.6665\r\n" // in single precision
+                                          "2,0,0,\"---\",200,9999,4166.667\r\n" // in single precision
                                           "3,0,0,\"---\",0,9999,0\r\n");
     EXPECT_EQ(lines("/home/p.csv", 147, 149),
               "\"---\",\"---\",\"---\",\"Trees\",\"100 (n=1)\",\"100 (n=0)\",\"100 (n=3)\"\r\n"

@@ -18,6 +18,7 @@
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
+#include "sheet/basis.h"
 #include "sheet/cell_grid.h"
 #include "sheet/file_location.h"
 #include "sheet/name_display.h"
@@ -135,6 +136,7 @@ void forgetCounts()
 {
     sheet.UndoStack.fill({1, 0});
     frmMain.mnuUndo.enabled = false;
+    forgetCurve();
     highlight(0, plainRow);
     sheet.HighlightRow = 0;
 }
@@ -154,7 +156,6 @@ void endEarly()
         showHeads();
     }
     showSample(sheet.CurrentSample);
-    sheet.WarnNotLatest = true;
     TakeSnapshot(); // a reset must not bring counts of the sheet before
 }
 
@@ -181,6 +182,7 @@ void settle()
 {
     ArrangeTaxonCells();
     forgetCounts();
+    sheet.WarnNotLatest = true; // another sample comes on show
     {
         const ShowingSample showing;
         RecountTotals(sheet.CurrentSample);
@@ -192,11 +194,7 @@ void settle()
     WrapFileLocation();
     frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
     frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
-    for (int basis = 0; basis < 3; ++basis)
-        frmMain.Option1[basis].selected = basis == 0;
-    for (int slot = 1; slot <= taxonSlots; ++slot)
-        frmMain.Text1[slot].underline = false;
-    sheet.WarnNotLatest = true; // another sample came on show
+    selectBasis(0);
     AutoBackup();
     ApplyItalics();
 

@@ -8,9 +8,11 @@
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/subtotal_window.h"
 #include "platform/qt/summary_window.h"
+#include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/percent_view.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -124,6 +126,9 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
             return true;
         break;
     case QEvent::MouseButtonRelease:
+    case QEvent::UngrabMouse:
+        if (target == percent_)
+            onEvent(Command6_MouseUp);
         if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())
             enteredByMouse_->selectAll();
         enteredByMouse_ = nullptr;
@@ -144,6 +149,8 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         }
         return false;
     }
+    case QEvent::Wheel: // a turn of the wheel on the way elsewhere must not change the sample
+        return qobject_cast<QComboBox*>(target) != nullptr;
     default:
         return false;
     }
@@ -232,6 +239,9 @@ void MainWindow::present()
         setWindowTitle(title);
     if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
+    for (int total = 0; total < 3; ++total)
+        hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+    curve_->present();
     presentMode();
     frmMain.focus = wanted;
     presentFocusAndPointer();

@@ -12,6 +12,7 @@
 #include "files/text_exports.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
 #include "sheet/subtotals.h"
@@ -22,18 +23,16 @@
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
-
-using Handler = void (*)();
-
-struct Entry {
+struct MainMenuEntry {
     const char* menu; ///< name of the menu it stands in; see `menus`
     const char* name; ///< nullptr: a line between entries
     const char* caption;
     MenuEntry* record = nullptr; ///< entries without one are always enabled
-    Handler handler = nullptr;   ///< entries without one say that they are not there yet
+    void (*handler)() = nullptr; ///< entries without one say that they are not there yet
     bool checkable = false;
 };
+
+namespace {
 
 struct Menu {
     const char* name;
@@ -67,7 +66,7 @@ void align()
     mnuAlign_Click(side);
 }
 
-QList<Entry> entries()
+QList<MainMenuEntry> entries()
 {
     MainScreen& f = frmMain;
     return {
@@ -131,6 +130,19 @@ QList<Entry> entries()
 
 } // namespace
 
+void MainWindow::addEntry(QMenu& menu, const MainMenuEntry& entry)
+{
+    QAction* const action = menu.addAction(entry.caption);
+    action->setObjectName(entry.name);
+    action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
+    action->setCheckable(entry.checkable);
+    connect(action, &QAction::triggered, this, [this, entry] {
+        onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
+    });
+    if (entry.record != nullptr)
+        actions_.append({action, entry.record});
+}
+
 void MainWindow::makeMenus()
 {
     QMap<QString, QMenu*> made;
@@ -149,26 +161,24 @@ void MainWindow::makeMenus()
         return made[name];
     };
 
-    for (const Entry& entry : entries()) {
+    for (const MainMenuEntry& entry : entries()) {
         QMenu* const menu = menuOf(entry.menu);
         if (entry.name == nullptr) {
             menu->addSeparator();
             continue;
         }
-        QAction* const action = menu->addAction(entry.caption);
-        action->setObjectName(entry.name);
-        action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
-        action->setCheckable(entry.checkable);
-        connect(action, &QAction::triggered, this, [this, entry] {
-            onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
-        });
-        if (entry.record != nullptr)
-            actions_.append({action, entry.record});
+        addEntry(*menu, entry);
     }
     // The menu of percentage tables is one entry of its own.
     actions_.append({made["mnuPercent"]->menuAction(), &frmMain.mnuPercent});
 
     makeRowMenu();
+    curveMenu_ = new QMenu(this);
+    curveMenu_->setObjectName("mnuDiversityRB");
+    addEntry(*curveMenu_, {"mnuDiversityRB", "mnuCopyDiversity", "Copy image", &frmMain.mnuCopyDiversity,
+                           mnuCopyDiversity_Click});
+    addEntry(*curveMenu_,
+             {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &frmMain.mnuSaveDiversity, SaveDiversity});
 
     // mnuByPass: Ctrl and a letter is taken here and does nothing. It counts nothing either.
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
