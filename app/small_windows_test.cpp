@@ -25,7 +25,7 @@ protected:
     {
         WindowTest::SetUp();
         window->onEvent([] {
-            setText1(1, "Pinus & Picea, undifferentiated grains");
+            setText1(1, "P & P, undifferentiated grains");
             setText2(1, "7");
         });
     }
@@ -55,9 +55,9 @@ TEST_F(SmallWindows, groupsAreTickedNamedAndCancelled)
 {
     open("mnuSubtotal", "frmSubtotal");
     auto* const pinus = part<QCheckBox>("Check1(1)");
-    EXPECT_EQ(pinus->toolTip(), "Pinus & Picea, undifferentiated grains");
-    EXPECT_TRUE(pinus->text().startsWith("Pinus && Picea")) << "an ampersand is no shortcut";
-    EXPECT_LE(pinus->sizeHint().width(), pinus->width()) << "cut, not clipped";
+    EXPECT_EQ(pinus->toolTip(), "P & P, undifferentiated grains");
+    EXPECT_TRUE(pinus->text().startsWith("P && P")) << "an ampersand is no shortcut";
+    EXPECT_TRUE(pinus->text().endsWith(QChar(0x2026))) << "cut, not clipped";
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         const auto* const box = part<QCheckBox>(QString("Check1(%1)").arg(slot).toLatin1());
         EXPECT_TRUE(box->parentWidget()->contentsRect().contains(box->geometry())) << slot;
@@ -85,7 +85,7 @@ TEST_F(SmallWindows, theSummaryFillsItsWindow)
 {
     open("mnuSummary", "frmSummary");
     auto* const ranking = part<QPlainTextEdit>("Text1(0)");
-    EXPECT_EQ(ranking->toPlainText(), "1: Pinus & Picea, undifferentiated grains (n = 7)\n---");
+    EXPECT_EQ(ranking->toPlainText(), "1: P & P, undifferentiated grains (n = 7)\n---");
     form->resize(700, 300);
     settle();
     EXPECT_GT(ranking->width(), 660);

@@ -10,7 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
+#include <QScreen>
+#include <QStyleOptionButton>
 #include <algorithm>
 
 /// The 45 check boxes of a layer. Their places are scaled to the frame; a name that does not fit is cut and
@@ -49,21 +50,22 @@ void CheckPage::placeBoxes()
     const CellGrid& grid = cellGrid();
     const QRect inside = contentsRect().adjusted(8, 2, -4, -4);
     const int height = boxes_.front()->sizeHint().height();
+    constexpr int columnWidth = 1290; // nearly up to the next one
     const double across =
-        inside.width() / double(grid.CellLeft[lastPlace] - grid.CellLeft[firstPlace] + cellNameWidth);
+        inside.width() / double(grid.CellLeft[lastPlace] - grid.CellLeft[firstPlace] + columnWidth);
     const double down =
         (inside.height() - height) / double(grid.CellTop[lastPlace] - grid.CellTop[firstPlace]);
-    const int mark = style()->pixelMetric(QStyle::PM_IndicatorWidth) +
-                     style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing) + 2;
     for (int i = 0; i < keysPerLayer; ++i) {
         QCheckBox& box = *boxes_[i];
         box.setGeometry(inside.left() +
                             static_cast<int>((record(i).left - grid.CellLeft[firstPlace]) * across),
                         inside.top() + static_cast<int>((record(i).top - grid.CellTop[firstPlace]) * down),
-                        static_cast<int>(cellNameWidth * across), height);
+                        static_cast<int>(columnWidth * across), height);
         const QString name = shownText(record(i).caption);
-        box.setText(
-            box.fontMetrics().elidedText(name, Qt::ElideRight, box.width() - mark).replace('&', "&&"));
+        QStyleOptionButton option;
+        option.initFrom(&box);
+        const int room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &box).width();
+        box.setText(box.fontMetrics().elidedText(name, Qt::ElideRight, room).replace('&', "&&"));
         box.setToolTip(name);
         box.setAccessibleName(name);
     }
@@ -124,6 +126,7 @@ SubtotalWindow::SubtotalWindow(MainWindow& main)
     ends->addWidget(ok);
     ends->addWidget(button("Command3", "Cancel", frmSubtotal_Command3_Click));
     whole->addLayout(ends);
+    resize(std::min(1280, screen()->availableGeometry().width() - 24), 520); // wide: names are long
 }
 
 void SubtotalWindow::presentMore()

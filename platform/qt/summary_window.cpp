@@ -16,7 +16,7 @@ SummaryWindow::SummaryWindow(MainWindow& main)
     ranking_->setLineWrapMode(QPlainTextEdit::NoWrap);
     setFirst(ranking_);
     (new QVBoxLayout(this))->addWidget(ranking_);
-    resize(380, 480);
+    resize(460, 480);
 }
 
 void SummaryWindow::presentMore()
