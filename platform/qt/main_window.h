@@ -89,7 +89,7 @@ private:
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
     QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
-    std::array<QAction*, 3> hundredMarks_{};
+    std::array<QLabel*, 3> hundredMarks_{};
     QAbstractButton* percent_ = nullptr; ///< Command6
     QComboBox* samples_ = nullptr;       ///< Combo2
     SurfaceView* curve_ = nullptr;       ///< Picture2

@@ -53,14 +53,14 @@ QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
 }
 
 /// The alarm's visible twin.
-QIcon bellIcon()
+QPixmap bellPicture(qreal devicePixelRatio)
 {
-    constexpr int size = 64;
-    QPixmap picture(size, size);
+    constexpr int size = 16;
+    QPixmap picture((QSizeF(size, size) * devicePixelRatio).toSize());
+    picture.setDevicePixelRatio(devicePixelRatio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 16.0, size / 16.0);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(200, 110, 0));
     QPainterPath bell(QPointF(2, 12));
@@ -225,12 +225,18 @@ QWidget* MainWindow::sumStrip()
         QLineEdit* const sum = sums_[total] = boundBox(indexed("Text3", total), frmMain.Text3[total]);
         sum->setAccessibleName(names[total]);
         sum->setAlignment(Qt::AlignRight);
-        hundredMarks_[total] = sum->addAction(bellIcon(), QLineEdit::LeadingPosition);
-        hundredMarks_[total]->setObjectName(indexed("hundredMark", total));
-        hundredMarks_[total]->setToolTip("A full hundred");
-        hundredMarks_[total]->setVisible(false);
         row->addWidget(sum, 2);
-        row->addSpacing(16);
+        QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
+        bell->setObjectName(indexed("hundredMark", total));
+        bell->setPixmap(bellPicture(devicePixelRatioF()));
+        bell->setToolTip("A full hundred");
+        bell->setAccessibleName(QString("A full hundred of ") + names[total]);
+        QSizePolicy kept = bell->sizePolicy();
+        kept.setRetainSizeWhenHidden(true);
+        bell->setSizePolicy(kept);
+        bell->hide();
+        row->addWidget(bell);
+        row->addSpacing(8);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
@@ -242,7 +248,7 @@ QWidget* MainWindow::sumStrip()
         connect(option, &QRadioButton::clicked, this,
                 [this, total] { onEvent([&] { selectBasis(total); }); });
         options_.append({option, &frmMain.Option1[total]});
-        row->insertWidget(4 * total + 2, option);
+        row->insertWidget(5 * total + 3, option);
     }
     percent_ = boundButton("Command6", frmMain.Command6, "%", [] {}); // works while it is held: boxPressed()
     percent_->setFocusPolicy(Qt::NoFocus);
