@@ -23,7 +23,7 @@ private:
     RealFiles files_;
     SdlSound sound_;
     SystemClock clock_;
-    ClipboardPictures pictures_;
+    QtPictures pictures_;
     EventLoopTimer timer_;
     MainWindow window_;
     MessageBoxes dialogs_;

@@ -1,6 +1,7 @@
 #include "app/wiring.h"
 
 #include "core/hooks.h"
+#include "diagram/diagram_window.h"
 #include "files/backup.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -14,6 +15,7 @@
 /// In this order.
 static void unloadForms()
 {
+    closeDiagram();
     frmNext.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
@@ -28,4 +30,6 @@ void connectRooms()
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
     hooks.DrawDiversity = DrawDiversity;
+    hooks.RefreshDiagram = refreshDiagram;
+    hooks.BasisChanged = diagramBasisChanged;
 }

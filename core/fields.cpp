@@ -86,6 +86,13 @@ FieldWriter& FieldWriter::decimal(double field)
     return *this;
 }
 
+FieldWriter& FieldWriter::decimal(float field)
+{
+    separate();
+    text_ += plainDecimal(field);
+    return *this;
+}
+
 void FieldWriter::endLine()
 {
     text_ += "\r\n";

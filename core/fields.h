@@ -34,6 +34,7 @@ public:
     FieldWriter& number(long long field);
     /// A number with decimals, in its plain decimal writing.
     FieldWriter& decimal(double field);
+    FieldWriter& decimal(float field);
     /// Ends the line; the fields before it are separated by commas.
     void endLine();
     std::string take() { return std::move(text_); }

@@ -24,6 +24,7 @@ struct MainScreen {
 
     std::string caption = "TallyStrata 3.2.5 - [Untitled]";
     bool enabled = true;
+    int forwardRevision = 0; ///< goes up whenever the window is to come in front
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;
     int SSTab1 = 0;                    ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"

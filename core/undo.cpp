@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/highlight.h"
+#include "core/hooks.h"
 #include "core/hundred_mark.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -67,6 +68,8 @@ void Undo()
         frmMain.mnuUndo.enabled = false;
     // 11.
     sheet.AlarmArmed = true;
+    if (sheet.DiagramOpen)
+        hooks.RefreshDiagram();
 }
 
 void Amend()

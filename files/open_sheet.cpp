@@ -11,6 +11,7 @@
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
+#include "diagram/diagram_window.h"
 #include "diagram/sample_names.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
@@ -188,6 +189,7 @@ void settle()
         RecountTotals(sheet.CurrentSample);
         showTexts();
     }
+    frmMain.Picture2.clearPicture();
     TakeSnapshot();
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
@@ -216,6 +218,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     sheet.FreshSheet = true;
     if (const auto path = choose())
         if (const auto bytes = ports.files->read(*path, sheetLimit)) {
+            closeDiagram(); // it shows the sheet that goes
             beginProgress();
             const Reading reading = readSheet(fileTextInCodePage(*bytes), *path);
             if (reading == Reading::complete) {

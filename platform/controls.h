@@ -46,6 +46,7 @@ struct OptionButton {
 struct CheckBox {
     std::string caption;
     bool checked = false;
+    bool visible = true;
     int top = 0;
     int left = 0;
 };

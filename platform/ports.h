@@ -40,6 +40,11 @@ public:
     virtual std::optional<std::string> chooseFileToSave(const std::string& proposed) = 0;
     /// Path of a data file to read, or nothing if the user cancels.
     virtual std::optional<std::string> chooseFileToOpen() = 0;
+    /// Path of a picture to write, with one of the endings .svg, .pdf and .png, or nothing if the user
+    /// cancels.
+    virtual std::optional<std::string> choosePictureToSave(const std::string& proposed) = 0;
+    /// A colour, or nothing if the user cancels.
+    virtual std::optional<Colour> chooseColour(Colour current) = 0;
 };
 
 enum class Cue {
@@ -65,6 +70,8 @@ public:
     virtual void beep() = 0;
 };
 
+enum class PictureFormat { svg, pdf, png };
+
 /// Pictures that leave the program.
 class Pictures {
 public:
@@ -72,6 +79,10 @@ public:
     /// Puts a picture on the clipboard in place of what is there: sharp in a word processor, and as vectors
     /// for a drawing program.
     virtual void copy(const Figure& figure) = 0;
+    /// The bytes of a file that holds the picture.
+    virtual std::string encode(const Figure& figure, PictureFormat format) = 0;
+    /// How long a text is, pixels of the design.
+    virtual float textWidth(const Letters& letters) = 0;
 };
 
 /// One reading of the system's clock, local time.

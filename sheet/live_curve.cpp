@@ -129,7 +129,8 @@ void DrawDiversity()
 
 void Picture2_Resize()
 {
-    drawPicture();
+    if (!frmMain.Picture2.picture.marks.empty()) // an opened sheet begins without a curve
+        drawPicture();
 }
 
 void mnuDiversityRB_Open()

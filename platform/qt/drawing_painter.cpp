@@ -85,11 +85,7 @@ private:
     void paintText(const Mark& mark)
     {
         const Letters& letters = drawing_.texts[mark.letters];
-        QFont font;
-        font.setFamilies({"Arial", "Liberation Sans", "Helvetica", "DejaVu Sans"});
-        font.setStyleHint(QFont::SansSerif);
-        font.setItalic(letters.italic);
-        font.setPointSizeF(qreal{letters.height} * 72 / painter_.device()->logicalDpiY());
+        const QFont font = fontOf(letters, painter_.device()->logicalDpiY());
         painter_.save();
         painter_.setFont(font);
         painter_.setPen(shownColour(mark.pen));
@@ -112,6 +108,16 @@ private:
 };
 
 } // namespace
+
+QFont fontOf(const Letters& letters, int dotsPerInch)
+{
+    QFont font;
+    font.setFamilies({"Arial", "Liberation Sans", "Helvetica", "DejaVu Sans"});
+    font.setStyleHint(QFont::SansSerif);
+    font.setItalic(letters.italic);
+    font.setPointSizeF(qreal{letters.height} * 72 / dotsPerInch);
+    return font;
+}
 
 void paintDrawing(QPainter& painter, const Drawing& drawing, const Scale& scale, const QRectF& target,
                   LineWidth lines)

@@ -1,9 +1,11 @@
 #include "platform/qt/figures.h"
 
 #include "platform/qt/drawing_painter.h"
+#include "platform/qt/text.h"
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
@@ -55,13 +57,6 @@ QByteArray pngOf(const QImage& image)
     return bytes;
 }
 
-} // namespace
-
-QByteArray figurePng(const Figure& figure)
-{
-    return pngOf(figureImage(figure));
-}
-
 QByteArray figureSvg(const Figure& figure)
 {
     QByteArray bytes;
@@ -97,7 +92,9 @@ QByteArray figurePdf(const Figure& figure)
     return bytes;
 }
 
-void ClipboardPictures::copy(const Figure& figure)
+} // namespace
+
+void QtPictures::copy(const Figure& figure)
 {
     auto* const data = new QMimeData;
     const QImage image = figureImage(figure);
@@ -106,4 +103,17 @@ void ClipboardPictures::copy(const Figure& figure)
     data->setData("image/svg+xml", figureSvg(figure));
     data->setData("application/pdf", figurePdf(figure));
     QGuiApplication::clipboard()->setMimeData(data);
+}
+
+std::string QtPictures::encode(const Figure& figure, PictureFormat format)
+{
+    const QByteArray bytes = format == PictureFormat::svg   ? figureSvg(figure)
+                             : format == PictureFormat::pdf ? figurePdf(figure)
+                                                            : pngOf(figureImage(figure));
+    return bytes.toStdString();
+}
+
+float QtPictures::textWidth(const Letters& letters)
+{
+    return static_cast<float>(QFontMetricsF(fontOf(letters, 96)).horizontalAdvance(shownText(letters.text)));
 }

@@ -2,15 +2,10 @@
 
 #include "platform/ports.h"
 
-#include <QByteArray>
-
-/// The forms in which a figure leaves the program.
-QByteArray figurePng(const Figure& figure);
-QByteArray figureSvg(const Figure& figure);
-QByteArray figurePdf(const Figure& figure);
-
-/// The system's clipboard.
-class ClipboardPictures : public Pictures {
+/// Figures as images and as vectors, for the system's clipboard and for files.
+class QtPictures : public Pictures {
 public:
     void copy(const Figure& figure) override;
+    std::string encode(const Figure& figure, PictureFormat format) override;
+    float textWidth(const Letters& letters) override;
 };

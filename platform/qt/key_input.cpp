@@ -4,7 +4,9 @@
 #include "core/main_keys.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "diagram/diagram_window.h"
 #include "platform/key_codes.h"
+#include "platform/qt/diagram_window.h"
 #include "platform/qt/main_window.h"
 #include "sheet/percent_view.h"
 
@@ -22,7 +24,7 @@ KeyInput::KeyInput(MainWindow& window) : window_(window)
     connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
     qApp->installEventFilter(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
-        if (focused != window_.windowHandle())
+        if (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle())
             keyboardLost();
     });
 }
@@ -39,8 +41,9 @@ void KeyInput::keyboardLost()
 
 bool KeyInput::isForCounting(const QObject* target) const
 {
-    return target == window_.windowHandle() && frmMain.enabled &&
-           QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
+    return (target == window_.windowHandle() || target == window_.diagramWindow().windowHandle()) &&
+           frmMain.enabled && QApplication::activePopupWidget() == nullptr &&
+           QApplication::activeModalWidget() == nullptr;
 }
 
 int KeyInput::virtualKey(const QKeyEvent& event)
@@ -87,7 +90,12 @@ bool KeyInput::takesKey(QKeyEvent& event)
 void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
 {
     for (const keycodes::KeyEvent& key : events)
-        window_.onEvent([&] { key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift); });
+        window_.onEvent([&] {
+            if (inDiagram_)
+                key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
+            else
+                key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
+        });
 }
 
 /// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
@@ -104,15 +112,18 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (isForCounting(target))
+        if (isForCounting(target)) {
+            inDiagram_ = target == window_.diagramWindow().windowHandle();
             return takesKey(static_cast<QKeyEvent&>(*event));
+        }
         if (target->isWindowType() &&
             event->type() == QEvent::KeyPress) // a box of another window takes it next
             sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
         return false;
     case QEvent::ShortcutOverride: {
         auto& key = static_cast<QKeyEvent&>(*event);
-        const bool inWindow = QApplication::activeWindow() == &window_ &&
+        const QWidget* const active = QApplication::activeWindow();
+        const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
         const int code = inWindow ? virtualKey(key) : 0;
         if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))

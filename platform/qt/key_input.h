@@ -29,5 +29,6 @@ private:
     MainWindow& window_;
     X11Layout layout_;
     keycodes::KeyRepeatFilter repeats_;
-    QTimer heldRelease_; ///< a release waits this long for the press that would make it a repeat
+    bool inDiagram_ = false; ///< the last key went to the diagram's window
+    QTimer heldRelease_;     ///< a release waits this long for the press that would make it a repeat
 };

@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/diagram_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/subtotal_window.h"
 #include "platform/qt/summary_window.h"
@@ -96,6 +97,7 @@ MainWindow::MainWindow()
 
     forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this),
               new SubtotalWindow(*this), new SummaryWindow(*this)};
+    diagram_ = std::make_unique<DiagramWindow>(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -105,6 +107,8 @@ MainWindow::MainWindow()
                                                   : MainFocus::elsewhere;
     });
 }
+
+MainWindow::~MainWindow() = default;
 
 void MainWindow::beginEvent()
 {
@@ -247,6 +251,12 @@ void MainWindow::present()
     presentFocusAndPointer();
     for (FormWindow* const form : forms_)
         form->present();
+    diagram_->present();
+    if (frmMain.forwardRevision != forwardShown_) {
+        forwardShown_ = frmMain.forwardRevision;
+        raise();
+        activateWindow();
+    }
 }
 
 /// What a screen reader says of a cell.

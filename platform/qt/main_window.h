@@ -7,8 +7,10 @@
 #include <QPalette>
 #include <array>
 #include <functional>
+#include <memory>
 
 struct MainMenuEntry;
+class DiagramWindow;
 class FormWindow;
 class QMenu;
 class QMouseEvent;
@@ -21,6 +23,7 @@ class TaxonPage;
 class MainWindow : public QMainWindow {
 public:
     MainWindow();
+    ~MainWindow() override;
 
     /// Runs the handler of one event of the user, then shows what it changed.
     template <class Handler>
@@ -37,6 +40,9 @@ public:
     /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds
     /// and does not grow with the sheet.
     void present();
+
+    /// The window of the diagram, where keys count too.
+    const DiagramWindow& diagramWindow() const { return *diagram_; }
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
@@ -107,6 +113,8 @@ private:
     QList<ComboBinding> combos_;
     QList<LogBinding> logs_;
     std::array<std::string, taxonSlots + 1> namesShown_;
+    std::unique_ptr<DiagramWindow> diagram_;
+    int forwardShown_ = 0;
     QList<FormWindow*> forms_; ///< the small windows above this one
     Pointer pointerShown_ = Pointer::arrow;
 };

@@ -4,6 +4,7 @@
 #include "core/main_screen.h"
 #include "core/transfer_taxa.h"
 #include "core/undo.h"
+#include "diagram/diagram_window.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -96,12 +97,12 @@ QList<MainMenuEntry> entries()
         {"mnuEdit", nullptr, nullptr},
         {"mnuEdit", "mnuFind", "Find"},
 
-        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar},
-        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea},
-        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot},
+        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar, mnuBar_Click},
+        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea, mnuArea_Click},
+        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, mnuDot_Click},
         {"mnuDiagram", nullptr, nullptr},
-        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve},
-        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve},
+        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
+        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings"},
         {"mnuTools", "mnuInitial", "Initialise"},
