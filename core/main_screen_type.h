@@ -68,7 +68,7 @@ struct MainScreen {
     // Menus. Only entries whose state a handler changes stand here.
     MenuEntry mnuNew, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
     MenuEntry mnuPercent, mnuPercentAll, mnuPercentSub1, mnuPercentSub2; ///< captions follow the subtotals
-    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend;
+    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend, mnuFind;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;
     std::array<MenuEntry, taxonSlots + 1> mnuMoveTo; ///< mnuMoveTo1, 2, 3: target slots of a move

@@ -5,9 +5,11 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/find_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
+#include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 
 #include <QApplication>
@@ -90,7 +92,8 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this)};
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this),
+              new FindWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -219,9 +222,10 @@ void MainWindow::present()
     showAll(combos_);
     showAll(logs_);
     presentNames();
+    const int framed = frmFind.visible && sheet.FoundSlot != 0 ? sheet.FoundSlot : sheet.HighlightRow;
     for (TaxonPage* const page : pages_) {
         page->placeCells();
-        page->frameCell(sheet.HighlightRow);
+        page->frameCell(framed);
     }
     if (tabs_->currentIndex() != frmMain.SSTab1)
         tabs_->setCurrentIndex(frmMain.SSTab1);

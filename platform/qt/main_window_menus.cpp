@@ -10,6 +10,7 @@
 #include "files/save_sheet.h"
 #include "files/template_file.h"
 #include "platform/qt/main_window.h"
+#include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
@@ -92,7 +93,7 @@ QList<Entry> entries()
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
         {"mnuEdit", nullptr, nullptr},
-        {"mnuEdit", "mnuFind", "Find"},
+        {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 
         {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar},
         {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea},
