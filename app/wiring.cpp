@@ -1,6 +1,9 @@
 #include "app/wiring.h"
 
 #include "core/hooks.h"
+#include "extras/about.h"
+#include "extras/diagnose.h"
+#include "extras/pictures.h"
 #include "files/backup.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -8,13 +11,19 @@
 #include "files/save_sheet.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/find.h"
 
-/// In this order.
+/// In this order; nothing asks for when frmFind and frmDiagnose go.
 static void unloadForms()
 {
+    frmAboutDX1.visible = false;
+    frmAboutApp.visible = false;
     frmNext.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
+    frmPicture.visible = false;
+    frmFind.visible = false;
+    frmDiagnose.visible = false;
 }
 
 void connectRooms()

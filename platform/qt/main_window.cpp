@@ -5,7 +5,10 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/about_windows.h"
+#include "platform/qt/diagnose_window.h"
 #include "platform/qt/find_window.h"
+#include "platform/qt/picture_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
@@ -92,8 +95,9 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this),
-              new FindWindow(*this)};
+    forms_ = {new SiteNameWindow(*this),    new NextWindow(*this),    new ParameterNameWindow(*this),
+              new FindWindow(*this),        new PictureWindow(*this), new AboutAppWindow(*this),
+              new AboutKeypadWindow(*this), new DiagnoseWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {

@@ -4,6 +4,9 @@
 #include "core/main_screen.h"
 #include "core/transfer_taxa.h"
 #include "core/undo.h"
+#include "extras/about.h"
+#include "extras/diagnose.h"
+#include "extras/pictures.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -107,7 +110,7 @@ QList<Entry> entries()
         {"mnuTools", "mnuSubtotal", "Subtotal settings"},
         {"mnuTools", nullptr, nullptr},
         {"mnuTools", "mnuSummary", "Summary"},
-        {"mnuTools", "mnuDiagnose", "Diagnose"},
+        {"mnuTools", "mnuDiagnose", "Diagnose", nullptr, mnuDiagnose_Click},
 
         {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
         {"mnuFont", "mnuFontSize(6)", "6", &f.mnuFontSize[6], fontSize<6>, true},
@@ -118,12 +121,12 @@ QList<Entry> entries()
         {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], align<0>, true},
         {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], align<1>, true},
 
-        {"mnuTired", "mnuCoffee", "Coffee"},
-        {"mnuTired", "mnuBeach", "Beach"},
-        {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite},
+        {"mnuTired", "mnuCoffee", "Coffee", nullptr, mnuCoffee_Click},
+        {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
+        {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite, mnuFavorite_Click},
         {"mnuHelp", nullptr, nullptr},
-        {"mnuHelp", "mnuAboutDX1", "About programmable keypads"},
-        {"mnuHelp", "mnuAboutApp", "About TallyStrata"},
+        {"mnuHelp", "mnuAboutDX1", "About programmable keypads", nullptr, mnuAboutDX1_Click},
+        {"mnuHelp", "mnuAboutApp", "About TallyStrata", nullptr, mnuAboutApp_Click},
     };
 }
 
