@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/sheet_state_type.h"
+#include "core/version.h"
 #include "platform/controls.h"
 
 #include <array>
@@ -21,7 +22,7 @@ constexpr Colour modifyColour = RGB(200, 100, 100); ///< the sheet in Modify tem
 struct MainScreen {
     MainScreen();
 
-    std::string caption = "TallyStrata 3.2.5 - [Untitled]";
+    std::string caption = std::string("TallyStrata ") + programVersion + " - [Untitled]";
     bool enabled = true;
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;

@@ -2,6 +2,7 @@
 
 #include "core/built_in_keys.h"
 #include "core/number_text.h"
+#include "core/version.h"
 #include "platform/code_page.h"
 #include "platform/key_names.h"
 
@@ -191,12 +192,13 @@ std::string diagnoseReport(const SheetState& sheet, const std::vector<SeenKey>& 
                            const SystemFacts& facts)
 {
     const std::string& folder = facts.programFolder;
-    return "TallyStrata 3.2.5, diagnosis of " + facts.date + "\n" + keyboard(sheet, keys) + heading("Sound") +
+    return std::string("TallyStrata ") + programVersion + ", diagnosis of " + facts.date + "\n" +
+           keyboard(sheet, keys) + heading("Sound") +
            line("Cues", sheet.SoundOn ? "on, all eight were read"
                                       : "off: not all could be read, so there is no alarm and no backup") +
            line("Device", facts.soundDevice) + heading("Folders") + line("Program", folder) +
            line("Key settings", folder + "/References") +
            line("Backups", folder + "/References/Back up files") + line("Cues", folder + "/Sound files") +
-           heading("Versions") + line("TallyStrata", "3.2.5") + line("Qt", facts.qt) +
+           heading("Versions") + line("TallyStrata", programVersion) + line("Qt", facts.qt) +
            line("SDL", facts.sdl) + line("System", facts.system) + line("Screen", facts.screen);
 }

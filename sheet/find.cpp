@@ -200,8 +200,6 @@ void FindForm::SelectTaxon()
 
 void mnuFind_Click()
 {
-    if (sheet.Modifying)
-        return;
     for (int slot = 1; slot <= taxonSlots; ++slot)
         frmFind.savedColours[slot] = frmMain.Text1[slot].backColor;
     for (MapKey& key : frmFind.Command1)

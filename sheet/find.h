@@ -39,7 +39,7 @@ struct FindForm {
 };
 extern FindForm frmFind;
 
-/// "Find". Not offered in Modify template mode, where no key counts.
+/// "Find". Its entry is disabled in Modify template mode, where no key counts.
 void mnuFind_Click();
 
 void frmFind_Text1_Change();

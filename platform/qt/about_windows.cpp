@@ -1,5 +1,6 @@
 #include "platform/qt/about_windows.h"
 
+#include "core/version.h"
 #include "extras/about.h"
 #include "platform/ports.h"
 #include "platform/qt/system_facts.h"
@@ -17,6 +18,24 @@ QString row(const QString& label, const QString& text)
 {
     return "<tr><td style='padding-right:14px'>" + label + "</td><td>" + text.toHtmlEscaped() + "</td></tr>";
 }
+
+/// %1 version, %2 that of Qt, %3 that of SDL, %4 rows of folders.
+const char* const appText = R"(
+<h2>TallyStrata %1</h2>
+<p>Counts pollen, diatoms and other small things in a series of samples with one hand on the keyboard, and draws them
+against depth.</p>
+<p>© 2026 The TallyStrata developers. TallyStrata is free software under the MIT licence: you may use, copy,
+change and pass it on as long as its licence goes with it. It comes without any warranty.</p>
+<p>It is built on</p>
+<ul style='margin-left:-20px'>
+<li>Qt %2, © The Qt Company Ltd. and other contributors, under the GNU Lesser General Public License,
+version 3</li>
+<li>SDL %3, © Sam Lantinga and other contributors, under the zlib licence</li>
+</ul>
+<p>Both are separate libraries, linked dynamically, and can be replaced by other versions of them.</p>
+<p>Folders in use:</p>
+<table>%4</table>
+)";
 
 const char* const keypadText = R"(
 <h3>Keypads, number pads and foot switches</h3>
@@ -75,30 +94,11 @@ void AboutAppWindow::presentMore()
     const SystemFacts facts = systemFacts();
     const QString folder = QDir::toNativeSeparators(QString::fromStdString(facts.programFolder));
     const QString inside = folder + QDir::separator();
-    const auto version = [](const std::string& text) { return QString::fromStdString(text).toHtmlEscaped(); };
-    text_->setText(
-        "<h2>TallyStrata 3.2.5</h2>"
-        "<p>Counts pollen, diatoms and other small things in a series of samples with one hand on the "
-        "keyboard, "
-        "and draws them against depth.</p>"
-        "<p>\u00A9 2026 The TallyStrata developers. TallyStrata is free software under the MIT licence: you "
-        "may use, "
-        "copy, change and pass it on as long as its licence goes with it. It comes without any warranty.</p>"
-        "<p>It is built on</p><ul style='margin-left:-20px'>"
-        "<li>Qt " +
-        version(facts.qt) +
-        ", \u00A9 The Qt Company Ltd. and other contributors, under the GNU Lesser "
-        "General Public License, version 3</li>"
-        "<li>SDL " +
-        version(facts.sdl) +
-        ", \u00A9 Sam Lantinga and other contributors, under the zlib licence</li>"
-        "</ul><p>Both are separate libraries of the system, linked dynamically, and can be replaced by other "
-        "versions "
-        "of them.</p>"
-        "<p>Folders in use:</p><table>" +
-        row("Program", folder) + row("Key settings", inside + "References") +
-        row("Backups", inside + QDir::toNativeSeparators("References/Back up files")) +
-        row("Sounds", inside + "Sound files") + "</table>");
+    const QString folders = row("Program", folder) + row("Key settings", inside + "References") +
+                            row("Backups", inside + QDir::toNativeSeparators("References/Back up files")) +
+                            row("Sounds", inside + "Sound files");
+    text_->setText(QString(appText).arg(programVersion, QString::fromStdString(facts.qt),
+                                        QString::fromStdString(facts.sdl), folders));
 }
 
 AboutKeypadWindow::AboutKeypadWindow(MainWindow& main)

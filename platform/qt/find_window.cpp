@@ -37,8 +37,17 @@ std::pair<int, int> mapPlace(int position)
 FindWindow::FindWindow(MainWindow& main)
     : FormWindow(main, "frmFind", "Find", frmFind.visible, frmFind_Command2_Click), main_(main)
 {
-    text_ = box("Text1", frmFind.Text1);
-    connect(text_, &QLineEdit::textEdited, this, [this] { main_.onEvent(frmFind_Text1_Change); });
+    // No box of the sheet: what is typed here goes into no file, so it keeps to no character rule.
+    text_ = new QLineEdit;
+    text_->setObjectName("Text1");
+    text_->setMinimumWidth(220);
+    text_->installEventFilter(this);
+    connect(text_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        main_.onEvent([&] {
+            frmFind.Text1.text = heldText(text);
+            frmFind_Text1_Change();
+        });
+    });
     auto* const what = new QLabel("Find what:");
     what->setBuddy(text_);
     setFirst(text_);
@@ -118,6 +127,8 @@ QWidget* FindWindow::keyMap()
 
 void FindWindow::presentMore()
 {
+    if (frmFind.Text1.text != heldText(text_->text()))
+        text_->setText(shownText(frmFind.Text1.text));
     presentList();
     presentKeyMap();
     count_->setEnabled(frmFind.Command3.enabled);
