@@ -12,6 +12,8 @@
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 #include "sheet/find.h"
+#include "sheet/live_curve.h"
+#include "sheet/subtotals.h"
 
 /// In this order; nothing asks for when frmFind and frmDiagnose go.
 static void unloadForms()
@@ -21,6 +23,7 @@ static void unloadForms()
     frmNext.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
+    frmSubtotal.visible = false;
     frmPicture.visible = false;
     frmFind.visible = false;
     frmDiagnose.visible = false;
@@ -33,4 +36,5 @@ void connectRooms()
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.DrawDiversity = DrawDiversity;
 }

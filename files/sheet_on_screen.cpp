@@ -40,10 +40,10 @@ void showSheetName(const std::string& name)
     frmMain.caption = std::string("TallyStrata ") + programVersion + " - [" + toCodePageFromUtf8(name) + "]";
 }
 
-void beginProgress()
+void beginProgress(int steps)
 {
     frmMain.pointer = Pointer::hourglass;
-    frmMain.ProgressBar1 = {true, 0, taxonSlots};
+    frmMain.ProgressBar1 = {true, 0, std::max(1, steps)};
 }
 
 void endProgress()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/drawing.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -65,6 +67,15 @@ public:
     virtual std::string device() const = 0;
 };
 
+/// Pictures that leave the program.
+class Pictures {
+public:
+    virtual ~Pictures() = default;
+    /// Puts a picture on the clipboard in place of what is there: sharp in a word processor, and as vectors
+    /// for a drawing program.
+    virtual void copy(const Figure& figure) = 0;
+};
+
 /// One reading of the system's clock, local time.
 struct Moment {
     std::string date; ///< the system's short date, as in "15/11/2026"
@@ -95,6 +106,7 @@ struct Ports {
     Sound* sound = nullptr;
     Clock* clock = nullptr;
     OneShotTimer* Timer1 = nullptr;
+    Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips
 };

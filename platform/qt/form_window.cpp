@@ -38,22 +38,24 @@ void FormWindow::present()
         main_.activateWindow(); // a question in between may have left the keyboard with no window at all
 }
 
-QLineEdit* FormWindow::box(const QString& name, TextBox& record, std::function<void()> entered,
-                           std::function<void()> left)
+QLineEdit* FormWindow::box(const QString& name, TextBox& record, BoxHandlers handlers)
 {
+    if (!handlers.edited)
+        handlers.edited = [&record](std::string_view text, int caret) { typeInto(record, text, caret); };
     auto* const edit = new QLineEdit(this);
     edit->setObjectName(name);
     edit->setMinimumWidth(220);
-    connect(edit, &QLineEdit::textEdited, this, [this, edit, &record](const QString& text) {
-        main_.onEvent([&] { typeInto(record, heldText(text), edit->cursorPosition()); });
-    });
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, edit, edited = std::move(handlers.edited)](const QString& text) {
+                main_.onEvent([&] { edited(heldText(text), edit->cursorPosition()); });
+            });
     shows_ += [edit, &record] {
         if (edit->text() == shownText(record.text))
             return;
         edit->setText(shownText(record.text));
         edit->setCursorPosition(record.caret);
     };
-    focusHandlers_[edit] = {std::move(entered), std::move(left)};
+    focusHandlers_[edit] = {std::move(handlers.entered), std::move(handlers.left)};
     edit->installEventFilter(this);
     return edit;
 }
@@ -104,6 +106,16 @@ QLabel* FormWindow::label(const QString& name, const std::string& caption)
     made->setObjectName(name);
     shows_ += [made, &caption] { made->setText(shownText(caption)); };
     return made;
+}
+
+void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::function<void()> clicked)
+{
+    connect(widget, &QAbstractButton::clicked, this,
+            [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
+    shows_ += [widget, &marked] {
+        widget->setAutoExclusive(false);
+        widget->setChecked(marked);
+    };
 }
 
 bool FormWindow::eventFilter(QObject* target, QEvent* event)

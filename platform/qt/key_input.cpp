@@ -7,6 +7,7 @@
 #include "extras/diagnose.h"
 #include "platform/key_codes.h"
 #include "platform/qt/main_window.h"
+#include "sheet/percent_view.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -31,7 +32,10 @@ void KeyInput::keyboardLost()
 {
     deliver(repeats_.flush(), 0); // that key did come up
     repeats_.forget();
-    window_.onEvent([] { Form_Deactivate(); });
+    window_.onEvent([] {
+        Form_Deactivate();
+        Command6_MouseUp(); // percentages are looked at in passing
+    });
 }
 
 bool KeyInput::isForCounting(const QObject* target) const

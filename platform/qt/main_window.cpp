@@ -10,10 +10,14 @@
 #include "platform/qt/find_window.h"
 #include "platform/qt/picture_window.h"
 #include "platform/qt/sample_windows.h"
+#include "platform/qt/subtotal_window.h"
+#include "platform/qt/summary_window.h"
+#include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/percent_view.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -95,9 +99,10 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this),    new NextWindow(*this),    new ParameterNameWindow(*this),
-              new FindWindow(*this),        new PictureWindow(*this), new AboutAppWindow(*this),
-              new AboutKeypadWindow(*this), new DiagnoseWindow(*this)};
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this),     new ParameterNameWindow(*this),
+              new SubtotalWindow(*this), new SummaryWindow(*this),  new FindWindow(*this),
+              new PictureWindow(*this),  new AboutAppWindow(*this), new AboutKeypadWindow(*this),
+              new DiagnoseWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -128,6 +133,9 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
             return true;
         break;
     case QEvent::MouseButtonRelease:
+    case QEvent::UngrabMouse:
+        if (target == percent_)
+            onEvent(Command6_MouseUp);
         if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())
             enteredByMouse_->selectAll();
         enteredByMouse_ = nullptr;
@@ -148,6 +156,8 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         }
         return false;
     }
+    case QEvent::Wheel: // a turn of the wheel on the way elsewhere must not change the sample
+        return qobject_cast<QComboBox*>(target) != nullptr;
     default:
         return false;
     }
@@ -237,6 +247,9 @@ void MainWindow::present()
         setWindowTitle(title);
     if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
+    for (int total = 0; total < 3; ++total)
+        hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+    curve_->present();
     presentMode();
     frmMain.focus = wanted;
     presentFocusAndPointer();

@@ -8,10 +8,12 @@
 #include <array>
 #include <functional>
 
+struct MainMenuEntry;
 class FormWindow;
 class QMenu;
 class QMouseEvent;
 class QTabWidget;
+class SurfaceView;
 class TaxonPage;
 
 /// The widgets of frmMain. They show the record and turn what the user does into handler calls; they decide
@@ -64,6 +66,7 @@ private:
 
     // main_window_menus.cpp
     void makeMenus();
+    void addEntry(QMenu& menu, const MainMenuEntry& entry);
     void makeRowMenu();
 
     // main_window_editing.cpp
@@ -86,6 +89,11 @@ private:
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
     QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
+    std::array<QLabel*, 3> hundredMarks_{};
+    QAbstractButton* percent_ = nullptr; ///< Command6
+    QComboBox* samples_ = nullptr;       ///< Combo2
+    SurfaceView* curve_ = nullptr;       ///< Picture2
+    QMenu* curveMenu_ = nullptr;         ///< mnuDiversityRB
     bool modifyingShown_ = false;
     QPalette plainColours_; ///< of the sheet outside Modify template mode
 

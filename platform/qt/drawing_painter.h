@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <QRectF>
+
+class QPainter;
+
+/// How lines come out on a device.
+enum class LineWidth {
+    onePixel, ///< as fine as a screen shows them
+    hairline  ///< half a pixel of the design, for pages and vector files
+};
+
+/// Paints a drawing so that its scale fills `target` (in the painter's own units, pixels of the design).
+/// Nothing is clipped here.
+void paintDrawing(QPainter& painter, const Drawing& drawing, const Scale& scale, const QRectF& target,
+                  LineWidth lines);
