@@ -224,7 +224,7 @@ void MainWindow::scaleFont()
     letters.setBold(true);
     for (QLineEdit* const sum : sums_) {
         sum->setFont(letters);
-        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("-32767") + 10);
+        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("32767") + 10);
     }
 }
 
