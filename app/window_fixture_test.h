@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
@@ -12,6 +13,7 @@
 /// The real program with its real window and the delivered files, on fresh records.
 class WindowTest : public ::testing::Test {
 protected:
+    DeliveredCopy delivered{DELIVERED_FOLDER};
     std::unique_ptr<Program> program;
     MainWindow* window = nullptr;
 
@@ -19,7 +21,7 @@ protected:
     {
         sheet = SheetState();
         frmMain = MainScreen();
-        program = std::make_unique<Program>(DELIVERED_FOLDER);
+        program = std::make_unique<Program>(delivered.path());
         window = &program->window();
         window->activateWindow();
         waitFor([this] { return window->isActiveWindow(); });

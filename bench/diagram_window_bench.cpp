@@ -3,6 +3,7 @@
 // repainted windows, with and without a dendrogram to dismiss, beside a key press without a diagram (limit:
 // 33 milliseconds above it). In turn, in one run; medians.
 
+#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/full_sheet.h"
 #include "core/main_keys.h"
@@ -109,7 +110,8 @@ void press(MainWindow& window)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    Program program(DELIVERED_FOLDER);
+    const DeliveredCopy delivered(DELIVERED_FOLDER);
+    Program program(delivered.path());
     MainWindow& window = program.window();
     const QTemporaryDir folder;
     const QString path = folder.filePath("full.csv");

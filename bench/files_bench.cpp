@@ -2,6 +2,7 @@
 // ms, a backup far below the 70 ms that a key press has, a new sample 50 ms from its window's opening to
 // ready.
 
+#include "app/delivered_copy.h"
 #include "app/program.h"
 
 #include "bench/full_sheet.h"
@@ -46,7 +47,8 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     const QTemporaryDir folder;
     QDir(folder.path()).mkpath("References/Back up files");
-    Program program(DELIVERED_FOLDER);
+    const DeliveredCopy delivered(DELIVERED_FOLDER);
+    Program program(delivered.path());
     ports.programFolder = folder.path().toStdString();
     const std::string path = folder.filePath("full.csv").toStdString();
     ports.files->write(path, fullSheetText());

@@ -8,7 +8,8 @@ struct Hooks {
     void (*ShowInitial)() = [] {};       ///< brings up the window that identifies the keyboard
     void (*SaveSheet)(int) = [](int) {}; ///< argument: the save mode, 0 plain, 99 plain and untouched
     void (*AutoBackup)() = [] {};
-    void (*UnloadForms)() = [] {}; ///< takes down all windows but the main one
+    void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
+    void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {};  ///< the all total has changed
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
