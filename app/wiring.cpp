@@ -42,5 +42,5 @@ void connectRooms()
     hooks.EndRecovery = endRecovery;
     hooks.DrawDiversity = DrawDiversity;
     hooks.RefreshDiagram = refreshDiagram;
-    hooks.BasisChanged = diagramBasisChanged;
+    hooks.RedrawDiagram = redrawDiagram;
 }

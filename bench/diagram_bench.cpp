@@ -41,7 +41,7 @@ int main()
         Profiles profiles(static_cast<std::size_t>(sheet.SampleCount) + 1, std::vector<float>(taxonSlots));
         for (int rank = 1; rank <= sheet.SampleCount; ++rank)
             for (int slot = 1; slot <= taxonSlots; ++slot)
-                profiles[rank][slot - 1] = sheet.Share(rank, slot);
+                profiles[rank][slot - 1] = frmDiagram.plot.Share(rank, slot);
         MergeTable merges;
         clustering.push_back(
             milliseconds([&] { merges = clusterSamples(std::move(profiles), diagramRows()); }));

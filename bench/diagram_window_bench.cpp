@@ -62,7 +62,7 @@ void repaints()
     const std::vector<float> rows = diagramRows();
 
     std::vector<QLineF> lines;
-    const Drawing drawing = planDiagram(sheet, frmDiagram.plot, rows, view);
+    const Drawing drawing = planDiagram(frmDiagram.plot, rows, view);
     for (const Mark& mark : drawing.marks)
         if (mark.kind == Mark::Kind::line)
             lines.emplace_back(mark.x1 * pixelsPerUnit, (mark.y1 - view.scale.top) * 900 / view.scale.height,
@@ -81,7 +81,7 @@ void repaints()
                 view.style = styles[i].style;
                 picture.fill(Qt::white);
                 QPainter painter(&picture);
-                paintDrawing(painter, planDiagram(sheet, frmDiagram.plot, rows, view), view.scale, whole,
+                paintDrawing(painter, planDiagram(frmDiagram.plot, rows, view), view.scale, whole,
                              LineWidth::onePixel);
             }));
     }

@@ -35,7 +35,7 @@ void AbortCount()
     }
     // 6.
     if (sheet.DiagramOpen)
-        hooks.RefreshDiagram();
+        hooks.RedrawDiagram();
     // 7.
     if (!sheet.Modifying)
         frmMain.focus = MainFocus::Text99;

@@ -13,7 +13,7 @@ struct Hooks {
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {};  ///< the all total has changed
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
-    void (*BasisChanged)() = [] {};   ///< another % basis, while the diagram is open
+    void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
 };
 
 extern Hooks hooks;

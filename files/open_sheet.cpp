@@ -55,6 +55,7 @@ bool mayGo(bool dropped)
         return false;
     }
     RestoreSnapshot();
+    closeDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
         sheet.UndoStack[i].slot = 0;
     return true;
