@@ -2,6 +2,8 @@
 
 #include "app/window_fixture_test.h"
 
+#include "sheet/percent_view.h"
+
 #include "core/main_keys.h"
 #include "core/number_text.h"
 
@@ -47,6 +49,20 @@ public:
     ~Keyboard() { xcb_disconnect(connection_); }
     void press(Place place) { send(XCB_KEY_PRESS, place); }
     void release(Place place) { send(XCB_KEY_RELEASE, place); }
+
+    /// A window of another program takes the keyboard.
+    void takeFocusAway()
+    {
+        const xcb_screen_t* const screen = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
+        const xcb_window_t other = xcb_generate_id(connection_);
+        const std::uint32_t unmanaged = 1;
+        xcb_create_window(connection_, XCB_COPY_FROM_PARENT, other, screen->root, 0, 0, 10, 10, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
+                          &unmanaged);
+        xcb_map_window(connection_, other);
+        xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, other, XCB_CURRENT_TIME);
+        xcb_flush(connection_);
+    }
 
 private:
     void send(std::uint8_t type, Place place)
@@ -231,6 +247,25 @@ TEST_F(RealKeys, losingTheKeyboardLetsGoOfAllKeysAndTakesNothingBack)
     EXPECT_FALSE(sheet.Shift1Down);
     EXPECT_EQ(frmMain.SSTab1, 0);
     EXPECT_EQ(shown(1), 1);
+}
+
+TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
+{
+    tap(placeQ);
+    keyboard.press(placeSemicolon);
+    settle(60);
+    EXPECT_EQ(sheet.Layer, 1);
+    window->onEvent(Command6_MouseDown);
+    EXPECT_FALSE(sheet.KeysActive);
+    keyboard.takeFocusAway();
+    ASSERT_TRUE(waitFor([] { return QGuiApplication::focusWindow() == nullptr; }));
+    settle(60);
+    keyboard.release(placeSemicolon);
+    EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down && sheet.KeysActive);
+    window->activateWindow();
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 2);
 }
 
 TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)

@@ -2,6 +2,7 @@
 
 #include "core/program_test.h"
 #include "core/text_changes.h"
+#include "sheet/percent_view.h"
 #include "sheet/sample_choice.h"
 
 #include <cmath>
@@ -143,6 +144,16 @@ TEST_F(LiveCurve, choosingASampleShowsItAndArmsTheQuestion)
     EXPECT_EQ(sheet.Count(2, 1), 2);
     Combo2_Click("no such name");
     EXPECT_EQ(sheet.CurrentSample, 2);
+}
+
+TEST_F(LiveCurve, choosingWhilePercentagesShowPutsTheRightNumbersBack)
+{
+    sheet.Count(1, 1) = 7;
+    tap('Q');
+    Command6_MouseDown();
+    Combo2_Click("10");
+    Command6_MouseUp();
+    EXPECT_TRUE(shown(1) == 7 && sheet.Count(1, 1) == 7 && sheet.Count(2, 1) == 1);
 }
 
 TEST_F(LiveCurve, typingInTheListGoesBackButForTheFirstChangeAfterAPick)
