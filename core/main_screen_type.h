@@ -22,6 +22,7 @@ struct MainScreen {
     MainScreen();
 
     std::string caption = "TallyStrata 3.2.5 - [Untitled]";
+    bool visible = false; ///< from the end of the start-up on; a first run comes before it
     bool enabled = true;
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;
