@@ -22,7 +22,6 @@ Program::Program(const QString& folder)
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);
-    window_.show();
 }
 
 Program::~Program()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "app/ready_folder_test.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 
@@ -9,9 +10,10 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-/// The real program with its real window and the delivered files, on fresh records.
+/// The real program with its real window and the delivered files, on a known keyboard and fresh records.
 class WindowTest : public ::testing::Test {
 protected:
+    ReadyFolder folder;
     std::unique_ptr<Program> program;
     MainWindow* window = nullptr;
 
@@ -19,7 +21,7 @@ protected:
     {
         sheet = SheetState();
         frmMain = MainScreen();
-        program = std::make_unique<Program>(DELIVERED_FOLDER);
+        program = std::make_unique<Program>(folder.path());
         window = &program->window();
         window->activateWindow();
         waitFor([this] { return window->isActiveWindow(); });

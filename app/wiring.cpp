@@ -6,13 +6,19 @@
 #include "files/next_sample.h"
 #include "files/rename_info.h"
 #include "files/save_sheet.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
+#include "keys/key_note.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 
 /// In this order.
 static void unloadForms()
 {
+    frmInitial.visible = false;
+    frmKeyCode.visible = false;
     frmNext.visible = false;
+    frmNote.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
 }
@@ -22,6 +28,8 @@ void connectRooms()
     hooks.UnloadForms = unloadForms;
     hooks.ReadKeySettings = ReadKeySettings;
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
+    hooks.ShowInitial = ShowInitial;
+    hooks.ShowFirstRunChoice = showFirstRunChoice;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
 }

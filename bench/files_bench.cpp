@@ -3,6 +3,7 @@
 // ready.
 
 #include "app/program.h"
+#include "app/ready_folder_test.h"
 
 #include "bench/full_sheet.h"
 #include "core/main_screen.h"
@@ -13,9 +14,7 @@
 #include "files/save_sheet.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -44,11 +43,9 @@ void report(
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    const QTemporaryDir folder;
-    QDir(folder.path()).mkpath("References/Back up files");
-    Program program(DELIVERED_FOLDER);
-    ports.programFolder = folder.path().toStdString();
-    const std::string path = folder.filePath("full.csv").toStdString();
+    const ReadyFolder folder;
+    Program program(folder.path());
+    const std::string path = folder.path().toStdString() + "/full.csv";
     ports.files->write(path, fullSheetText());
 
     report("open to ready on screen", "100 ms", [&] {
@@ -62,7 +59,7 @@ int main(int argc, char* argv[])
     report("save", "10 ms", [] { SaveSheet(0); });
     report("backup inside a key press", "70 ms", AutoBackup);
 
-    const std::string almost = folder.filePath("almost.csv").toStdString();
+    const std::string almost = folder.path().toStdString() + "/almost.csv";
     ports.files->write(almost, fullSheetText(sampleLimit - 1));
     const auto open = [&] {
         sheet.SheetPristine = true; // nothing to ask about

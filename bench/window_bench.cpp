@@ -3,6 +3,7 @@
 // (median).
 
 #include "app/program.h"
+#include "app/ready_folder_test.h"
 
 #include "core/action_log.h"
 #include "core/main_screen.h"
@@ -62,7 +63,8 @@ int main(int argc, char* argv[])
     bare.resize(1000, 700);
     QLineEdit line(&bare);
     bare.show();
-    Program program(DELIVERED_FOLDER);
+    const ReadyFolder folder;
+    Program program(folder.path());
 
     // A long day lies behind.
     program.window().onEvent([] {

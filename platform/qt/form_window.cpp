@@ -6,6 +6,7 @@
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -30,6 +31,8 @@ void FormWindow::present()
     presentMore();
     if (shouldShow_ == isVisible())
         return;
+    if (!shouldShow_)
+        visited_ = nullptr;
     setVisible(shouldShow_);
     if (shouldShow_ && first_ != nullptr)
         first_->setFocus();
@@ -50,8 +53,7 @@ QLineEdit* FormWindow::box(const QString& name, TextBox& record, std::function<v
         edit->setText(shownText(record.text));
         edit->setCursorPosition(record.caret);
     };
-    focusHandlers_[edit] = {std::move(entered), std::move(left)};
-    edit->installEventFilter(this);
+    watchVisits(edit, std::move(entered), std::move(left));
     return edit;
 }
 
@@ -77,8 +79,7 @@ QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
         edit->setPlainText(text);
         edit->moveCursor(QTextCursor::End);
     };
-    focusHandlers_[edit] = {};
-    edit->installEventFilter(this);
+    watchVisits(edit, {}, {});
     return edit;
 }
 
@@ -103,15 +104,38 @@ QLabel* FormWindow::label(const QString& name, const std::string& caption)
     return made;
 }
 
+QLabel* FormWindow::fixedText(const QString& name, const QString& text)
+{
+    auto* const made = new QLabel(text, this);
+    made->setObjectName(name);
+    made->setTextFormat(Qt::PlainText);
+    return made;
+}
+
+void FormWindow::watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left)
+{
+    focusHandlers_[widget] = {std::move(entered), std::move(left)};
+    widget->installEventFilter(this);
+}
+
 bool FormWindow::eventFilter(QObject* target, QEvent* event)
 {
     const auto handlers = focusHandlers_.constFind(target);
-    if (handlers != focusHandlers_.constEnd()) {
-        if (event->type() == QEvent::FocusIn)
-            sheet.LastKeyDown = noKeyYet;
-        if (event->type() == QEvent::FocusIn && handlers->first)
+    if (handlers == focusHandlers_.constEnd())
+        return false;
+    if (event->type() == QEvent::FocusIn && visited_ != target) {
+        visited_ = target;
+        sheet.LastKeyDown = noKeyYet;
+        if (handlers->first)
             main_.onEvent(handlers->first);
-        if (event->type() == QEvent::FocusOut && handlers->second)
+    }
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
+        const bool lasts = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+        if (shouldShow_ && lasts)
+            return false;
+        visited_ = nullptr;
+        if (shouldShow_ && handlers->second)
             main_.onEvent(handlers->second);
     }
     return false;

@@ -23,13 +23,19 @@ public:
     void present();
 
 protected:
-    /// A box of one line bound to a record; `left` runs when it loses the focus, `entered` when it gets it.
+    /// A box of one line bound to a record; `entered` and `left` as in watchVisits().
     QLineEdit* box(const QString& name, TextBox& record, std::function<void()> entered = {},
                    std::function<void()> left = {});
     QPlainTextEdit* area(const QString& name, TextBox& record);
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> clicked,
                         const Button* record = nullptr);
     QLabel* label(const QString& name, const std::string& caption);
+    /// A label that never changes.
+    QLabel* fixedText(const QString& name, const QString& text);
+    /// `entered` runs when a visit of a widget begins and `left` when it ends. A message or another program
+    /// in front ends none.
+    void watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left);
+    MainWindow& mainWindow() const { return main_; }
     /// What present() brings up to date beside the boxes.
     virtual void presentMore() {}
     /// The box that has the focus when the window opens.
@@ -45,4 +51,5 @@ private:
     QWidget* first_ = nullptr;
     QList<std::function<void()>> shows_;
     QHash<QObject*, std::pair<std::function<void()>, std::function<void()>>> focusHandlers_;
+    QObject* visited_ = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "platform/key_codes.h"
+#include "platform/qt/capture_box.h"
 #include "platform/qt/main_window.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@ void KeyInput::keyboardLost()
 {
     deliver(repeats_.flush(), 0); // that key did come up
     repeats_.forget();
+    captured_.clear();
     window_.onEvent([] { Form_Deactivate(); });
 }
 
@@ -55,18 +57,23 @@ int KeyInput::virtualKey(const QKeyEvent& event)
 #endif
 }
 
+static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
+{
+#if defined(Q_OS_MACOS)
+    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
+#else
+    const quint32 physicalKey = event.nativeScanCode();
+#endif
+    return {physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+}
+
 /// Counts the key if it is to count. True if no one else may see it.
 bool KeyInput::takesKey(QKeyEvent& event)
 {
     const int code = virtualKey(event);
     if (code == 0)
         return false;
-#if defined(Q_OS_MACOS)
-    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
-#else
-    const quint32 physicalKey = event.nativeScanCode();
-#endif
-    const keycodes::RawKey key{physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+    const keycodes::RawKey key = rawKey(event, code);
     const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
     // Asked before the key is handled: what is bound may change through it.
     const bool taken = !sheet.Modifying && isBoundKey(code);
@@ -80,10 +87,53 @@ bool KeyInput::takesKey(QKeyEvent& event)
     return taken;
 }
 
+static CaptureBox* captureBox()
+{
+    return dynamic_cast<CaptureBox*>(QApplication::focusWidget());
+}
+
+/// True if the key is for a capture box, or still that of one.
+bool KeyInput::isCaptured(QKeyEvent& event)
+{
+    const int code = virtualKey(event);
+    if (captureBox() == nullptr && !captured_.contains(code))
+        return false;
+    if (code == 0)
+        return true;
+    const keycodes::RawKey key = rawKey(event, code);
+    if (event.type() == QEvent::KeyRelease) {
+        deliver(repeats_.up(key), 0);
+        if (repeats_.hasPending())
+            heldRelease_.start(releaseWaits);
+        return true;
+    }
+    for (const keycodes::KeyEvent& one : repeats_.down(key)) {
+        if (!one.isDown) {
+            deliverUp(one.code, 0);
+        } else if (!captured_.contains(one.code)) { // else it repeats
+            captured_.insert(one.code);
+            if (CaptureBox* const box = captureBox())
+                box->keyWentDown(one.code, event.text());
+        }
+    }
+    return true;
+}
+
 void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
 {
     for (const keycodes::KeyEvent& key : events)
-        window_.onEvent([&] { key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift); });
+        if (key.isDown)
+            window_.onEvent([&] { Form_KeyDown(key.code, shift); });
+        else
+            deliverUp(key.code, shift);
+}
+
+void KeyInput::deliverUp(int code, int shift)
+{
+    if (!captured_.remove(code))
+        window_.onEvent([&] { Form_KeyUp(code, shift); });
+    else if (CaptureBox* const box = captureBox())
+        box->keyCameUp(code);
 }
 
 /// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
@@ -102,12 +152,18 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     case QEvent::KeyRelease:
         if (isForCounting(target))
             return takesKey(static_cast<QKeyEvent&>(*event));
+        if (target->isWindowType() && isCaptured(static_cast<QKeyEvent&>(*event)))
+            return true;
         if (target->isWindowType() &&
             event->type() == QEvent::KeyPress) // a box of another window takes it next
             sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
         return false;
     case QEvent::ShortcutOverride: {
         auto& key = static_cast<QKeyEvent&>(*event);
+        if (captureBox() != nullptr) {
+            key.accept();
+            return true;
+        }
         const bool inWindow = QApplication::activeWindow() == &window_ &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
         const int code = inWindow ? virtualKey(key) : 0;

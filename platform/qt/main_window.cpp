@@ -5,6 +5,8 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/initial_window.h"
+#include "platform/qt/key_windows.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
@@ -90,7 +92,8 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this), new ParameterNameWindow(*this)};
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this),    new ParameterNameWindow(*this),
+              new InitialWindow(*this),  new KeyCodeWindow(*this), new KeyNoteWindow(*this)};
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -232,6 +235,8 @@ void MainWindow::present()
     presentMode();
     frmMain.focus = wanted;
     presentFocusAndPointer();
+    if (isVisible() != frmMain.visible)
+        setVisible(frmMain.visible);
     for (FormWindow* const form : forms_)
         form->present();
 }

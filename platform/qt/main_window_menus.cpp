@@ -9,6 +9,8 @@
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "files/template_file.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/modify_mode.h"
@@ -101,8 +103,8 @@ QList<Entry> entries()
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve},
 
-        {"mnuTools", "mnuKeyCodeReader", "Key settings"},
-        {"mnuTools", "mnuInitial", "Initialise"},
+        {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
+        {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},
         {"mnuTools", "mnuSubtotal", "Subtotal settings"},
         {"mnuTools", nullptr, nullptr},
         {"mnuTools", "mnuSummary", "Summary"},
