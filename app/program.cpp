@@ -17,6 +17,7 @@ Program::Program(const QString& folder)
              &sound_,
              &clock_,
              &timer_,
+             &pictures_,
              folder.toStdString(),
              15 * window_.screen()->size().width()};
     connectRooms();

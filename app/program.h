@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/figures.h"
 #include "platform/qt/key_input.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/message_boxes.h"
@@ -22,6 +23,7 @@ private:
     RealFiles files_;
     SdlSound sound_;
     SystemClock clock_;
+    QtPictures pictures_;
     EventLoopTimer timer_;
     MainWindow window_;
     MessageBoxes dialogs_;

@@ -1,6 +1,7 @@
 #include "app/wiring.h"
 
 #include "core/hooks.h"
+#include "diagram/diagram_window.h"
 #include "files/backup.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -11,16 +12,20 @@
 #include "keys/key_note.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/live_curve.h"
+#include "sheet/subtotals.h"
 
 /// In this order.
 static void unloadForms()
 {
+    closeDiagram();
     frmInitial.visible = false;
     frmKeyCode.visible = false;
     frmNext.visible = false;
     frmNote.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
+    frmSubtotal.visible = false;
 }
 
 void connectRooms()
@@ -32,4 +37,7 @@ void connectRooms()
     hooks.ShowFirstRunChoice = showFirstRunChoice;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.DrawDiversity = DrawDiversity;
+    hooks.RefreshDiagram = refreshDiagram;
+    hooks.BasisChanged = diagramBasisChanged;
 }

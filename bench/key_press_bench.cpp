@@ -35,7 +35,7 @@ void fillSheet(int samples)
 {
     sheet = SheetState();
     frmMain = MainScreen();
-    ports = {nullptr, nullptr, &sound, &clockOfBench, &timer, "", 0};
+    ports = {nullptr, nullptr, &sound, &clockOfBench, &timer, nullptr, "", 0};
     sheet.SoundOn = true;
     for (int sample = 1; sample <= samples; ++sample) {
         sheet.SampleField(sample, 1) = decimalText(sample);

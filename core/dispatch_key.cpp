@@ -2,6 +2,7 @@
 
 #include "core/built_in_keys.h"
 #include "core/hooks.h"
+#include "core/hundred_mark.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/record_count.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr int repeatGuardMilliseconds = 70;
-constexpr int hundred = 100;
 
 bool isSaveKey(int keyCode)
 {
@@ -44,24 +44,20 @@ void raiseLayer(int keyCode)
         sheet.Layer = 2;
 }
 
-bool hundredReached()
+/// One before a full hundred the alarm is armed.
+void armAlarm()
 {
-    bool reached = false;
     for (int total = 0; total < 3; ++total) {
         const std::int64_t sum = wholeNumber(frmMain.Text3[total].text);
-        if (!frmMain.Option1[total].selected || sum == 0)
-            continue;
-        if (sum % hundred == 0)
-            reached = true;
-        else if ((sum + 1) % hundred == 0)
+        if (frmMain.Option1[total].selected && sum != 0 && (sum + 1) % 100 == 0)
             sheet.AlarmArmed = true;
     }
-    return reached;
 }
 
 void giveFeedback()
 {
-    const bool reached = hundredReached();
+    armAlarm();
+    const bool reached = markHundred();
     if (sheet.SoundOn) { // on purpose: with the sound off there is no alarm and no backup either
         if (reached && sheet.AlarmArmed) {
             ports.sound->play(Cue::SoundAlarm);
@@ -122,6 +118,7 @@ void DispatchKey(int keyCode, int shift)
     if (!sheet.KeysActive || !isAccepted(keyCode))
         return;
     // 8.
+    frmMain.hundredMark = {};
     sheet.FreshSheet = false;
     frmMain.mnuNext.enabled = false;
     // 9. Layer 0 turns no page here; letting go of the shift key does.

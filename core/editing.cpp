@@ -34,6 +34,15 @@ void typeInto(TextBox& box, std::string_view text, int caret)
     keepToCharacterRule(box);
 }
 
+void markUnsavedWork()
+{
+    sheet.SheetPristine = false;
+    if (sheet.Modifying)
+        sheet.UnsavedEdits = true;
+    else
+        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+}
+
 void Text1_Edited(int slot, std::string_view text, int caret)
 {
     const std::string before = frmMain.Text1[slot].text;
@@ -134,6 +143,20 @@ static void listSampleNames()
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
     ++frmMain.Combo2.itemsRevision;
+}
+
+void renameShownSample(std::string_view name, int caret)
+{
+    TextBox typed;
+    typeInto(typed, name, caret);
+    if (anotherSampleIsNamed(typed.text)) {
+        frmMain.Combo2.text = frmMain.Text1[0].text;
+        return;
+    }
+    sheet.UnsavedEdits = true;
+    setText1(0, typed.text);
+    frmMain.Combo2.text = typed.text;
+    listSampleNames();
 }
 
 static void leaveText1(int slot)

@@ -15,10 +15,17 @@
 /// characters before the caret, 0 to the length of `text`.
 void typeInto(TextBox& box, std::string_view text, int caret);
 
+/// The sheet has work to save. In Modify template mode Save is disabled and comes back with the end of the
+/// mode.
+void markUnsavedWork();
+
 void Text1_Edited(int slot, std::string_view text, int caret); ///< slot 0: the name of the sample
 void Text2_Edited(int slot, std::string_view text, int caret);
 void Text4_Edited(std::string_view text, int caret);
 void Text5_Edited(int item, std::string_view text, int caret);
+
+/// Names the sample on show from the list of samples. A name that another sample has is refused silently.
+void renameShownSample(std::string_view name, int caret);
 
 /// A visit begins; one that still lasts ends first. Outside the mode there are no visits.
 void Text1_GotFocus(int slot);

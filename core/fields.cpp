@@ -1,5 +1,7 @@
 #include "core/fields.h"
 
+#include "core/number_text.h"
+
 #include <charconv>
 
 static bool isSeparator(char c)
@@ -74,6 +76,20 @@ FieldWriter& FieldWriter::number(long long field)
     char digits[24];
     const auto written = std::to_chars(digits, digits + sizeof digits, field);
     text_.append(digits, written.ptr);
+    return *this;
+}
+
+FieldWriter& FieldWriter::decimal(double field)
+{
+    separate();
+    text_ += plainDecimal(field);
+    return *this;
+}
+
+FieldWriter& FieldWriter::decimal(float field)
+{
+    separate();
+    text_ += plainDecimal(field);
     return *this;
 }
 

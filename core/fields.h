@@ -32,6 +32,9 @@ public:
     void reserve(std::size_t bytes) { text_.reserve(bytes); }
     FieldWriter& text(std::string_view field);
     FieldWriter& number(long long field);
+    /// A number with decimals, in its plain decimal writing.
+    FieldWriter& decimal(double field);
+    FieldWriter& decimal(float field);
     /// Ends the line; the fields before it are separated by commas.
     void endLine();
     std::string take() { return std::move(text_); }

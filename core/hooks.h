@@ -11,7 +11,9 @@ struct Hooks {
     void (*AutoBackup)() = [] {};
     void (*UnloadForms)() = [] {}; ///< takes down all windows but the main one
     void (*EndProgram)() = [] {};
+    void (*DrawDiversity)() = [] {};  ///< the all total has changed
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
+    void (*BasisChanged)() = [] {};   ///< another % basis, while the diagram is open
 };
 
 extern Hooks hooks;

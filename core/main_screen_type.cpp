@@ -18,6 +18,9 @@ MainScreen::MainScreen()
     Label2[0].caption = "All total:";
     Label2[1].caption = "Subtotal-1:";
     Label2[2].caption = "Subtotal-2:";
+    mnuPercentAll.caption = "% by All total";
+    mnuPercentSub1.caption = "% by Subtotal-1";
+    mnuPercentSub2.caption = "% by Subtotal-2";
     for (TextBox& sum : Text3)
         sum.text = "0";
     Option1[0].selected = true;

@@ -2,6 +2,7 @@
 
 #include "core/sheet_state_type.h"
 #include "platform/controls.h"
+#include "platform/drawing.h"
 
 #include <array>
 #include <optional>
@@ -24,6 +25,7 @@ struct MainScreen {
     std::string caption = "TallyStrata 3.2.5 - [Untitled]";
     bool visible = false; ///< from the end of the start-up on; a first run comes before it
     bool enabled = true;
+    int forwardRevision = 0; ///< goes up whenever the window is to come in front
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;
     int SSTab1 = 0;                    ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
@@ -44,12 +46,15 @@ struct MainScreen {
     std::array<Label, 3> Label2;         ///< captions of the sums: 0 all total, 1 subtotal-1, 2 subtotal-2
     std::array<TextBox, 3> Text3;        ///< the sums, whole numbers; setText3()
     std::array<OptionButton, 3> Option1; ///< the sum that the alarm watches and percentages go by
-    TextBox Text4;                       ///< note
+    std::array<bool, 3> hundredMark{}; ///< the last key brought this sum, the watched one, to a full hundred
+    TextBox Text4;                     ///< note
     std::array<TextBox, infoItems + 1> Text5;   ///< additional info 1 to 6
     Label Label8;                               ///< hidden: mirrors the additional info stored last
     std::array<Label, infoItems + 1> Label10;   ///< its captions
     std::array<Button, infoItems + 1> Command7; ///< "Rename"
     std::array<Label, 3> Label14;               ///< 0 sheet created, 1 count start, 2 last saved
+
+    Surface Picture2; ///< the saturation curve; tenths of an individual to the right, of a taxon upwards
 
     // History and file.
     LogBox Text7;    ///< all actions, one a line
@@ -72,6 +77,7 @@ struct MainScreen {
     MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;
+    MenuEntry mnuCopyDiversity, mnuSaveDiversity;    ///< pop-up of the saturation curve
     std::array<MenuEntry, taxonSlots + 1> mnuMoveTo; ///< mnuMoveTo1, 2, 3: target slots of a move
     std::array<MenuEntry, 11> mnuFontSize;           ///< index 6 to 10: the size in points
     std::array<MenuEntry, 2> mnuAlign;               ///< 0 "Left", 1 "Right"

@@ -96,9 +96,20 @@ std::string decimalText(long long number)
     return std::string(buffer, written.ptr);
 }
 
-std::string plainDecimal(double number)
+template <class Number>
+static std::string shortestDecimal(Number number)
 {
     char buffer[400]; // the largest double has 309 digits
     const auto written = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed);
     return std::string(buffer, written.ptr);
+}
+
+std::string plainDecimal(double number)
+{
+    return shortestDecimal(number);
+}
+
+std::string plainDecimal(float number)
+{
+    return shortestDecimal(number);
 }

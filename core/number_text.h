@@ -26,3 +26,4 @@ std::string decimalText(long long number);
 /// The plain decimal writing of a number: the shortest that gives it back, a digit before the point, no
 /// exponent and no zeros at the end, as in "0.5", "12.5", "-3".
 std::string plainDecimal(double number);
+std::string plainDecimal(float number);

@@ -8,6 +8,7 @@
 #include "core/user_event.h"
 #include "platform/fakes/hand_clock.h"
 #include "platform/fakes/memory_files.h"
+#include "platform/fakes/picture_recorder.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/fakes/sound_recorder.h"
 
@@ -26,6 +27,7 @@ protected:
     SoundRecorder sound;
     HandClock clock;
     HandTimer timer;
+    PictureRecorder pictures;
 
     ProgramTest()
     {
@@ -35,7 +37,7 @@ protected:
         sheet.SoundOn = true;
         frmMain = MainScreen();
         hooks = Hooks();
-        ports = {&files, &dialogs, &sound, &clock, &timer, "/program", 15360};
+        ports = {&files, &dialogs, &sound, &clock, &timer, &pictures, "/program", 15360};
         dialogs.whenOpened =
             [this] { // a message box takes the keyboard, and stays longer than the repeat guard
                 Form_Deactivate();

@@ -80,7 +80,7 @@ protected:
         const UserEvent event;
         showSample(sample);
         logAction("(Change sample: " + frmMain.Combo2.text + ")");
-        asks = sheet.WarnNotLatest = true;
+        asks = true;
         current = sample;
         justCounted = 0;
     }

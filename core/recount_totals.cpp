@@ -12,6 +12,7 @@ static bool isBlankName(std::string_view name)
 
 void RecountTotals(int sample)
 {
+    frmMain.hundredMark = {};
     std::int64_t all = 0;
     std::int64_t subtotal1 = 0;
     std::int64_t subtotal2 = 0;

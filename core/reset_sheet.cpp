@@ -29,6 +29,9 @@ static void resetScreen()
     MainScreen before = std::exchange(frmMain, MainScreen());
     frmMain.Combo1 = std::move(before.Combo1);
     frmMain.Text7 = std::move(before.Text7);
+    frmMain.forwardRevision = before.forwardRevision;
+    frmMain.Picture2 = std::move(before.Picture2);
+    frmMain.Picture2.clearPicture();
     frmMain.Combo2.itemsRevision = before.Combo2.itemsRevision + 1;
     frmMain.mnuItalic = before.mnuItalic;
     frmMain.mnuFontSize = before.mnuFontSize;

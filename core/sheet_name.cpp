@@ -12,12 +12,21 @@ std::optional<std::string> baseName(const std::string& path)
     return path.substr(begin, point - begin);
 }
 
+static std::string withoutExtension(const std::string& path)
+{
+    return path.size() > 4 ? path.substr(0, path.size() - 4) : path;
+}
+
 std::string proposedCopyName(const std::string& path, const std::string& date)
 {
     const auto part = [&date](std::size_t begin, std::size_t length) {
         return begin < date.size() ? date.substr(begin, length) : std::string();
     };
-    const std::string stem = path.size() > 4 ? path.substr(0, path.size() - 4) : path;
     const std::string year = date.size() > 4 ? date.substr(date.size() - 4) : date;
-    return stem + "_(" + part(0, 2) + "." + part(3, 2) + "." + year + ").csv";
+    return withoutExtension(path) + "_(" + part(0, 2) + "." + part(3, 2) + "." + year + ").csv";
+}
+
+std::string proposedTableName(const std::string& path)
+{
+    return path.empty() ? path : withoutExtension(path) + "_percent.csv";
 }

@@ -75,9 +75,10 @@ struct SheetState {
 
     // The sheet. Index (sample, slot) or (sample, row); sample 1 to SampleCount is a column of the sheet.
     SampleTable<std::int32_t, taxonSlots + 1> Count; ///< may be negative; slot 0 is scratch of the % basis
-    SampleTable<std::string, 3> SampleField; ///< row 0 place on the depth axis, 1 serial number, 2 name
-    SampleTable<std::string, 1> SampleNote;  ///< row 0: the note, "---" if there is none
-    SampleTable<std::string, 4> SampleStamp; ///< rows 1 created, 2 count start, 3 last modified
+    SampleTable<float, taxonSlots + 1> Share; ///< of the % basis, as a fraction; filled anew for each use
+    SampleTable<std::string, 3> SampleField;  ///< row 0 place on the depth axis, 1 serial number, 2 name
+    SampleTable<std::string, 1> SampleNote;   ///< row 0: the note, "---" if there is none
+    SampleTable<std::string, 4> SampleStamp;  ///< rows 1 created, 2 count start, 3 last modified
     SampleTable<std::string, infoItems + 1> AdditionalInfo; ///< row = item 1 to 6; column 0: the captions
     std::array<TaxonFields, taxonSlots + 1> TaxonRecord; ///< 0: the running subtotals of the sample on show
     std::array<std::int16_t, taxonSlots + 1> KeyIndexOfRow; ///< file row 1 to 135 -> key index
@@ -108,6 +109,11 @@ struct SheetState {
     std::vector<std::string> ActionText;
     std::vector<std::string> ActionTime;
     std::int32_t ActionCount = 0; ///< index of the last entry
+
+    // The saturation curve.
+    std::int16_t DiversityNow = 0;               ///< taxa with a count in the sample on show
+    std::int16_t DiversityTotal = 0;             ///< individuals that the curve has reached, at most 32767
+    std::vector<std::int16_t> DiversityCurve{0}; ///< at n individuals ten times the taxa seen; 0: no point
 
     // Which key is which. The codes hold for the built-in map and are replaced by the settings file.
     std::array<KeySettingRow, keySettingRows> KeySetting;
@@ -143,6 +149,7 @@ struct SheetState {
     int EditedIndex = 0;                ///< its index
     std::string EditOld;                ///< its text when the visit began
     int LastKeyDown = 9999;             ///< last key that went down in it, 9999 for none yet
+    bool SampleChangeFlag = false;      ///< a sample was picked: what is typed next in the list names it
     bool SampleSwitching = false;       ///< a whole sample is being shown: change handlers store nothing
     bool SoundOn = false;               ///< all eight cues could be read
     bool Unloading = false;             ///< the windows are being taken down

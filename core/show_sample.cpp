@@ -1,10 +1,13 @@
 #include "core/show_sample.h"
 
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/text_changes.h"
+
+#include <algorithm>
 
 ShowingSample::ShowingSample() : before_(sheet.SampleSwitching)
 {
@@ -21,13 +24,21 @@ std::string orDashes(const std::string& text)
     return text.empty() ? "---" : text;
 }
 
+void forgetCurve()
+{
+    std::fill(sheet.DiversityCurve.begin(), sheet.DiversityCurve.end(), std::int16_t{0});
+}
+
 void showSample(int sample)
 {
     const ShowingSample showing;
+    forgetCurve();
+    sheet.WarnNotLatest = true; // the next key may still be meant for the sample before
     sheet.CurrentSample = static_cast<std::int16_t>(sample);
     for (int slot = 1; slot <= taxonSlots; ++slot)
         setText2(slot, decimalText(sheet.Count(sample, slot)));
     RecountTotals(sample);
+    hooks.DrawDiversity(); // also of a sample with the same total
 
     setText1(0, sheet.SampleField(sample, 2));
     frmMain.Combo2.text = sheet.SampleField(sample, 2);

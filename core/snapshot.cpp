@@ -1,5 +1,6 @@
 #include "core/snapshot.h"
 
+#include "core/basis_members.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
@@ -40,4 +41,5 @@ void RestoreSnapshot()
             sheet.AdditionalInfo(sample, item) = sheet.SavedInfo(sample, item);
     }
     RecountTotals(sheet.CurrentSample);
+    underlineBasis();
 }

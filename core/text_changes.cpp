@@ -1,6 +1,7 @@
 #include "core/text_changes.h"
 
 #include "core/action_log.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
@@ -106,6 +107,7 @@ void Text3_Change(int total)
 {
     if (total != 0 || !sheet.KeysActive)
         return;
+    hooks.DrawDiversity();
     const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
     if (all != 0 && !sheet.Modifying) // no next sample while this one is edited
         frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;

@@ -20,7 +20,8 @@ void Text1_Change(int slot);
 /// A count is stored. One that is no plain whole number is refused with a message and gives way to
 /// PreviousCount.
 void Text2_Change(int slot);
-/// The all total (index 0) opens the way to the next sample and stamps the first individual.
+/// The all total (index 0) goes on with the saturation curve, opens the way to the next sample and stamps the
+/// first individual.
 void Text3_Change(int total);
 /// With a second sample there is something to draw a diagram of.
 void Label4_Change();

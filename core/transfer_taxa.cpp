@@ -1,6 +1,7 @@
 #include "core/transfer_taxa.h"
 
 #include "core/action_log.h"
+#include "core/basis_members.h"
 #include "core/editing.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
@@ -79,6 +80,7 @@ void TransferTaxa(int target)
               decimalText(target));
     // 7.
     RecountTotals(sheet.CurrentSample);
+    underlineBasis();
     // 8.
     sheet.SheetPristine = false;
     sheet.UnsavedEdits = true;

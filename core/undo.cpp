@@ -2,6 +2,8 @@
 
 #include "core/action_log.h"
 #include "core/highlight.h"
+#include "core/hooks.h"
+#include "core/hundred_mark.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
@@ -30,7 +32,6 @@ static void takeBack(UndoEntry entry)
     // 3.
     if (entry.sample != sheet.CurrentSample) {
         showSample(entry.sample);
-        sheet.WarnNotLatest = true; // the next key may still be meant for the sample before
         logAction("(Change sample: " + frmMain.Combo2.text + ")");
     }
     // 4.
@@ -55,15 +56,20 @@ void Undo()
     if (!sheet.KeysActive) // the boxes show percentages, which must not become counts
         return;
     // 1, 2. An entry without a slot is never taken off: what lies below it is out of reach.
-    if (sheet.UndoStack[0].slot != 0)
+    const bool takesBack = sheet.UndoStack[0].slot != 0;
+    if (takesBack)
         takeBack(sheet.UndoStack[0]);
     // 9.
     RecountTotals(sheet.CurrentSample);
+    if (takesBack)
+        markHundred();
     // 10.
     if (sheet.UndoStack[0].slot == 0)
         frmMain.mnuUndo.enabled = false;
     // 11.
     sheet.AlarmArmed = true;
+    if (sheet.DiagramOpen)
+        hooks.RefreshDiagram();
 }
 
 void Amend()

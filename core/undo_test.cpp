@@ -36,8 +36,8 @@ TEST_F(UndoOfCounts, bringsTheWholeSampleOnShowAndTheNextKeyAsks)
     sheet.SampleStamp(2, 3) = "saved at noon";
     sheet.Count(1, 5) = 3;
     sheet.Count(2, 1) = -2;
-    sheet.WarnNotLatest = false;
     showSample(2);
+    sheet.WarnNotLatest = false;
     tap('Q', 4);
     showSample(1);
     tap(undoKey);

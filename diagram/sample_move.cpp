@@ -1,8 +1,10 @@
 #include "diagram/sample_move.h"
 
-#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "diagram/coniss_window.h"
+#include "diagram/diagram_mouse.h"
+#include "diagram/diagram_view.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,6 +37,7 @@ void MoveSample()
     if (from != to) {
         moveColumn(sheet.SampleField, from, to);
         moveColumn(sheet.Count, from, to);
+        moveColumn(sheet.Share, from, to);
         moveColumn(sheet.AdditionalInfo, from, to);
         moveColumn(sheet.SampleNote, from, to);
         moveColumn(sheet.SampleStamp, from, to);
@@ -51,6 +54,11 @@ void MoveSample()
             frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
         frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);
     }
-    if (sheet.DiagramOpen)
-        hooks.RefreshDiagram();
+    if (sheet.DiagramOpen) {
+        listDiagramSamples();
+        PrepareDiagram();
+        paintDiagram();
+        paintTaxonNames();
+        recomputeDendrogram();
+    }
 }

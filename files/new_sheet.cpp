@@ -9,6 +9,7 @@
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
+#include "diagram/diagram_window.h"
 #include "diagram/sample_names.h"
 #include "files/sheet_on_screen.h"
 #include "platform/ports.h"
@@ -22,6 +23,7 @@ void mnuNew_Click()
     if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
                            Icon::question) != Answer::yes)
         return;
+    closeDiagram();
     resetSheet();
     showSiteName();
 }

@@ -7,6 +7,7 @@
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
+#include "diagram/diagram_window.h"
 #include "diagram/sample_move.h"
 #include "diagram/sample_names.h"
 #include "files/open_sheet.h"
@@ -135,6 +136,7 @@ bool AddSample()
     // 6, 14.
     logAction("(New sample: " + name + ")");
     moveToDepth();
+    reloadDiagram();
     // 15.
     TakeSnapshot();
     sheet.SheetPristine = false;
@@ -178,6 +180,8 @@ void frmNext_Command1_Click()
 {
     if (!AddSample())
         return;
+    if (sheet.FreshSheet)
+        closeDiagram();
     frmMain.Label14[0].caption = dateStamp(ports.clock->now());
     frmMain.Label14[1].caption = frmMain.Label14[2].caption = "---";
     for (int date = 0; date < 3; ++date)

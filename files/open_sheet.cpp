@@ -11,6 +11,7 @@
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
+#include "diagram/diagram_window.h"
 #include "diagram/sample_names.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
@@ -18,9 +19,11 @@
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
+#include "sheet/basis.h"
 #include "sheet/cell_grid.h"
 #include "sheet/file_location.h"
 #include "sheet/name_display.h"
+#include "sheet/subtotals.h"
 
 #include <algorithm>
 #include <functional>
@@ -60,16 +63,10 @@ bool mayGo(bool dropped)
 /// Steps 9 to 11.
 void showHeads()
 {
-    const auto& names = sheet.SheetHeader[2];
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
     setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
-    const std::string& all = frmMain.Label2[0].caption;
-    frmMain.Label2[1].caption = names[2] + ":";
-    frmMain.Label2[2].caption = names[3] + ":";
-    frmMain.mnuPercentAll.caption = "% by " + all.substr(0, all.size() - 1);
-    frmMain.mnuPercentSub1.caption = "% by " + names[2];
-    frmMain.mnuPercentSub2.caption = "% by " + names[3];
+    showSubtotalNames();
 
     frmMain.Combo2.items.clear();
     ++frmMain.Combo2.itemsRevision;
@@ -140,6 +137,7 @@ void forgetCounts()
 {
     sheet.UndoStack.fill({1, 0});
     frmMain.mnuUndo.enabled = false;
+    forgetCurve();
     highlight(0, plainRow);
     sheet.HighlightRow = 0;
 }
@@ -159,7 +157,6 @@ void endEarly()
         showHeads();
     }
     showSample(sheet.CurrentSample);
-    sheet.WarnNotLatest = true;
     TakeSnapshot(); // a reset must not bring counts of the sheet before
 }
 
@@ -186,22 +183,20 @@ void settle()
 {
     ArrangeTaxonCells();
     forgetCounts();
+    sheet.WarnNotLatest = true; // another sample comes on show
     {
         const ShowingSample showing;
         RecountTotals(sheet.CurrentSample);
         showTexts();
     }
+    frmMain.Picture2.clearPicture();
     TakeSnapshot();
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
     frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
     frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
-    for (int basis = 0; basis < 3; ++basis)
-        frmMain.Option1[basis].selected = basis == 0;
-    for (int slot = 1; slot <= taxonSlots; ++slot)
-        frmMain.Text1[slot].underline = false;
-    sheet.WarnNotLatest = true; // another sample came on show
+    selectBasis(0);
     AutoBackup();
     ApplyItalics();
 
@@ -223,6 +218,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     sheet.FreshSheet = true;
     if (const auto path = choose())
         if (const auto bytes = ports.files->read(*path, sheetLimit)) {
+            closeDiagram(); // it shows the sheet that goes
             beginProgress();
             const Reading reading = readSheet(fileTextInCodePage(*bytes), *path);
             if (reading == Reading::complete) {

@@ -1,5 +1,6 @@
 #include "files/rename_info.h"
 
+#include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/next_sample.h"
@@ -39,11 +40,7 @@ void frmParaName_Command1_Click()
     const std::string caption = frmParaName.Text1.text + ":";
     if (frmParaName.Label4.caption == "frmMain") {
         sheet.AdditionalInfo(0, item) = frmMain.Label10[item].caption = caption;
-        sheet.SheetPristine = false;
-        if (sheet.Modifying) // Save comes back with the end of the mode
-            sheet.UnsavedEdits = true;
-        else
-            frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        markUnsavedWork();
     } else {
         frmNext.Label3[item].caption = caption;
     }

@@ -1,6 +1,7 @@
 #include "files/save_sheet.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
@@ -9,11 +10,24 @@
 #include "files/sheet_text.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
+#include "sheet/basis.h"
 #include "sheet/file_location.h"
 
 namespace {
 
-enum Mode { plain = 0, copy = 55, saveAs = 77, untouched = 99 };
+enum Mode { plain = 0, copy = 55, saveAs = 77, untouched = 99, percentageTable = 100 };
+
+bool isPercentageTable(int mode)
+{
+    return mode >= percentageTable;
+}
+
+std::string proposedName(int mode)
+{
+    if (mode == copy)
+        return proposedCopyName(sheet.SheetPath, ports.clock->now().date);
+    return isPercentageTable(mode) ? proposedTableName(sheet.SheetPath) : sheet.SheetPath;
+}
 
 /// Path A: the dialog was cancelled.
 void endCancelled()
@@ -31,19 +45,30 @@ void endFailed()
     endProgress();
 }
 
-/// Writes the sheet; what the writing has changed in it goes back if it fails.
-bool write(int mode, const std::string& path, const std::vector<SampleTotals>& totals)
+std::string fileText(int mode, const std::vector<SampleTotals>& totals)
+{
+    if (!isPercentageTable(mode))
+        return dataSheetText(sheet, totals);
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        ComputePercentages(sample);
+    return percentageTableText(sheet, totals, mode - percentageTable);
+}
+
+/// Writes the sheet; what the writing has changed in it goes back if it fails. `sheetPath`: what the file
+/// calls the sheet.
+bool write(int mode, const std::string& path, const std::string& sheetPath,
+           const std::vector<SampleTotals>& totals)
 {
     const Moment now = ports.clock->now();
     const auto headBefore = sheet.SheetHeader[1];
     std::string& modified = sheet.SampleStamp(sheet.CurrentSample, 3);
     const std::string modifiedBefore = modified;
 
-    stampHead("Last modified (dd/mm/yyyy):", mode == copy ? sheet.SheetPath : path, now);
+    stampHead("Last modified (dd/mm/yyyy):", sheetPath, now);
     if (mode == plain && !sheet.FreshSheet)
         modified = dateStamp(now);
     fillEmptyCells(sheet, shownCaptions());
-    if (!ports.files->write(path, dataSheetText(sheet, totals))) {
+    if (!ports.files->write(path, fileText(mode, totals))) {
         sheet.SheetHeader[1] = headBefore;
         modified = modifiedBefore;
         return false;
@@ -78,34 +103,38 @@ void SaveSheet(int mode)
         endFailed();
         return;
     }
-    if (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != copy))
+    const bool isTable = isPercentageTable(mode);
+    if (!isTable && (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != copy)))
         mode = saveAs;
 
     std::string path = sheet.SheetPath;
-    if (mode == saveAs || mode == copy) {
-        const auto chosen = ports.dialogs->chooseFileToSave(
-            mode == saveAs ? sheet.SheetPath : proposedCopyName(sheet.SheetPath, ports.clock->now().date));
+    if (mode == saveAs || mode == copy || isTable) {
+        const auto chosen = ports.dialogs->chooseFileToSave(proposedName(mode));
         if (!chosen) {
             endCancelled();
             return;
         }
         path = *chosen;
     }
+    const bool namesSheet = mode == saveAs || (isTable && sheet.SheetUnnamed); // on purpose of a table too
     const auto name = baseName(path);
-    if (mode == saveAs &&
+    if (namesSheet &&
         !name) { // a name without a point: the file is there, empty, and the sheet stays unnamed
         ports.files->create(path);
         endFailed();
         return;
     }
-    if (!write(mode, path, *totals)) {
+    if (!write(mode, path, namesSheet ? path : sheet.SheetPath, *totals)) {
         endFailed();
         return;
     }
 
-    if (mode == saveAs)
+    if (namesSheet)
         takeName(path, *name);
-    if (mode != copy || path == sheet.SheetPath) {
+    if (isTable) {
+        if (path == sheet.SheetPath)
+            markUnsavedWork(); // the sheet's own file holds no counts now
+    } else if (mode != copy || path == sheet.SheetPath) {
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
         sheet.TemplateOpened = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
@@ -133,4 +162,26 @@ void mnuSaveAs_Click()
 void mnuSaveCopy_Click()
 {
     SaveSheet(copy);
+}
+
+static void savePercentageTable(int basis)
+{
+    selectBasis(basis); // on the main window too, and it stays so
+    SaveSheet(percentageTable + basis);
+    sheet.AlarmArmed = true;
+}
+
+void mnuPercentAll_Click()
+{
+    savePercentageTable(0);
+}
+
+void mnuPercentSub1_Click()
+{
+    savePercentageTable(1);
+}
+
+void mnuPercentSub2_Click()
+{
+    savePercentageTable(2);
 }

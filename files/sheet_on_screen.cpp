@@ -39,10 +39,10 @@ void showSheetName(const std::string& name)
     frmMain.caption = "TallyStrata 3.2.5 - [" + toCodePageFromUtf8(name) + "]";
 }
 
-void beginProgress()
+void beginProgress(int steps)
 {
     frmMain.pointer = Pointer::hourglass;
-    frmMain.ProgressBar1 = {true, 0, taxonSlots};
+    frmMain.ProgressBar1 = {true, 0, std::max(1, steps)};
 }
 
 void endProgress()

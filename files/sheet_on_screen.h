@@ -17,5 +17,6 @@ void stampHead(const char* tag, const std::string& path, const Moment& now);
 /// The name of the sheet (UTF-8) in the title bar.
 void showSheetName(const std::string& name);
 
-void beginProgress();
+/// The hourglass and a progress bar of `steps`, which runs on without an end if there are none to count.
+void beginProgress(int steps = taxonSlots);
 void endProgress();

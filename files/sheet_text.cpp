@@ -3,14 +3,25 @@
 #include "core/fields.h"
 #include "core/number_text.h"
 
+#include <cmath>
+
 namespace {
 
-enum class Numbers { bare, asText };
+enum class Cells { counts, countsAsText, percentages };
+
+/// A percentage without a basis.
+constexpr double noPercentage = 9999;
+
+/// To four decimals, halves to even. Adding 0 makes a plain 0 of a negative one.
+double fourDecimals(double percentage)
+{
+    return std::nearbyint(percentage * 10000) / 10000 + 0.0;
+}
 
 class SheetComposer {
 public:
-    SheetComposer(const SheetState& sheet, int samples, Numbers numbers)
-        : sheet_(sheet), samples_(samples), numbers_(numbers)
+    SheetComposer(const SheetState& sheet, int samples, Cells cells)
+        : sheet_(sheet), samples_(samples), cells_(cells)
     {
         fields_.reserve(static_cast<std::size_t>(16000 + 1500 * samples));
     }
@@ -34,10 +45,7 @@ public:
             number(taxon.Subtotal2);
             fields_.text(taxon.Name);
             for (int sample = 1; sample <= samples_; ++sample)
-                if (numbers_ == Numbers::bare)
-                    fields_.number(sheet_.Count(sample, keyIndex));
-                else
-                    fields_.text(decimalText(sheet_.Count(sample, keyIndex)));
+                cell(sample, keyIndex);
             fields_.endLine();
         }
     }
@@ -54,19 +62,48 @@ public:
     }
     void totals(const std::vector<SampleTotals>& totals)
     {
-        totalLine(sheet_.SheetHeader[2][2], totals, &SampleTotals::subtotal1);
-        totalLine(sheet_.SheetHeader[2][3], totals, &SampleTotals::subtotal2);
-        totalLine("All total", totals, &SampleTotals::all);
+        for (const SumLine& line : sumLines()) {
+            totalHead(line.name);
+            for (int sample = 1; sample <= samples_; ++sample)
+                fields_.number(totals[sample].*line.sum);
+            fields_.endLine();
+        }
+    }
+    void percentages(const std::vector<SampleTotals>& totals, int basis)
+    {
+        const auto lines = sumLines();
+        const auto whole = lines[basis == 0 ? 2 : basis - 1].sum;
+        for (const SumLine& line : lines) {
+            totalHead(line.name);
+            for (int sample = 1; sample <= samples_; ++sample) {
+                const int total = totals[sample].*whole;
+                if (line.sum == whole)
+                    fields_.text("100 (n=" + decimalText(total) + ")");
+                else
+                    fields_.decimal(total == 0 ? noPercentage
+                                               : fourDecimals(100.0 * (totals[sample].*line.sum) / total));
+            }
+            fields_.endLine();
+        }
     }
     std::string take() { return fields_.take(); }
 
 private:
     void number(const std::string& text)
     {
-        if (numbers_ == Numbers::bare)
-            fields_.number(wholeNumber(text));
-        else
+        if (cells_ == Cells::countsAsText)
             fields_.text(text);
+        else
+            fields_.number(wholeNumber(text));
+    }
+    void cell(int sample, int slot)
+    {
+        if (cells_ == Cells::counts)
+            fields_.number(sheet_.Count(sample, slot));
+        else if (cells_ == Cells::countsAsText)
+            fields_.text(decimalText(sheet_.Count(sample, slot)));
+        else // in single precision, as the share is
+            fields_.decimal(fourDecimals(sheet_.Share(sample, slot) * 100.0F));
     }
     void head(const std::array<std::string, 5>& texts)
     {
@@ -82,18 +119,22 @@ private:
             fields_.text(cells(sample, row));
         fields_.endLine();
     }
-    void totalLine(const std::string& name, const std::vector<SampleTotals>& totals,
-                   std::int16_t SampleTotals::*sum)
+    struct SumLine {
+        std::string name;
+        std::int16_t SampleTotals::*sum;
+    };
+    /// The lines at the foot, in their order.
+    std::array<SumLine, 3> sumLines() const
     {
-        fields_.text("---").text("---").text("---").text(name);
-        for (int sample = 1; sample <= samples_; ++sample)
-            fields_.number(totals[sample].*sum);
-        fields_.endLine();
+        return {{{sheet_.SheetHeader[2][2], &SampleTotals::subtotal1},
+                 {sheet_.SheetHeader[2][3], &SampleTotals::subtotal2},
+                 {"All total", &SampleTotals::all}}};
     }
+    void totalHead(const std::string& name) { fields_.text("---").text("---").text("---").text(name); }
 
     const SheetState& sheet_;
     int samples_;
-    Numbers numbers_;
+    Cells cells_;
     FieldWriter fields_;
 };
 
@@ -107,7 +148,7 @@ void fill(std::string& text)
 
 std::string dataSheetText(const SheetState& sheet, const std::vector<SampleTotals>& totals)
 {
-    SheetComposer composer(sheet, sheet.SampleCount, Numbers::bare);
+    SheetComposer composer(sheet, sheet.SampleCount, Cells::counts);
     composer.heads();
     composer.taxa();
     composer.additionalInfo();
@@ -117,9 +158,20 @@ std::string dataSheetText(const SheetState& sheet, const std::vector<SampleTotal
     return composer.take();
 }
 
+std::string percentageTableText(const SheetState& sheet, const std::vector<SampleTotals>& totals, int basis)
+{
+    SheetComposer composer(sheet, sheet.SampleCount, Cells::percentages);
+    composer.heads();
+    composer.taxa();
+    composer.additionalInfo();
+    composer.dates();
+    composer.percentages(totals, basis);
+    return composer.take();
+}
+
 std::string backupText(const SheetState& sheet)
 {
-    SheetComposer composer(sheet, sheet.SampleCount, Numbers::asText);
+    SheetComposer composer(sheet, sheet.SampleCount, Cells::countsAsText);
     composer.heads();
     composer.taxa();
     composer.additionalInfo();
@@ -129,7 +181,7 @@ std::string backupText(const SheetState& sheet)
 
 std::string templateText(const SheetState& sheet)
 {
-    SheetComposer composer(sheet, 0, Numbers::bare);
+    SheetComposer composer(sheet, 0, Cells::counts);
     composer.heads();
     composer.taxa();
     composer.additionalInfo();

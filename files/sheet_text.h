@@ -10,6 +10,9 @@
 /// They are composed whole before a file is touched. Empty cells are to be filled first.
 
 std::string dataSheetText(const SheetState& sheet, const std::vector<SampleTotals>& totals);
+/// `basis`: the sum that the percentages go by, 0 all total, 1 and 2 the subtotals. The table of shares is to
+/// be filled by it first. Notes are left out.
+std::string percentageTableText(const SheetState& sheet, const std::vector<SampleTotals>& totals, int basis);
 /// All fields are text, and the file ends with the notes.
 std::string backupText(const SheetState& sheet);
 /// The sheet without its samples.

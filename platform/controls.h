@@ -43,6 +43,14 @@ struct OptionButton {
     bool selected = false;
 };
 
+struct CheckBox {
+    std::string caption;
+    bool checked = false;
+    bool visible = true;
+    int top = 0;
+    int left = 0;
+};
+
 /// A box with a list. `itemsRevision` goes up whenever `items` is changed in another way than by adding at
 /// its end, so that a view of a long list need not compare it item by item.
 struct ComboBox {

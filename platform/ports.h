@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/drawing.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -38,6 +40,11 @@ public:
     virtual std::optional<std::string> chooseFileToSave(const std::string& proposed) = 0;
     /// Path of a data file to read, or nothing if the user cancels.
     virtual std::optional<std::string> chooseFileToOpen() = 0;
+    /// Path of a picture to write, with one of the endings .svg, .pdf and .png, or nothing if the user
+    /// cancels.
+    virtual std::optional<std::string> choosePictureToSave(const std::string& proposed) = 0;
+    /// A colour, or nothing if the user cancels.
+    virtual std::optional<Colour> chooseColour(Colour current) = 0;
 };
 
 enum class Cue {
@@ -61,6 +68,21 @@ public:
     virtual void load(Cue cue, std::string_view wavImage) = 0;
     virtual void play(Cue cue) = 0;
     virtual void beep() = 0;
+};
+
+enum class PictureFormat { svg, pdf, png };
+
+/// Pictures that leave the program.
+class Pictures {
+public:
+    virtual ~Pictures() = default;
+    /// Puts a picture on the clipboard in place of what is there: sharp in a word processor, and as vectors
+    /// for a drawing program.
+    virtual void copy(const Figure& figure) = 0;
+    /// The bytes of a file that holds the picture.
+    virtual std::string encode(const Figure& figure, PictureFormat format) = 0;
+    /// How long a text is, pixels of the design.
+    virtual float textWidth(const Letters& letters) = 0;
 };
 
 /// One reading of the system's clock, local time.
@@ -93,6 +115,7 @@ struct Ports {
     Sound* sound = nullptr;
     Clock* clock = nullptr;
     OneShotTimer* Timer1 = nullptr;
+    Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips
 };

@@ -40,6 +40,13 @@ public:
         return path;
     }
 
+    std::optional<std::string> choosePictureToSave(const std::string& name) override
+    {
+        return chooseFileToSave(name);
+    }
+    std::optional<Colour> colour; ///< what the colour dialog answers
+    std::optional<Colour> chooseColour(Colour) override { return colour; }
+
     void expect(std::string text, std::string title, Answer answer = Answer::ok)
     {
         script_.push_back({std::move(text), std::move(title), answer});

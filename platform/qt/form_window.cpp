@@ -38,22 +38,24 @@ void FormWindow::present()
         first_->setFocus();
 }
 
-QLineEdit* FormWindow::box(const QString& name, TextBox& record, std::function<void()> entered,
-                           std::function<void()> left)
+QLineEdit* FormWindow::box(const QString& name, TextBox& record, BoxHandlers handlers)
 {
+    if (!handlers.edited)
+        handlers.edited = [&record](std::string_view text, int caret) { typeInto(record, text, caret); };
     auto* const edit = new QLineEdit(this);
     edit->setObjectName(name);
     edit->setMinimumWidth(220);
-    connect(edit, &QLineEdit::textEdited, this, [this, edit, &record](const QString& text) {
-        main_.onEvent([&] { typeInto(record, heldText(text), edit->cursorPosition()); });
-    });
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, edit, edited = std::move(handlers.edited)](const QString& text) {
+                main_.onEvent([&] { edited(heldText(text), edit->cursorPosition()); });
+            });
     shows_ += [edit, &record] {
         if (edit->text() == shownText(record.text))
             return;
         edit->setText(shownText(record.text));
         edit->setCursorPosition(record.caret);
     };
-    watchVisits(edit, std::move(entered), std::move(left));
+    watchVisits(edit, std::move(handlers.entered), std::move(handlers.left));
     return edit;
 }
 
@@ -116,6 +118,16 @@ void FormWindow::watchVisits(QWidget* widget, std::function<void()> entered, std
 {
     focusHandlers_[widget] = {std::move(entered), std::move(left)};
     widget->installEventFilter(this);
+}
+
+void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::function<void()> clicked)
+{
+    connect(widget, &QAbstractButton::clicked, this,
+            [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
+    shows_ += [widget, &marked] {
+        widget->setAutoExclusive(false);
+        widget->setChecked(marked);
+    };
 }
 
 bool FormWindow::eventFilter(QObject* target, QEvent* event)

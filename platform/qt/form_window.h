@@ -4,13 +4,23 @@
 
 #include <QDialog>
 #include <functional>
+#include <string_view>
 
 class MainWindow;
+class QAbstractButton;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
+
+/// What a box of one line sets off beside showing its record.
+struct BoxHandlers {
+    std::function<void()> entered = {}; ///< it gets the focus
+    std::function<void()> left = {};    ///< it loses the focus
+    /// What the user typed, with the caret; without this it goes into the record alone.
+    std::function<void(std::string_view text, int caret)> edited = {};
+};
 
 /// A small window above the main one. It is on show while its record says so; its frame and Esc do what
 /// Cancel does. What the user types goes into the record; what a handler writes there shows again.
@@ -23,9 +33,8 @@ public:
     void present();
 
 protected:
-    /// A box of one line bound to a record; `entered` and `left` as in watchVisits().
-    QLineEdit* box(const QString& name, TextBox& record, std::function<void()> entered = {},
-                   std::function<void()> left = {});
+    /// A box of one line bound to a record.
+    QLineEdit* box(const QString& name, TextBox& record, BoxHandlers handlers = {});
     QPlainTextEdit* area(const QString& name, TextBox& record);
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> clicked,
                         const Button* record = nullptr);
@@ -36,6 +45,15 @@ protected:
     /// in front ends none.
     void watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left);
     MainWindow& mainWindow() const { return main_; }
+    /// A check box or a radio button. A click runs the handler, and `marked` tells what shows.
+    template <class Widget>
+    Widget* mark(const QString& name, const bool& marked, std::function<void()> clicked)
+    {
+        auto* const made = new Widget(this);
+        made->setObjectName(name);
+        bindMark(made, marked, std::move(clicked));
+        return made;
+    }
     /// What present() brings up to date beside the boxes.
     virtual void presentMore() {}
     /// The box that has the focus when the window opens.
@@ -45,6 +63,8 @@ protected:
     void reject() override;
 
 private:
+    void bindMark(QAbstractButton* widget, const bool& marked, std::function<void()> clicked);
+
     MainWindow& main_;
     const bool& shouldShow_;
     void (*cancel_)();

@@ -4,9 +4,12 @@
 #include "core/main_keys.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "diagram/diagram_window.h"
 #include "platform/key_codes.h"
 #include "platform/qt/capture_box.h"
+#include "platform/qt/diagram_window.h"
 #include "platform/qt/main_window.h"
+#include "sheet/percent_view.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -22,7 +25,7 @@ KeyInput::KeyInput(MainWindow& window) : window_(window)
     connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
     qApp->installEventFilter(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
-        if (focused != window_.windowHandle())
+        if (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle())
             keyboardLost();
     });
 }
@@ -32,13 +35,17 @@ void KeyInput::keyboardLost()
     deliver(repeats_.flush(), 0); // that key did come up
     repeats_.forget();
     captured_.clear();
-    window_.onEvent([] { Form_Deactivate(); });
+    window_.onEvent([] {
+        Form_Deactivate();
+        Command6_MouseUp(); // percentages are looked at in passing
+    });
 }
 
 bool KeyInput::isForCounting(const QObject* target) const
 {
-    return target == window_.windowHandle() && frmMain.enabled &&
-           QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
+    return (target == window_.windowHandle() || target == window_.diagramWindow().windowHandle()) &&
+           frmMain.enabled && QApplication::activePopupWidget() == nullptr &&
+           QApplication::activeModalWidget() == nullptr;
 }
 
 int KeyInput::virtualKey(const QKeyEvent& event)
@@ -109,7 +116,7 @@ bool KeyInput::isCaptured(QKeyEvent& event)
     }
     for (const keycodes::KeyEvent& one : repeats_.down(key)) {
         if (!one.isDown) {
-            deliverUp(one.code, 0);
+            deliver(one, 0);
         } else if (!captured_.contains(one.code)) { // else it repeats
             captured_.insert(one.code);
             if (CaptureBox* const box = captureBox())
@@ -122,18 +129,22 @@ bool KeyInput::isCaptured(QKeyEvent& event)
 void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
 {
     for (const keycodes::KeyEvent& key : events)
-        if (key.isDown)
-            window_.onEvent([&] { Form_KeyDown(key.code, shift); });
-        else
-            deliverUp(key.code, shift);
+        deliver(key, shift);
 }
 
-void KeyInput::deliverUp(int code, int shift)
+void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
 {
-    if (!captured_.remove(code))
-        window_.onEvent([&] { Form_KeyUp(code, shift); });
-    else if (CaptureBox* const box = captureBox())
-        box->keyCameUp(code);
+    if (!key.isDown && captured_.remove(key.code)) {
+        if (CaptureBox* const box = captureBox())
+            box->keyCameUp(key.code);
+        return;
+    }
+    window_.onEvent([&] {
+        if (inDiagram_)
+            key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
+        else
+            key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
+    });
 }
 
 /// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
@@ -150,8 +161,10 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (isForCounting(target))
+        if (isForCounting(target)) {
+            inDiagram_ = target == window_.diagramWindow().windowHandle();
             return takesKey(static_cast<QKeyEvent&>(*event));
+        }
         if (target->isWindowType() && isCaptured(static_cast<QKeyEvent&>(*event)))
             return true;
         if (target->isWindowType() &&
@@ -164,7 +177,8 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
             key.accept();
             return true;
         }
-        const bool inWindow = QApplication::activeWindow() == &window_ &&
+        const QWidget* const active = QApplication::activeWindow();
+        const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
         const int code = inWindow ? virtualKey(key) : 0;
         if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))

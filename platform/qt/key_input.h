@@ -28,12 +28,13 @@ private:
     bool takesKey(QKeyEvent& event);
     bool isCaptured(QKeyEvent& event);
     void deliver(const keycodes::KeyRepeatFilter::Events& events, int shift);
-    void deliverUp(int code, int shift);
+    void deliver(const keycodes::KeyEvent& key, int shift);
     void keyboardLost();
 
     MainWindow& window_;
     X11Layout layout_;
     keycodes::KeyRepeatFilter repeats_;
-    QSet<int> captured_; ///< codes of the keys that went down in a capture box and are still down
-    QTimer heldRelease_; ///< a release waits this long for the press that would make it a repeat
+    QSet<int> captured_;     ///< codes of the keys that went down in a capture box and are still down
+    bool inDiagram_ = false; ///< the last key went to the diagram's window
+    QTimer heldRelease_;     ///< a release waits this long for the press that would make it a repeat
 };

@@ -71,11 +71,10 @@ KeyCodeWindow::KeyCodeWindow(MainWindow& main)
     progress_->setTextVisible(false);
     auto* const foot = new QHBoxLayout;
     for (const int side : {0, 1}) {
-        sides_[side] = new QRadioButton(side == 0 ? "Left handed" : "Right handed");
-        sides_[side]->setObjectName(indexed("Option1", side));
-        connect(sides_[side], &QRadioButton::clicked, this,
-                [this, side] { mainWindow().onEvent([side] { frmKeyCode_Option1_Click(side); }); });
-        foot->addWidget(sides_[side]);
+        auto* const choice = mark<QRadioButton>(indexed("Option1", side), frmKeyCode.Option1[side].selected,
+                                                [side] { frmKeyCode_Option1_Click(side); });
+        choice->setText(side == 0 ? "Left handed" : "Right handed");
+        foot->addWidget(choice);
     }
     foot->addWidget(progress_, 1);
     foot->addStretch(1);
@@ -239,8 +238,6 @@ void KeyCodeWindow::presentMore()
         functions_[function]->setText(shownText(record.text));
         showRed(*functions_[function], record.red);
     }
-    for (const int side : {0, 1})
-        sides_[side]->setChecked(frmKeyCode.Option1[side].selected);
     characterCode_->setText(shownText(frmKeyCode.Label4.caption));
     const QSignalBlocker quiet(pages_);
     pages_->setCurrentIndex(frmKeyCode.SSTab1);

@@ -6,7 +6,6 @@ class CaptureBox;
 class KeyMap;
 class QLabel;
 class QProgressBar;
-class QRadioButton;
 class QTabWidget;
 
 /// frmKeyCode.
@@ -31,7 +30,6 @@ private:
     QTabWidget* pages_;
     QList<KeyMap*> maps_;
     std::array<CaptureBox*, 5> functions_{};
-    std::array<QRadioButton*, 2> sides_{};
     QLabel* characterCode_ = nullptr;
     QProgressBar* progress_;
     QPushButton* ok_;

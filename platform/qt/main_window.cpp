@@ -5,12 +5,17 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/diagram_window.h"
 #include "platform/qt/initial_window.h"
 #include "platform/qt/key_windows.h"
 #include "platform/qt/sample_windows.h"
+#include "platform/qt/subtotal_window.h"
+#include "platform/qt/summary_window.h"
+#include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/percent_view.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -93,7 +98,9 @@ MainWindow::MainWindow()
     plainColours_ = surface->palette();
 
     forms_ = {new SiteNameWindow(*this), new NextWindow(*this),    new ParameterNameWindow(*this),
-              new InitialWindow(*this),  new KeyCodeWindow(*this), new KeyNoteWindow(*this)};
+              new SubtotalWindow(*this), new SummaryWindow(*this), new InitialWindow(*this),
+              new KeyCodeWindow(*this),  new KeyNoteWindow(*this)};
+    diagram_ = std::make_unique<DiagramWindow>(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -103,6 +110,8 @@ MainWindow::MainWindow()
                                                   : MainFocus::elsewhere;
     });
 }
+
+MainWindow::~MainWindow() = default;
 
 void MainWindow::beginEvent()
 {
@@ -124,6 +133,9 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
             return true;
         break;
     case QEvent::MouseButtonRelease:
+    case QEvent::UngrabMouse:
+        if (target == percent_)
+            onEvent(Command6_MouseUp);
         if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())
             enteredByMouse_->selectAll();
         enteredByMouse_ = nullptr;
@@ -144,6 +156,8 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         }
         return false;
     }
+    case QEvent::Wheel: // a turn of the wheel on the way elsewhere must not change the sample
+        return qobject_cast<QComboBox*>(target) != nullptr;
     default:
         return false;
     }
@@ -232,6 +246,9 @@ void MainWindow::present()
         setWindowTitle(title);
     if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
+    for (int total = 0; total < 3; ++total)
+        hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+    curve_->present();
     presentMode();
     frmMain.focus = wanted;
     presentFocusAndPointer();
@@ -239,6 +256,12 @@ void MainWindow::present()
         setVisible(frmMain.visible);
     for (FormWindow* const form : forms_)
         form->present();
+    diagram_->present();
+    if (frmMain.forwardRevision != forwardShown_) {
+        forwardShown_ = frmMain.forwardRevision;
+        raise();
+        activateWindow();
+    }
 }
 
 /// What a screen reader says of a cell.

@@ -7,11 +7,15 @@
 #include <QPalette>
 #include <array>
 #include <functional>
+#include <memory>
 
+struct MainMenuEntry;
+class DiagramWindow;
 class FormWindow;
 class QMenu;
 class QMouseEvent;
 class QTabWidget;
+class SurfaceView;
 class TaxonPage;
 
 /// The widgets of frmMain. They show the record and turn what the user does into handler calls; they decide
@@ -19,6 +23,7 @@ class TaxonPage;
 class MainWindow : public QMainWindow {
 public:
     MainWindow();
+    ~MainWindow() override;
 
     /// Runs the handler of one event of the user, then shows what it changed.
     template <class Handler>
@@ -35,6 +40,9 @@ public:
     /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds
     /// and does not grow with the sheet.
     void present();
+
+    /// The window of the diagram, where keys count too.
+    const DiagramWindow& diagramWindow() const { return *diagram_; }
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
@@ -64,6 +72,7 @@ private:
 
     // main_window_menus.cpp
     void makeMenus();
+    void addEntry(QMenu& menu, const MainMenuEntry& entry);
     void makeRowMenu();
 
     // main_window_editing.cpp
@@ -86,6 +95,11 @@ private:
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
     QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
+    std::array<QLabel*, 3> hundredMarks_{};
+    QAbstractButton* percent_ = nullptr; ///< Command6
+    QComboBox* samples_ = nullptr;       ///< Combo2
+    SurfaceView* curve_ = nullptr;       ///< Picture2
+    QMenu* curveMenu_ = nullptr;         ///< mnuDiversityRB
     bool modifyingShown_ = false;
     QPalette plainColours_; ///< of the sheet outside Modify template mode
 
@@ -99,6 +113,8 @@ private:
     QList<ComboBinding> combos_;
     QList<LogBinding> logs_;
     std::array<std::string, taxonSlots + 1> namesShown_;
+    std::unique_ptr<DiagramWindow> diagram_;
+    int forwardShown_ = 0;
     QList<FormWindow*> forms_; ///< the small windows above this one
     Pointer pointerShown_ = Pointer::arrow;
 };

@@ -5,11 +5,15 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "platform/qt/main_window.h"
+#include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
+#include "sheet/percent_view.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
@@ -66,9 +70,15 @@ bool MainWindow::boxPressed(QWidget* box, const QMouseEvent& press)
             menuOpens = Text2_MouseDown(index, right);
         else if (name == "Label10")
             Label10_Click(index);
+        else if (box == percent_ && press.button() == Qt::LeftButton)
+            Command6_MouseDown();
+        else if (box == curve_ && right)
+            mnuDiversityRB_Open();
         else if (qobject_cast<QAbstractButton*>(box) == nullptr)
             giveFocusBack();
     });
+    if (box == curve_ && right)
+        curveMenu_->popup(press.globalPosition().toPoint());
     if (menuOpens)
         rowMenu_->popup(press.globalPosition().toPoint());
     return menuOpens;
@@ -121,6 +131,7 @@ void MainWindow::presentMode()
         if (control.name == "Text5" || (control.name == "Text1" && control.index == 0))
             makeEditable(line.widget, on);
     }
+    makeEditable(samples_->lineEdit(), on);
     note_->setReadOnly(!on);
     note_->setUndoRedoEnabled(on);
     note_->setFocusPolicy(on ? Qt::StrongFocus : Qt::NoFocus);

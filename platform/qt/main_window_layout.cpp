@@ -8,16 +8,22 @@
 #include "files/rename_info.h"
 #include "files/save_sheet.h"
 #include "platform/qt/main_window.h"
+#include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
+#include "sheet/basis.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
+#include "sheet/sample_choice.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -44,6 +50,27 @@ QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
     area->setFocusPolicy(Qt::NoFocus);
     area->viewport()->setObjectName(QString(name) + ".text");
     return area;
+}
+
+/// The alarm's visible twin.
+QPixmap bellPicture(qreal devicePixelRatio)
+{
+    constexpr int size = 16;
+    QPixmap picture((QSizeF(size, size) * devicePixelRatio).toSize());
+    picture.setDevicePixelRatio(devicePixelRatio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(200, 110, 0));
+    QPainterPath bell(QPointF(2, 12));
+    bell.cubicTo(5, 10, 3, 3, 8, 3);
+    bell.cubicTo(13, 3, 11, 10, 14, 12);
+    bell.closeSubpath();
+    painter.drawPath(bell);
+    painter.drawEllipse(QPointF(8, 2.5), 1.2, 1.2);
+    painter.drawEllipse(QPointF(8, 13.3), 1.8, 1.5);
+    return picture;
 }
 
 void modify()
@@ -121,7 +148,7 @@ QComboBox* MainWindow::boundCombo(const QString& name, const ComboBox& record)
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // never measures its list
     combo->setMinimumContentsLength(12);
-    connect(combo, &QComboBox::activated, this, [this] { onEvent(giveFocusBack); });
+    combo->setCompleter(nullptr);
     combos_.append({combo, &record});
     return combo;
 }
@@ -136,13 +163,20 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(name, 2);
     QComboBox* const samples = boundCombo("Combo2", frmMain.Combo2);
     samples->setAccessibleName("Choose a sample");
+    connect(samples, &QComboBox::activated, this,
+            [this](int index) { onEvent([&] { Combo2_Click(std::string(frmMain.Combo2.items[index])); }); });
+    connect(samples->lineEdit(), &QLineEdit::textEdited, this, [this, samples](const QString& text) {
+        const auto caret = heldText(text.left(samples->lineEdit()->cursorPosition())).size();
+        onEvent([&] { Combo2_Change(heldText(text), static_cast<int>(caret)); });
+    });
+    samples_ = samples;
     row->addWidget(samples, 2);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label3", "Serial No.:"));
     row->addWidget(boundLabel("Label4", frmMain.Label4));
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
-    row->addWidget(boundButton("Command9", frmMain.Command9, "Go", nullptr));
+    row->addWidget(boundButton("Command9", frmMain.Command9, "Go", Command9_Click));
     row->addStretch(1);
     row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", mnuOpen_Click));
     row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", mnuSave_Click));
@@ -192,7 +226,17 @@ QWidget* MainWindow::sumStrip()
         sum->setAccessibleName(names[total]);
         sum->setAlignment(Qt::AlignRight);
         row->addWidget(sum, 2);
-        row->addSpacing(16);
+        QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
+        bell->setObjectName(indexed("hundredMark", total));
+        bell->setPixmap(bellPicture(devicePixelRatioF()));
+        bell->setToolTip("A full hundred");
+        bell->setAccessibleName(QString("A full hundred of ") + names[total]);
+        QSizePolicy kept = bell->sizePolicy();
+        kept.setRetainSizeWhenHidden(true);
+        bell->setSizePolicy(kept);
+        bell->hide();
+        row->addWidget(bell);
+        row->addSpacing(8);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
@@ -202,13 +246,15 @@ QWidget* MainWindow::sumStrip()
         option->setAccessibleName(QString("Set alarm on ") + names[total]);
         option->setFocusPolicy(Qt::TabFocus);
         connect(option, &QRadioButton::clicked, this,
-                [this] { onEvent([] { notThereYet("Choosing the alarm"); }); });
+                [this, total] { onEvent([&] { selectBasis(total); }); });
         options_.append({option, &frmMain.Option1[total]});
-        row->insertWidget(4 * total + 2, option);
+        row->insertWidget(5 * total + 3, option);
     }
-    QAbstractButton* const percent = boundButton("Command6", frmMain.Command6, "%", nullptr);
-    percent->setAccessibleName("Show percentages");
-    row->addWidget(percent);
+    percent_ = boundButton("Command6", frmMain.Command6, "%", [] {}); // works while it is held: boxPressed()
+    percent_->setFocusPolicy(Qt::NoFocus);
+    percent_->setAccessibleName("Show percentages while held down");
+    percent_->setToolTip("Percentages while held down");
+    row->addWidget(percent_);
     row->addWidget(boundButton("Command8", frmMain.Command8, "Alignment", Command8_Click));
     return panel(row);
 }
@@ -275,6 +321,7 @@ QWidget* MainWindow::historyPanel()
     grid->addWidget(fixedLabel("Label5", "Latest:"), 2, 0);
     QComboBox* const latest = boundCombo("Combo1", frmMain.Combo1);
     latest->setAccessibleName("Latest action");
+    connect(latest, &QComboBox::activated, this, [this] { onEvent(giveFocusBack); });
     grid->addWidget(latest, 2, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
@@ -289,13 +336,16 @@ QWidget* MainWindow::curvePanel()
     QLabel* const axis = fixedLabel("Label9", "Diversity");
     axis->setAlignment(Qt::AlignRight);
     grid->addWidget(axis, 0, 1);
-    auto* const curve = new QFrame;
-    curve->setObjectName("Picture2");
-    curve->setAccessibleName("Taxa diversity vs. total count");
-    curve->setFrameShape(QFrame::StyledPanel);
-    curve->setAutoFillBackground(true);
-    curve->setBackgroundRole(QPalette::Base);
-    grid->addWidget(curve, 1, 0, 1, 2);
+    auto* const frame = new QFrame;
+    frame->setFrameShape(QFrame::StyledPanel);
+    curve_ = new SurfaceView(frmMain.Picture2, Picture2_Resize);
+    curve_->setObjectName("Picture2");
+    curve_->setAccessibleName("Taxa diversity vs. total count");
+    curve_->setToolTip("Taxa diversity vs. total count");
+    auto* const inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(1, 1, 1, 1);
+    inside->addWidget(curve_);
+    grid->addWidget(frame, 1, 0, 1, 2);
     QPlainTextEdit* const location = textArea("Text6", "File location");
     location->setFrameShape(QFrame::NoFrame);
     location->viewport()->setAutoFillBackground(false);

@@ -4,35 +4,38 @@
 #include "core/main_screen.h"
 #include "core/transfer_taxa.h"
 #include "core/undo.h"
+#include "diagram/diagram_window.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
 #include "files/template_file.h"
+#include "files/text_exports.h"
 #include "keys/first_run.h"
 #include "keys/key_editor.h"
 #include "platform/qt/main_window.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
+#include "sheet/subtotals.h"
+#include "sheet/summary.h"
 
 #include <QAction>
 #include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
-
-using Handler = void (*)();
-
-struct Entry {
+struct MainMenuEntry {
     const char* menu; ///< name of the menu it stands in; see `menus`
     const char* name; ///< nullptr: a line between entries
     const char* caption;
     MenuEntry* record = nullptr; ///< entries without one are always enabled
-    Handler handler = nullptr;   ///< entries without one say that they are not there yet
+    void (*handler)() = nullptr; ///< entries without one say that they are not there yet
     bool checkable = false;
 };
+
+namespace {
 
 struct Menu {
     const char* name;
@@ -66,7 +69,7 @@ void align()
     mnuAlign_Click(side);
 }
 
-QList<Entry> entries()
+QList<MainMenuEntry> entries()
 {
     MainScreen& f = frmMain;
     return {
@@ -80,11 +83,11 @@ QList<Entry> entries()
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuNext", "Next sample", &f.mnuNext, mnuNext_Click},
         {"mnuFile", nullptr, nullptr},
-        {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory},
-        {"mnuFile", "mnuSaveSaturation", "Save Saturation curve"},
-        {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll},
-        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1},
-        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2},
+        {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory, mnuSaveHistory_Click},
+        {"mnuFile", "mnuSaveSaturation", "Save Saturation curve", nullptr, mnuSaveSaturation_Click},
+        {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll, mnuPercentAll_Click},
+        {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1, mnuPercentSub1_Click},
+        {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2, mnuPercentSub2_Click},
         {"mnuFile", nullptr, nullptr},
         {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 
@@ -96,18 +99,18 @@ QList<Entry> entries()
         {"mnuEdit", nullptr, nullptr},
         {"mnuEdit", "mnuFind", "Find"},
 
-        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar},
-        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea},
-        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot},
+        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar, mnuBar_Click},
+        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea, mnuArea_Click},
+        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, mnuDot_Click},
         {"mnuDiagram", nullptr, nullptr},
-        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve},
-        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve},
+        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
+        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
         {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},
-        {"mnuTools", "mnuSubtotal", "Subtotal settings"},
+        {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
         {"mnuTools", nullptr, nullptr},
-        {"mnuTools", "mnuSummary", "Summary"},
+        {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
         {"mnuTools", "mnuDiagnose", "Diagnose"},
 
         {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
@@ -130,6 +133,19 @@ QList<Entry> entries()
 
 } // namespace
 
+void MainWindow::addEntry(QMenu& menu, const MainMenuEntry& entry)
+{
+    QAction* const action = menu.addAction(entry.caption);
+    action->setObjectName(entry.name);
+    action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
+    action->setCheckable(entry.checkable);
+    connect(action, &QAction::triggered, this, [this, entry] {
+        onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
+    });
+    if (entry.record != nullptr)
+        actions_.append({action, entry.record});
+}
+
 void MainWindow::makeMenus()
 {
     QMap<QString, QMenu*> made;
@@ -148,26 +164,24 @@ void MainWindow::makeMenus()
         return made[name];
     };
 
-    for (const Entry& entry : entries()) {
+    for (const MainMenuEntry& entry : entries()) {
         QMenu* const menu = menuOf(entry.menu);
         if (entry.name == nullptr) {
             menu->addSeparator();
             continue;
         }
-        QAction* const action = menu->addAction(entry.caption);
-        action->setObjectName(entry.name);
-        action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
-        action->setCheckable(entry.checkable);
-        connect(action, &QAction::triggered, this, [this, entry] {
-            onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
-        });
-        if (entry.record != nullptr)
-            actions_.append({action, entry.record});
+        addEntry(*menu, entry);
     }
     // The menu of percentage tables is one entry of its own.
     actions_.append({made["mnuPercent"]->menuAction(), &frmMain.mnuPercent});
 
     makeRowMenu();
+    curveMenu_ = new QMenu(this);
+    curveMenu_->setObjectName("mnuDiversityRB");
+    addEntry(*curveMenu_, {"mnuDiversityRB", "mnuCopyDiversity", "Copy image", &frmMain.mnuCopyDiversity,
+                           mnuCopyDiversity_Click});
+    addEntry(*curveMenu_,
+             {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &frmMain.mnuSaveDiversity, SaveDiversity});
 
     // mnuByPass: Ctrl and a letter is taken here and does nothing. It counts nothing either.
     for (char letter = 'A'; letter <= 'Z'; ++letter) {

@@ -4,6 +4,7 @@
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -57,4 +58,22 @@ std::optional<std::string> MessageBoxes::chooseFileToOpen()
 {
     window_.present();
     return chosen(QFileDialog::getOpenFileName(&window_, "Open", {}, dataFiles));
+}
+
+std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
+{
+    window_.present();
+    return chosen(QFileDialog::getSaveFileName(&window_, "Save picture", QString::fromStdString(proposed),
+                                               "Picture(*.svg *.pdf *.png)"));
+}
+
+std::optional<Colour> MessageBoxes::chooseColour(Colour current)
+{
+    window_.present();
+    const QColor chosenColour =
+        QColorDialog::getColor(QColor(current.red, current.green, current.blue), &window_, "Colour");
+    if (!chosenColour.isValid())
+        return std::nullopt;
+    return RGB(static_cast<std::uint8_t>(chosenColour.red()), static_cast<std::uint8_t>(chosenColour.green()),
+               static_cast<std::uint8_t>(chosenColour.blue()));
 }

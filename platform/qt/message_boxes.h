@@ -11,6 +11,8 @@ public:
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) override;
     std::optional<std::string> chooseFileToSave(const std::string& proposed) override;
     std::optional<std::string> chooseFileToOpen() override;
+    std::optional<std::string> choosePictureToSave(const std::string& proposed) override;
+    std::optional<Colour> chooseColour(Colour current) override;
 
 private:
     MainWindow& window_;

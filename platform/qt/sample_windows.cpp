@@ -44,9 +44,9 @@ QWidget* SampleWindow::entryBoxes(SampleForm& form, const std::function<QWidget*
     grid->addWidget(note, 1, 1);
     for (int item = 1; item <= infoItems; ++item) {
         grid->addWidget(label(indexed("Label3", item), form.Label3[item].caption), item + 1, 0);
-        QLineEdit* const info = box(
-            indexed("Text3", item), form.Text3[item], [&form, item] { form.enterInfo(item); },
-            [&form, item] { form.leaveInfo(item); });
+        QLineEdit* const info = box(indexed("Text3", item), form.Text3[item],
+                                    {.entered = [&form, item] { form.enterInfo(item); },
+                                     .left = [&form, item] { form.leaveInfo(item); }});
         info->setAccessibleName(QString("Additional info %1").arg(item));
         grid->addWidget(info, item + 1, 1);
         if (beside)

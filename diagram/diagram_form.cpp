@@ -1,0 +1,11 @@
+#include "diagram/diagram_form.h"
+
+DiagramForm frmDiagram;
+
+DiagramForm::DiagramForm()
+{
+    mnuSub1.checked = true;
+    mnuCurve.checked = true;
+    mnuTaxaName.checked = true;
+    Text1.enabled = Text2.enabled = false;
+}

@@ -1,0 +1,177 @@
+#include "diagram/diagram_mouse.h"
+
+#include "core/main_screen.h"
+#include "core/number_text.h"
+#include "core/sheet_state.h"
+#include "diagram/diagram_form.h"
+#include "diagram/diagram_view.h"
+#include "diagram/sample_move.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Names the taxon of the column at `x`, which counts from the diagram's beginning.
+std::string taxonAt(float x)
+{
+    const PlotData& plot = frmDiagram.plot;
+    const float zoom = diagramView().zoom;
+    std::string name;
+    for (int column = 1; column < taxonSlots; ++column)
+        if (zoom * plot.ColumnLeft[column] <= x && zoom * plot.ColumnLeft[column + 1] > x)
+            name = sheet.TaxonRecord[sheet.KeyIndexOfRow[column]].Name;
+    if (x > plot.ColumnLeft[taxonSlots]) // on purpose without the zoom, and by slot
+        name = sheet.TaxonRecord[taxonSlots].Name;
+    return name;
+}
+
+/// Where the mouse finds the sample line: by depth on a whole tenth of a row.
+float lineOfSample(int sample)
+{
+    const float row = rowOfSample(sample);
+    return sheet.NamesNotNumeric ? row : 10 * std::nearbyint(row / 10);
+}
+
+int sampleNearest(float y)
+{
+    if (sheet.NamesNotNumeric)
+        return std::clamp(static_cast<int>(std::nearbyint(y / 10)), 1, static_cast<int>(sheet.SampleCount));
+    const std::vector<float> rows = diagramRows();
+    int nearest = 1;
+    float best = 99999.0F;
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        if (const float distance = std::abs(rows[static_cast<std::size_t>(sample)] / 10 - y / 10);
+            distance < best) {
+            best = distance;
+            nearest = sample;
+        }
+    return nearest;
+}
+
+void followMouse(float y)
+{
+    DiagramForm& f = frmDiagram;
+    if (!f.LineDragging && !f.MovingSample)
+        return;
+    f.Slider1.value = sampleNearest(y);
+    if (f.LineDragging && !sheet.NamesNotNumeric)
+        f.DiagramSample = static_cast<std::int16_t>(f.Slider1.value);
+    if (f.MovingSample)
+        sheet.MoveTo = static_cast<std::int16_t>(f.Slider1.value);
+    placePanel();
+}
+
+void endDrag()
+{
+    frmDiagram.LineDragging = frmDiagram.MovingSample = false;
+    frmDiagram.pointer = DiagramPointer::arrow;
+}
+
+} // namespace
+
+void TargetLine(float x, float y, DiagramPicture picture)
+{
+    constexpr Colour colour = RGB(255, 50, 0);
+    DiagramForm& f = frmDiagram;
+    if (f.pointer != DiagramPointer::arrow)
+        return;
+    const auto [left, top, width, height] = f.Picture1.scale;
+    if (f.mnuVertical.checked) {
+        if (picture == DiagramPicture::diagram) {
+            const float inView = x - static_cast<float>(f.HScroll1.value);
+            f.Picture1.lineInLayer(inView, top, inView, top + height, colour);
+        } else {
+            f.Picture2.lineInLayer(x, top, x, top + height, colour);
+        }
+    }
+    if (f.mnuHorizontal.checked) {
+        f.Picture1.lineInLayer(left, y, left + width, y, colour);
+        f.Picture2.lineInLayer(left, y, left + width, y, colour);
+    }
+}
+
+void pictureMouseMove(DiagramPicture picture, float x, float y)
+{
+    DiagramForm& f = frmDiagram;
+    if (!sheet.DiagramOpen)
+        return;
+    if (picture == DiagramPicture::diagram) {
+        x += static_cast<float>(f.HScroll1.value);
+        f.toolTip = f.mnuTaxaName.checked ? taxonAt(x) : std::string();
+    }
+    const float offLine = y - lineOfSample(f.Slider1.value);
+    if (offLine * offLine < f.Picture1.scale.height * 10 / 50)
+        f.pointer = DiagramPointer::sizeNS;
+    else if (!f.LineDragging)
+        f.pointer = DiagramPointer::arrow;
+    followMouse(y);
+    paintSampleLine();
+    TargetLine(x, y, picture);
+    showMove();
+}
+
+bool pictureMouseDown(DiagramPicture picture, float x, float y, bool right)
+{
+    DiagramForm& f = frmDiagram;
+    paintSampleLine();
+    TargetLine(x, y, picture);
+    bool opens = false;
+    const bool onLine = f.pointer == DiagramPointer::sizeNS;
+    if (right && sheet.NamesNotNumeric && onLine) {
+        f.MovingSample = true;
+        sheet.MoveFrom = sheet.MoveTo = static_cast<std::int16_t>(f.Slider1.value);
+        paintSampleLine();
+    } else if (right && !f.LineDragging) {
+        f.pointer = DiagramPointer::arrow;
+        opens = true;
+    } else if (!right && onLine) {
+        f.LineDragging = true;
+    }
+    showMove();
+    f.sliderFocused = true;
+    return opens;
+}
+
+void pictureMouseUp()
+{
+    DiagramForm& f = frmDiagram;
+    if (!sheet.DiagramOpen)
+        return;
+    if (f.MovingSample)
+        MoveSample();
+    endDrag();
+    paintSampleLine();
+    placePanel();
+    f.DiagramSample = static_cast<std::int16_t>(f.Slider1.value);
+    showMove();
+    f.sliderFocused = true;
+}
+
+void mouseOverControls()
+{
+    endDrag();
+    if (frmDiagram.Check1.checked)
+        placePanel();
+}
+
+void mouseOverSurface()
+{
+    mouseOverControls();
+    paintSampleLine();
+}
+
+void showMove()
+{
+    frmDiagram.Text1.text = decimalText(sheet.MoveFrom);
+    frmDiagram.Text2.text = decimalText(sheet.MoveTo);
+}
+
+void listDiagramSamples()
+{
+    ComboBox& list = frmDiagram.Combo2;
+    list.items.clear();
+    ++list.itemsRevision;
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        list.items.push_back(sheet.SampleField(sample, 2));
+}

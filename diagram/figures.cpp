@@ -1,0 +1,104 @@
+#include "diagram/figures.h"
+
+#include "core/sheet_name.h"
+#include "core/sheet_state.h"
+#include "diagram/dendrogram.h"
+#include "diagram/diagram_form.h"
+#include "diagram/diagram_view.h"
+#include "platform/ports.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+Figure figureOf(const Surface& surface)
+{
+    return {surface.width,
+            surface.height,
+            {{0, 0, surface.width, surface.height, surface.scale, surface.picture}}};
+}
+
+std::optional<PictureFormat> formatOf(const std::string& path)
+{
+    const std::size_t point = path.rfind('.');
+    if (point == std::string::npos)
+        return std::nullopt;
+    std::string ending = path.substr(point);
+    std::transform(ending.begin(), ending.end(), ending.begin(),
+                   [](unsigned char letter) { return static_cast<char>(letter | 0x20); });
+    if (ending == ".svg")
+        return PictureFormat::svg;
+    if (ending == ".pdf")
+        return PictureFormat::pdf;
+    if (ending == ".png")
+        return PictureFormat::png;
+    return std::nullopt;
+}
+
+/// The name of the sheet with the ending of a picture.
+std::string proposedName()
+{
+    const std::string& path = sheet.SheetPath;
+    if (!baseName(path))
+        return "diagram.svg";
+    return path.substr(0, path.rfind('.')) + ".svg";
+}
+
+} // namespace
+
+Figure figureInView(DiagramPart part)
+{
+    const DiagramForm& f = frmDiagram;
+    return figureOf(part == DiagramPart::diagram ? f.Picture1
+                    : part == DiagramPart::names ? f.Picture4
+                                                 : f.Picture2);
+}
+
+Figure wholeFigure()
+{
+    const DiagramForm& f = frmDiagram;
+    constexpr float margin = 10;
+    DiagramView view = diagramView();
+    view.scroll = 0;
+    // To the end of the last column, and room for the last name.
+    const float units =
+        (f.plot.ColumnLeft[taxonSlots] + f.plot.LastColumnWidth + static_cast<float>(f.plot.ColumnGap)) *
+            view.zoom +
+        15;
+    view.scale.width = units;
+    const float width = units * pixelsPerUnit;
+    const float names = f.Picture4.height;
+    const float height = f.Picture1.height;
+
+    Figure figure;
+    figure.panels.push_back(
+        {margin, margin, width, names, {0, 0, width, names}, planNames(f.plot, view, names - 8)});
+    figure.panels.push_back(
+        {margin, margin + names, width, height, view.scale, planDiagram(sheet, f.plot, diagramRows(), view)});
+    figure.width = width + 2 * margin;
+    figure.height = names + height + 2 * margin;
+    if (f.picture2Visible) {
+        const Surface& dendrogram = f.Picture2;
+        figure.panels.push_back(
+            {margin + width, margin + names, dendrogram.width, height, dendrogram.scale, dendrogram.picture});
+        figure.width += dendrogram.width;
+    }
+    return figure;
+}
+
+void mnuSavePicture_Click()
+{
+    const auto path = ports.dialogs->choosePictureToSave(proposedName());
+    if (!path)
+        return;
+    const auto format = formatOf(*path);
+    if (!format) {
+        ports.dialogs->ask("Please end the file name with .svg, .pdf or .png.", "Error", Buttons::ok,
+                           Icon::exclamation);
+        return;
+    }
+    if (!ports.files->write(*path, ports.pictures->encode(wholeFigure(), *format)))
+        ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
+                           "Error", Buttons::ok, Icon::exclamation);
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "core/sheet_state_type.h"
+
+#include <string>
+#include <string_view>
+
+/// The texts of the files for other programs that hold no sheet, in its code page. docs/data-formats.md tells
+/// them line by line.
+
+/// `savedAt`: the time of writing, as the log keeps times.
+std::string historyText(const SheetState& sheet, std::string_view savedAt);
+/// The number of taxa seen at each number of individuals up to that on show; totals without a point are left
+/// out.
+std::string saturationText(const SheetState& sheet, std::string_view sampleName);

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "diagram/diagram_form.h"
+#include "platform/qt/bindings.h"
+
+#include <QMainWindow>
+#include <functional>
+
+class MainWindow;
+class QCheckBox;
+class QMenu;
+class QMouseEvent;
+class QScrollBar;
+class QSlider;
+class SurfaceView;
+
+/// The widgets of frmDiagram, a window of its own beside the main one. Its controls stand where their records
+/// say.
+class DiagramWindow : public QMainWindow {
+public:
+    explicit DiagramWindow(MainWindow& main);
+
+    /// Brings the window up to date with its record.
+    void present();
+
+protected:
+    bool eventFilter(QObject* target, QEvent* event) override;
+    void closeEvent(QCloseEvent*) override;
+    void changeEvent(QEvent*) override;
+
+private:
+    // diagram_window_menus.cpp
+    void makeMenus();
+    void makePopups();
+    QAction* entry(QMenu& menu, const char* name, const QString& caption, void (*handler)(),
+                   const MenuEntry* record = nullptr);
+
+    SurfaceView* picture(const char* name, Surface& surface, const QString& accessibleName);
+    QWidget* sampleButtons();
+    QWidget* samplePanel();
+    QWidget* corner();
+    void resized();
+    void presentPlaces();
+    void presentScales();
+    bool pictureEvent(SurfaceView* view, QMouseEvent& event);
+    void onEvent(const std::function<void()>& handler);
+
+    MainWindow& main_;
+    QLabel* notice_;
+    SurfaceView* diagram_;
+    SurfaceView* dendrogram_;
+    SurfaceView* names_;
+    QWidget* strip_;
+    QScrollBar* scroll_;
+    QSlider* sample_;
+    QSlider* zoom_ = nullptr;
+    QWidget* panel_;
+    QWidget* buttons_;
+    QWidget* corner_;
+    QCheckBox* check_ = nullptr;
+    QMenu* diagramMenu_ = nullptr;    ///< RB1
+    QMenu* dendrogramMenu_ = nullptr; ///< RBConiss
+    QMenu* namesMenu_ = nullptr;      ///< RB3
+    QList<ActionBinding> actions_;
+    QList<ComboBinding> combos_;
+    QList<LineBinding> lines_;
+    int forwardShown_ = 0;
+    bool resizeWaits_ = false;
+};

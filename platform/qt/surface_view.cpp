@@ -1,0 +1,43 @@
+#include "platform/qt/surface_view.h"
+
+#include "platform/qt/drawing_painter.h"
+
+#include <QPainter>
+
+SurfaceView::SurfaceView(Surface& surface, std::function<void()> resized)
+    : surface_(surface), resized_(std::move(resized))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void SurfaceView::present()
+{
+    if (pictureShown_ != surface_.pictureRevision || layerShown_ != surface_.layerRevision)
+        update();
+    layerShown_ = surface_.layerRevision;
+}
+
+void SurfaceView::resizeEvent(QResizeEvent*)
+{
+    surface_.width = static_cast<float>(width());
+    surface_.height = static_cast<float>(height());
+    surface_.devicePixels = static_cast<float>(devicePixelRatioF());
+    resized_();
+}
+
+void SurfaceView::paintEvent(QPaintEvent*)
+{
+    const QSize size = (QSizeF(width(), height()) * devicePixelRatioF()).toSize();
+    if (pictureShown_ != surface_.pictureRevision || picture_.size() != size) {
+        pictureShown_ = surface_.pictureRevision;
+        if (picture_.size() != size)
+            picture_ = QPixmap(size);
+        picture_.setDevicePixelRatio(devicePixelRatioF());
+        picture_.fill(Qt::white);
+        QPainter painter(&picture_);
+        paintDrawing(painter, surface_.picture, surface_.scale, rect(), LineWidth::onePixel);
+    }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, picture_);
+    paintDrawing(painter, surface_.layer, surface_.scale, rect(), LineWidth::onePixel);
+}

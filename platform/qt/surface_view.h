@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/drawing.h"
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+/// Shows a surface on white paper. The picture is painted once for each of its revisions and kept; the layer
+/// is painted over it.
+class SurfaceView : public QWidget {
+public:
+    /// `resized` runs when the surface's size on the screen has changed and is noted in its record.
+    SurfaceView(Surface& surface, std::function<void()> resized);
+
+    /// Asks for a repaint if the surface has changed.
+    void present();
+
+protected:
+    void resizeEvent(QResizeEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    Surface& surface_;
+    std::function<void()> resized_;
+    QPixmap picture_;
+    int pictureShown_ = -1;
+    int layerShown_ = -1;
+};
