@@ -52,8 +52,8 @@ TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
         {backspace, "[BkSp] 8"},   {escape, "[Esc] 27"},      {enter, "[Enter] 13"},
         {space, "[Space] 32"},     {f1, "[F1] 112"},          {left, "[Left] 37"},
         {right, "[Right] 39"},     {down, "[Down] 40"},       {f10, "[F10] 121"},
-        {placeW, "w 87"},          {placeSemicolon, "; 186"}, {tab, "[9] 9"},
-        {leftAlt, "[18] 18"}};
+        {placeW, "w 87"},          {placeSemicolon, "; 186"}, {tab, "[Tab] 9"},
+        {leftAlt, "[Alt] 18"}};
     for (const auto& [place, expected] : keys)
         EXPECT_EQ(captured(form, 27, place), expected);
     EXPECT_EQ(captured(form, 27, placeF, {leftAlt}), "f 70") << "opens no menu";

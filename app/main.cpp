@@ -1,4 +1,5 @@
 #include "app/program.h"
+#include "core/version.h"
 #include "platform/qt/program_folder.h"
 
 #include <QApplication>
@@ -9,7 +10,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setApplicationName("TallyStrata");
-    QApplication::setApplicationVersion("3.2.5");
+    QApplication::setApplicationVersion(programVersion);
     Program program(programFolder(QApplication::applicationDirPath(),
                                   QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     return QApplication::exec();

@@ -4,9 +4,12 @@
 
 #include "core/main_keys.h"
 
+#include <QAction>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -160,4 +163,49 @@ TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
     tap(placeQ);
     EXPECT_EQ(shown(1), 1) << "the window counts on";
+}
+
+TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
+{
+    named<QAction>("mnuDiagnose")->trigger();
+    QWidget* const diagnose = window->findChild<QWidget*>("frmDiagnose");
+    ASSERT_TRUE(waitFor([&] { return diagnose->isActiveWindow(); }));
+    for (const Place place : {placeQ, tab, space, enter, escape, backspace})
+        tap(place);
+    tapWith({placeSemicolon}, placeW);
+    EXPECT_TRUE(diagnose->isVisible());
+    EXPECT_EQ(total(), 0);
+    EXPECT_EQ(sheet.UndoStack[0].slot, 0);
+    const QString report = diagnose->findChild<QPlainTextEdit*>("Text1")->toPlainText();
+    EXPECT_TRUE(report.contains("down  27   [Esc]"));
+    EXPECT_TRUE(report.contains("down  87   w              layer 1")) << report.toStdString();
+    diagnose->findChild<QPushButton*>("Command2")->click();
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 1);
+}
+
+TEST_F(RealKeys, aWarningThatFindRaisesIsAnsweredAboveIt)
+{
+    sheet.SampleCount = 2;
+    frmMain.Text1[50].text = "Betula";
+    named<QAction>("mnuFind")->trigger();
+    QWidget* const find = window->findChild<QWidget*>("frmFind");
+    ASSERT_TRUE(waitFor([&] { return find->isActiveWindow(); }));
+    for (const char letter : {'B', 'e', 't'}) {
+        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(letter)));
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    }
+    QTimer::singleShot(300, this->window, [] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_TRUE(box->isActiveWindow());
+        box->button(QMessageBox::Yes)->click();
+    });
+    tap(enter);
+    settle(500);
+    EXPECT_EQ(shown(50), 1);
+    EXPECT_FALSE(find->isVisible());
+    EXPECT_EQ(sheet.Layer, 0);
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
 }

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -251,6 +252,54 @@ TEST_F(Widgets, aDroppedDataSheetIsOpened)
     EXPECT_EQ(named<QLineEdit>("Text2(1)")->text(), "1");
     EXPECT_EQ(named<QComboBox>("Combo2")->count(), 16);
     EXPECT_EQ(named<QComboBox>("Combo2")->currentText(), "EKH-C-18");
+}
+
+TEST_F(Widgets, findShowsATaxonAsItIsTypedAndCountsIt)
+{
+    for (int slot = 1; slot <= taxonSlots; ++slot)
+        frmMain.Text1[slot].text = "Taxon " + std::to_string(slot);
+    named<QAction>("mnuFind")->trigger();
+    const auto control = [this](const char* name) {
+        return window->findChild<QWidget*>("frmFind")->findChild<QWidget*>(name);
+    };
+    auto* const text = qobject_cast<QLineEdit*>(control("Text1"));
+    ASSERT_TRUE(waitFor([&] { return text->hasFocus(); }));
+    const auto press = [&](int key, const QString& letters = {}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, letters);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    for (const QChar letter : QString("taxon 13"))
+        press(0, letter);
+    auto* const list = qobject_cast<QListWidget*>(control("List1"));
+    EXPECT_EQ(list->count(), 7) << "13 and 130 to 135";
+    EXPECT_EQ(named<QTabWidget>("SSTab1")->currentIndex(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list->currentItem()->text(), "Taxon 130");
+    EXPECT_EQ(named<QTabWidget>("SSTab1")->currentIndex(), 2);
+    EXPECT_EQ(named<QLineEdit>("Text1(130)")->palette().color(QPalette::Base), QColor(255, 210, 127));
+    for (const char* key : {"Command1(40)", "Command1(46)", "Command1(51)"})
+        EXPECT_EQ(control(key)->palette().color(QPalette::Button), QColor(255, 127, 0)) << key;
+    press(Qt::Key_Return);
+    EXPECT_EQ(named<QLineEdit>("Text2(130)")->text(), "1");
+    EXPECT_FALSE(text->window()->isVisible());
+    EXPECT_TRUE(waitFor([this] { return named<QWidget>("Text99")->hasFocus(); }));
+}
+
+TEST_F(Widgets, aPictureFillsItsWindowAndAClickEndsTheRest)
+{
+    QWidget* const picture = window->findChild<QWidget*>("frmPicture");
+    for (const char* entry : {"mnuCoffee", "mnuBeach", "mnuFavorite"}) {
+        named<QAction>(entry)->trigger();
+        picture->resize(160 * 5, 100 * 5);
+        const QImage shown = picture->grab().toImage();
+        for (const QPoint& corner : {QPoint(1, 1), QPoint(798, 1), QPoint(1, 498), QPoint(798, 498)})
+            EXPECT_NE(shown.pixelColor(corner), QColor(Qt::black)) << entry;
+        QMouseEvent click(QEvent::MouseButtonPress, {5, 5}, picture->mapToGlobal(QPointF(5, 5)),
+                          Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(picture, &click);
+        EXPECT_FALSE(picture->isVisible());
+        EXPECT_TRUE(frmMain.enabled);
+    }
 }
 
 /// Modify template mode in the real window: keys come as real widgets see them.

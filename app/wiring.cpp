@@ -2,6 +2,9 @@
 
 #include "core/hooks.h"
 #include "diagram/diagram_window.h"
+#include "extras/about.h"
+#include "extras/diagnose.h"
+#include "extras/pictures.h"
 #include "files/backup.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -12,12 +15,15 @@
 #include "keys/key_note.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
+#include "sheet/find.h"
 #include "sheet/live_curve.h"
 #include "sheet/subtotals.h"
 
-/// In this order.
+/// In this order; nothing asks for when frmFind and frmDiagnose go.
 static void unloadForms()
 {
+    frmAboutDX1.visible = false;
+    frmAboutApp.visible = false;
     closeDiagram();
     frmInitial.visible = false;
     frmKeyCode.visible = false;
@@ -26,6 +32,9 @@ static void unloadForms()
     frmParaName.visible = false;
     frmSiteName.visible = false;
     frmSubtotal.visible = false;
+    frmPicture.visible = false;
+    frmFind.visible = false;
+    frmDiagnose.visible = false;
 }
 
 void connectRooms()

@@ -18,6 +18,7 @@ class SilentSound : public Sound {
     void load(Cue, std::string_view) override {}
     void play(Cue cue) override { benchmark::DoNotOptimize(cue); }
     void beep() override {}
+    std::string device() const override { return {}; }
 };
 class FixedClock : public Clock {
     Moment now() override { return {"15/11/2026", 14, 5, 9, 270}; }

@@ -20,7 +20,7 @@ static void enableCounting(bool enabled)
     for (Button* button : {&f.Command3[0], &f.Command2[0], &f.Command4[0], &f.Command5[0], &f.Command5[1]})
         button->enabled = enabled;
     for (MenuEntry* entry : {&f.mnuStartAmend, &f.mnuSave, &f.mnuUndo, &f.mnuReset, &f.mnuNew, &f.mnuOpen,
-                             &f.mnuSaveAs, &f.mnuPercent, &f.mnuSaveCopy})
+                             &f.mnuSaveAs, &f.mnuPercent, &f.mnuSaveCopy, &f.mnuFind})
         entry->enabled = enabled;
     for (TextBox& sum : f.Text3)
         sum.enabled = enabled;

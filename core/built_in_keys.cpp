@@ -12,6 +12,11 @@ constexpr std::array<unsigned char, 46> keyOfNumber = {
     '4', '5', '6', 118, 119, 120, '7', '8', '9', // 37 to 45: F7 to F9
 };
 
+int builtInKeyCode(int keyNumber)
+{
+    return keyOfNumber[keyNumber];
+}
+
 int builtInKeyNumber(int keyCode)
 {
     for (int number = 1; number <= 45; ++number)

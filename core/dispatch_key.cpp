@@ -3,6 +3,7 @@
 #include "core/built_in_keys.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
+#include "core/layer_keys.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/record_count.h"
@@ -28,20 +29,6 @@ bool isAccepted(int keyCode)
         if (leadingNumber(sheet.KeySetting[row].Code) == keyCode)
             return true;
     return false;
-}
-
-/// One shift key raises the layer to 1, both to 2 in either order; a held one that repeats adds nothing to a
-/// layer of its own.
-void raiseLayer(int keyCode)
-{
-    if (keyCode == sheet.Shift1Key && sheet.Shift2Down)
-        ++sheet.Layer;
-    if (keyCode == sheet.Shift2Key)
-        sheet.Layer += (sheet.Shift1Down ? 1 : 0) + (sheet.Shift2Down ? 0 : 1);
-    if (keyCode == sheet.Shift1Key && !sheet.Shift1Down)
-        ++sheet.Layer;
-    if (sheet.Layer > 2)
-        sheet.Layer = 2;
 }
 
 /// One before a full hundred the alarm is armed.
@@ -95,11 +82,7 @@ bool isBoundKey(int keyCode)
 void DispatchKey(int keyCode, int shift)
 {
     // 1, 2.
-    raiseLayer(keyCode);
-    if (keyCode == sheet.Shift1Key)
-        sheet.Shift1Down = true;
-    if (keyCode == sheet.Shift2Key)
-        sheet.Shift2Down = true;
+    layerKeyDown(keyCode);
     // 3.
     if (keyCode == sheet.LastKey && sheet.RepeatGuard)
         return;
@@ -161,9 +144,8 @@ void DispatchKey(int keyCode, int shift)
         sheet.MinusState = 1;
     // 19. The dialog took the key-ups of the shift keys.
     if (answeredYes) {
-        sheet.Layer = 0;
+        releaseLayerKeys();
         frmMain.SSTab1 = 0;
-        sheet.Shift1Down = sheet.Shift2Down = false;
     }
     // 20. For Undo too, at its key-down, before anything is taken back.
     if (sheet.DiagramOpen && !isShiftKey(keyCode))

@@ -1,6 +1,7 @@
 #include "core/main_keys.h"
 
 #include "core/dispatch_key.h"
+#include "core/layer_keys.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "core/undo.h"
@@ -18,12 +19,7 @@ void Form_KeyDown(int keyCode, int shift)
 void Form_KeyUp(int keyCode, int /*shift*/)
 {
     // 1, 2.
-    if ((keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key) && sheet.Layer > 0)
-        --sheet.Layer;
-    if (keyCode == sheet.Shift1Key)
-        sheet.Shift1Down = false;
-    else if (keyCode == sheet.Shift2Key)
-        sheet.Shift2Down = false;
+    layerKeyUp(keyCode);
     // 3.
     if (!sheet.Modifying && sheet.Layer < 2)
         frmMain.SSTab1 = sheet.Layer;
@@ -43,8 +39,7 @@ void Timer1_Timer()
 
 static void forgetHeldKeys()
 {
-    sheet.Layer = 0;
-    sheet.Shift1Down = sheet.Shift2Down = false;
+    releaseLayerKeys();
     sheet.MinusState = 0;
     if (!sheet.Modifying)
         frmMain.SSTab1 = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/sheet_state_type.h"
+#include "core/version.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
 
@@ -22,7 +23,7 @@ constexpr Colour modifyColour = RGB(200, 100, 100); ///< the sheet in Modify tem
 struct MainScreen {
     MainScreen();
 
-    std::string caption = "TallyStrata 3.2.5 - [Untitled]";
+    std::string caption = std::string("TallyStrata ") + programVersion + " - [Untitled]";
     bool visible = false; ///< from the end of the start-up on; a first run comes before it
     bool enabled = true;
     int forwardRevision = 0; ///< goes up whenever the window is to come in front
@@ -74,7 +75,7 @@ struct MainScreen {
     // Menus. Only entries whose state a handler changes stand here.
     MenuEntry mnuNew, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
     MenuEntry mnuPercent, mnuPercentAll, mnuPercentSub1, mnuPercentSub2; ///< captions follow the subtotals
-    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend;
+    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend, mnuFind;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;
     MenuEntry mnuCopyDiversity, mnuSaveDiversity;    ///< pop-up of the saturation curve

@@ -3,6 +3,7 @@
 #include "core/action_log.h"
 #include "core/built_in_keys.h"
 #include "core/highlight.h"
+#include "core/layer_keys.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
@@ -16,11 +17,6 @@ static std::string slotText(int keyNumber)
 {
     const std::string text = decimalText(keyNumber + keysPerLayer * sheet.Layer);
     return text.size() == 1 ? "0" + text : text;
-}
-
-bool isShiftKey(int keyCode)
-{
-    return keyCode == sheet.Shift1Key || keyCode == sheet.Shift2Key;
 }
 
 /// Empty if the key counts no taxon. Of a code that stands in two rows the last row counts. A shift key never

@@ -1,8 +1,5 @@
 #pragma once
 
-/// True for the two layer keys of the map in force.
-bool isShiftKey(int keyCode);
-
 /// Turns an accepted key into a slot and the slot into one more individual (one less while MinusArmed) of the
 /// sample on show, with all that the observer sees at once: number, totals, bold and pale row, log line. Puts
 /// it on the undo stack. Called by DispatchKey only.

@@ -141,6 +141,7 @@ struct SheetState {
     bool WarnNotLatest = true;     ///< counting in another than the latest sample asks first
     bool AlarmArmed = true;        ///< the next hundred rings
     std::int16_t HighlightRow = 0; ///< slot of the pale row, 0 for none
+    std::int16_t FoundSlot = 0;    ///< slot of the taxon that frmFind shows or showed last, 0 for none
     std::int16_t MoveSource = 0;   ///< slot that a move would start from
     std::int16_t MoveFrom = 0;     ///< source and target column of a sample move
     std::int16_t MoveTo = 0;

@@ -4,6 +4,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "core/version.h"
 #include "platform/code_page.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ void stampHead(const char* tag, const std::string& path, const Moment& now)
 
 void showSheetName(const std::string& name)
 {
-    frmMain.caption = "TallyStrata 3.2.5 - [" + toCodePageFromUtf8(name) + "]";
+    frmMain.caption = std::string("TallyStrata ") + programVersion + " - [" + toCodePageFromUtf8(name) + "]";
 }
 
 void beginProgress(int steps)

@@ -2,28 +2,21 @@
 
 #include "core/built_in_keys.h"
 #include "core/number_text.h"
-#include "keys/key_name.h"
-
-static std::string nameOfBuiltInKey(int code)
-{
-    if (code == 188)
-        return ",";
-    if (code == 190)
-        return ".";
-    return code >= 112 && code <= 120 ? "[F" + decimalText(code - 111) + "]" : keyNameByCode(code);
-}
+#include "platform/key_names.h"
 
 static KeySettingTable delivered()
 {
     KeySettingTable table;
     table[0] = {"Definition", "Code", "Number"};
-    for (int code = 1; code < 256; ++code)
-        if (const int number = builtInKeyNumber(code))
-            table[number] = {nameOfBuiltInKey(code), decimalText(code), decimalText(number)};
-    table[rowShift1] = table[rowShift1Copy] = {";", "186", "n/a"};
-    table[rowShift2] = {"p", "80", "n/a"};
-    table[rowUndo] = {"[BkSp]", "8", "n/a"};
-    table[rowSave] = {"=", "187", "n/a"};
+    for (int number = 1; number <= keysPerLayer; ++number) {
+        const int code = builtInKeyCode(number);
+        table[number] = {keyName(code), decimalText(code), decimalText(number)};
+    }
+    const auto functionKey = [](int code) { return KeySettingRow{keyName(code), decimalText(code), "n/a"}; };
+    table[rowShift1] = table[rowShift1Copy] = functionKey(186);
+    table[rowShift2] = functionKey(80);
+    table[rowUndo] = functionKey(8);
+    table[rowSave] = functionKey(187);
     int row = rowFirstReference;
     for (const char* name :
          {"Shift", "Ctrl", "Delete", "BkSp", "Esc", "Enter", "Space", "F1", "Left", "Up", "Right", "Down"})

@@ -5,6 +5,7 @@
 #include "core/sheet_state.h"
 #include "keys/key_editor.h"
 #include "keys/key_name.h"
+#include "platform/key_names.h"
 #include "platform/ports.h"
 
 #include <vector>
@@ -39,7 +40,7 @@ void nameOnKeyUp(KeyBox& box, int keyCode)
     if (!name.empty())
         box.text = name;
     else if (box.text.empty())
-        box.text = keyNameByCode(keyCode);
+        box.text = keyName(keyCode);
 }
 
 void putBack(int key)

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "platform/code_page.h"
+#include "platform/key_names.h"
 
 namespace {
 
@@ -29,15 +30,6 @@ std::string specialKeyName(const KeySettingTable& table, int keyCode)
     return name;
 }
 
-std::string keyNameByCode(int keyCode)
-{
-    if (keyCode >= '0' && keyCode <= '9')
-        return std::string(1, static_cast<char>(keyCode));
-    if (keyCode >= 'A' && keyCode <= 'Z')
-        return std::string(1, static_cast<char>(keyCode - 'A' + 'a'));
-    return "[" + decimalText(keyCode) + "]";
-}
-
 std::string plainKeyName(int keyCode, char32_t character)
 {
     if (character < ' ' || (character >= 0x7F && character < 0xA0))
@@ -47,5 +39,5 @@ std::string plainKeyName(int keyCode, char32_t character)
     const std::string name = toCodePage({std::u16string(1, static_cast<char16_t>(character))});
     if (character < 0x10000 && (name != "?" || character == '?'))
         return name;
-    return keyNameByCode(keyCode);
+    return keyName(keyCode);
 }

@@ -11,9 +11,6 @@
 std::string specialKeyName(const KeySettingTable& table, int keyCode);
 
 /// Of a key that typed a character: the character. One that the sheets' code page lacks (a Greek letter, say)
-/// gives way to the name by the code; the double quotation mark, which the settings file cannot hold, to an
-/// apostrophe. Empty for a control character.
+/// gives way to the name of the key's code; the double quotation mark, which the settings file cannot hold,
+/// to an apostrophe. Empty for a control character.
 std::string plainKeyName(int keyCode, char32_t character);
-
-/// Of any other key: the Latin letter or the digit of its code, or the code itself, as in "[124]".
-std::string keyNameByCode(int keyCode);

@@ -77,6 +77,26 @@ bool isMultiByteUtf8(std::string_view text)
 
 } // namespace
 
+std::string utf8FromCodePage(std::string_view text)
+{
+    std::string bytes;
+    const auto add = [&bytes](int byte) { bytes += static_cast<char>(byte); };
+    for (const char16_t unit : fromCodePage(text)) { // none of the code page lies beyond 0xFFFF
+        if (unit < 0x80) {
+            add(unit);
+            continue;
+        }
+        if (unit < 0x800) {
+            add(0xC0 | unit >> 6);
+        } else {
+            add(0xE0 | unit >> 12);
+            add(0x80 | (unit >> 6 & 0x3F));
+        }
+        add(0x80 | (unit & 0x3F));
+    }
+    return bytes;
+}
+
 std::string toCodePageFromUtf8(std::string_view text)
 {
     std::u16string wide;

@@ -10,6 +10,9 @@ std::u16string fromCodePage(std::string_view text);
 /// A character that the code page lacks becomes "?".
 std::string toCodePage(std::u16string_view text);
 
+/// In UTF-8, for texts that leave the program in another way than in a data sheet.
+std::string utf8FromCodePage(std::string_view text);
+
 /// A path or another UTF-8 text in the code page; bytes that are no UTF-8 become "?".
 std::string toCodePageFromUtf8(std::string_view text);
 /// The bytes of a text file in the code page. A byte order mark is dropped. A file that is UTF-8 with at

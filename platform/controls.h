@@ -59,6 +59,12 @@ struct ComboBox {
     int itemsRevision = 0;
 };
 
+/// A list of which one line may be chosen.
+struct ListBox {
+    std::vector<std::string> items;
+    int chosen = -1; ///< from 0; -1: none
+};
+
 /// A text that only grows at its end while the program runs.
 struct LogBox {
     std::string text;

@@ -68,6 +68,8 @@ public:
     virtual void load(Cue cue, std::string_view wavImage) = 0;
     virtual void play(Cue cue) = 0;
     virtual void beep() = 0;
+    /// What plays, for people to read: the system's sound driver, or that there is none.
+    virtual std::string device() const = 0;
 };
 
 enum class PictureFormat { svg, pdf, png };

@@ -26,8 +26,7 @@ const CellGrid& cellGrid()
     return grid;
 }
 
-/// Grid position of each key number 1 to 45. Of a number that is named twice the later position holds.
-static std::array<int, 46> positionOfNumber()
+std::array<int, 46> positionOfNumber()
 {
     std::array<int, 46> position{};
     for (int i = 1; i <= keysPerLayer; ++i) {

@@ -15,4 +15,5 @@ public:
     void load(Cue cue, std::string_view wavImage) override { images[cue] = wavImage; }
     void play(Cue cue) override { played.push_back(cue); }
     void beep() override { ++beeps; }
+    std::string device() const override { return "recorder"; }
 };

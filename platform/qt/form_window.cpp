@@ -6,6 +6,7 @@
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -36,6 +37,8 @@ void FormWindow::present()
     setVisible(shouldShow_);
     if (shouldShow_ && first_ != nullptr)
         first_->setFocus();
+    if (!shouldShow_ && QApplication::activeModalWidget() == nullptr)
+        main_.activateWindow(); // a question in between may have left the keyboard with no window at all
 }
 
 QLineEdit* FormWindow::box(const QString& name, TextBox& record, BoxHandlers handlers)

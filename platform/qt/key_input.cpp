@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_window.h"
+#include "extras/diagnose.h"
 #include "platform/key_codes.h"
 #include "platform/qt/capture_box.h"
 #include "platform/qt/diagram_window.h"
@@ -74,16 +75,25 @@ static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
     return {physicalKey, code, event.timestamp(), event.isAutoRepeat()};
 }
 
-/// Counts the key if it is to count. True if no one else may see it.
+/// The diagnose window is in front: it is shown all keys, and no button of it takes one.
+static bool isForDiagnosis(const QObject* target)
+{
+    return frmDiagnose.visible && target->isWindowType() && QApplication::activePopupWidget() == nullptr;
+}
+
+/// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.
 bool KeyInput::takesKey(QKeyEvent& event)
 {
     const int code = virtualKey(event);
-    if (code == 0)
-        return false;
     const keycodes::RawKey key = rawKey(event, code);
+    if (code == 0) {
+        if (frmDiagnose.visible && event.type() == QEvent::KeyPress)
+            window_.onEvent([&] { frmDiagnose_KeyWithoutCode(key.physicalKey); });
+        return frmDiagnose.visible;
+    }
     const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
     // Asked before the key is handled: what is bound may change through it.
-    const bool taken = !sheet.Modifying && isBoundKey(code);
+    const bool taken = frmDiagnose.visible || (!sheet.Modifying && isBoundKey(code));
     if (event.type() == QEvent::KeyPress) {
         deliver(repeats_.down(key), shift);
     } else {
@@ -140,7 +150,9 @@ void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
         return;
     }
     window_.onEvent([&] {
-        if (inDiagram_)
+        if (frmDiagnose.visible)
+            key.isDown ? frmDiagnose_KeyDown(key.code) : frmDiagnose_KeyUp(key.code);
+        else if (inDiagram_)
             key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
         else
             key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
@@ -161,7 +173,7 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        if (isForCounting(target)) {
+        if (isForCounting(target) || isForDiagnosis(target)) {
             inDiagram_ = target == window_.diagramWindow().windowHandle();
             return takesKey(static_cast<QKeyEvent&>(*event));
         }

@@ -5,6 +5,18 @@
 #include <QLineEdit>
 #include <QPainter>
 
+/// A long name of a key has smaller letters.
+static void fitLetters(QLineEdit& box)
+{
+    QFont letters = box.parentWidget()->font();
+    const int wanted = QFontMetrics(letters).horizontalAdvance(box.text());
+    const int room = box.width() - 8;
+    if (wanted > room)
+        letters.setPointSizeF(letters.pointSizeF() * room / wanted);
+    if (letters != box.font())
+        box.setFont(letters);
+}
+
 void showRed(QWidget& box, bool red)
 {
     QPalette colours = box.palette();
@@ -39,8 +51,10 @@ void KeyMap::present()
                           pixels(keyBoxHeight));
         if (place != entry.box->geometry())
             entry.box->setGeometry(place);
-        if (const QString text = shownText(entry.record->text); text != entry.box->text())
+        if (const QString text = shownText(entry.record->text); text != entry.box->text()) {
             entry.box->setText(text);
+            fitLetters(*entry.box);
+        }
         showRed(*entry.box, entry.record->red);
     }
     update();

@@ -5,15 +5,20 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
+#include "platform/qt/about_windows.h"
+#include "platform/qt/diagnose_window.h"
 #include "platform/qt/diagram_window.h"
+#include "platform/qt/find_window.h"
 #include "platform/qt/initial_window.h"
 #include "platform/qt/key_windows.h"
+#include "platform/qt/picture_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/subtotal_window.h"
 #include "platform/qt/summary_window.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
+#include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
 
@@ -97,9 +102,11 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this),    new ParameterNameWindow(*this),
-              new SubtotalWindow(*this), new SummaryWindow(*this), new InitialWindow(*this),
-              new KeyCodeWindow(*this),  new KeyNoteWindow(*this)};
+    forms_ = {new SiteNameWindow(*this), new NextWindow(*this),     new ParameterNameWindow(*this),
+              new SubtotalWindow(*this), new SummaryWindow(*this),  new FindWindow(*this),
+              new PictureWindow(*this),  new AboutAppWindow(*this), new AboutKeypadWindow(*this),
+              new DiagnoseWindow(*this), new InitialWindow(*this),  new KeyCodeWindow(*this),
+              new KeyNoteWindow(*this)};
     diagram_ = std::make_unique<DiagramWindow>(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
@@ -236,9 +243,10 @@ void MainWindow::present()
     showAll(combos_);
     showAll(logs_);
     presentNames();
+    const int framed = frmFind.visible && sheet.FoundSlot != 0 ? sheet.FoundSlot : sheet.HighlightRow;
     for (TaxonPage* const page : pages_) {
         page->placeCells();
-        page->frameCell(sheet.HighlightRow);
+        page->frameCell(framed);
     }
     if (tabs_->currentIndex() != frmMain.SSTab1)
         tabs_->setCurrentIndex(frmMain.SSTab1);

@@ -5,6 +5,9 @@
 #include "core/transfer_taxa.h"
 #include "core/undo.h"
 #include "diagram/diagram_window.h"
+#include "extras/about.h"
+#include "extras/diagnose.h"
+#include "extras/pictures.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -14,6 +17,7 @@
 #include "keys/first_run.h"
 #include "keys/key_editor.h"
 #include "platform/qt/main_window.h"
+#include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
@@ -97,7 +101,7 @@ QList<MainMenuEntry> entries()
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
         {"mnuEdit", nullptr, nullptr},
-        {"mnuEdit", "mnuFind", "Find"},
+        {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 
         {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar, mnuBar_Click},
         {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea, mnuArea_Click},
@@ -111,7 +115,7 @@ QList<MainMenuEntry> entries()
         {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
         {"mnuTools", nullptr, nullptr},
         {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
-        {"mnuTools", "mnuDiagnose", "Diagnose"},
+        {"mnuTools", "mnuDiagnose", "Diagnose", nullptr, mnuDiagnose_Click},
 
         {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
         {"mnuFont", "mnuFontSize(6)", "6", &f.mnuFontSize[6], fontSize<6>, true},
@@ -122,12 +126,12 @@ QList<MainMenuEntry> entries()
         {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], align<0>, true},
         {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], align<1>, true},
 
-        {"mnuTired", "mnuCoffee", "Coffee"},
-        {"mnuTired", "mnuBeach", "Beach"},
-        {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite},
+        {"mnuTired", "mnuCoffee", "Coffee", nullptr, mnuCoffee_Click},
+        {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
+        {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite, mnuFavorite_Click},
         {"mnuHelp", nullptr, nullptr},
-        {"mnuHelp", "mnuAboutDX1", "About programmable keypads"},
-        {"mnuHelp", "mnuAboutApp", "About TallyStrata"},
+        {"mnuHelp", "mnuAboutDX1", "About programmable keypads", nullptr, mnuAboutDX1_Click},
+        {"mnuHelp", "mnuAboutApp", "About TallyStrata", nullptr, mnuAboutApp_Click},
     };
 }
 

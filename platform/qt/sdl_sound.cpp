@@ -70,6 +70,20 @@ void SdlSound::beep()
     QApplication::beep();
 }
 
+std::string SdlSound::device() const
+{
+    const char* const driver = driver_;
+    return driver == nullptr ? "no sound device" : std::string(driver) + ", open";
+}
+
+std::string SdlSound::version()
+{
+    SDL_version loaded;
+    SDL_GetVersion(&loaded);
+    return std::to_string(loaded.major) + "." + std::to_string(loaded.minor) + "." +
+           std::to_string(loaded.patch);
+}
+
 void SdlSound::fill(void* self, std::uint8_t* stream, int bytes)
 {
     static_cast<SdlSound*>(self)->mix(reinterpret_cast<std::int16_t*>(stream),
@@ -136,6 +150,7 @@ void SdlSound::keepDeviceOpen()
             if (device != 0)
                 SDL_PauseAudioDevice(device, 0);
         }
+        driver_ = device != 0 ? SDL_GetCurrentAudioDriver() : nullptr;
         lock.lock();
         wake_.wait_for(lock, watchInterval, [this] { return ending_; });
     }

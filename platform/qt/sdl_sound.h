@@ -23,6 +23,9 @@ public:
     void load(Cue cue, std::string_view wavImage) override;
     void play(Cue cue) override;
     void beep() override;
+    std::string device() const override;
+    /// Of the library that is loaded, as in "2.26.5".
+    static std::string version();
 
 private:
     using Samples = std::vector<std::int16_t>;
@@ -32,8 +35,9 @@ private:
     void mix(std::int16_t* out, std::size_t count);
     void keepDeviceOpen();
 
-    std::array<Samples, cueCount> cues_; ///< mono, 44100 Hz
-    std::atomic<int> marked_ = noCue;    ///< cue that the device has not taken up yet
+    std::array<Samples, cueCount> cues_;        ///< mono, 44100 Hz
+    std::atomic<int> marked_ = noCue;           ///< cue that the device has not taken up yet
+    std::atomic<const char*> driver_ = nullptr; ///< of the open device, nullptr while there is none
 
     // Used by the device's thread only.
     const Samples* playing_ = nullptr;

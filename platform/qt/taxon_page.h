@@ -6,8 +6,8 @@ class QLabel;
 class QLineEdit;
 
 /// One page of the sheet: the 45 cells of a layer, each a name, a count and a key index. It places them by
-/// their records and scales them, letters included, with its own size. The row counted last gets a frame,
-/// since its colour alone is not enough for every eye.
+/// their records and scales them, letters included, with its own size. The row counted last or found gets
+/// a frame, since its colour alone is not enough for every eye.
 class TaxonPage : public QWidget {
 public:
     explicit TaxonPage(int layer);

@@ -1,0 +1,3 @@
+#pragma once
+
+constexpr char programVersion[] = "3.2.5";

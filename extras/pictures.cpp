@@ -1,0 +1,31 @@
+#include "extras/pictures.h"
+
+#include "extras/above_main.h"
+
+PictureForm frmPicture;
+
+static void show(RestPicture picture)
+{
+    frmPicture.shown = picture;
+    openAboveMain(frmPicture.visible);
+}
+
+void mnuCoffee_Click()
+{
+    show(RestPicture::imgCoffee);
+}
+
+void mnuBeach_Click()
+{
+    show(RestPicture::imgBeach);
+}
+
+void mnuFavorite_Click()
+{
+    show(RestPicture::imgFavorite);
+}
+
+void closePicture()
+{
+    closeAboveMain(frmPicture.visible);
+}
