@@ -198,6 +198,10 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
         key.accept(); // no menu and no shortcut takes a key that counts
         return true;
     }
+    case QEvent::MouseButtonPress: // before it takes the focus from a capture box whose key has come up
+        if (!captured_.isEmpty())
+            deliver(repeats_.flush(), 0);
+        return false;
     case QEvent::Show: // an opened menu or list takes the keyboard, key-ups included
         if (target->isWidgetType() && static_cast<QWidget*>(target)->windowType() == Qt::Popup)
             keyboardLost();

@@ -197,7 +197,7 @@ CaptureBox* KeyCodeWindow::functionBox(int function)
                        [function](char32_t character) { frmKeyCode_Text4_KeyPress(function, character); },
                        [function](int code) { frmKeyCode_Text4_KeyUp(function, code); }});
     box->setObjectName(indexed("Text4", function));
-    box->setFixedWidth(fontMetrics().horizontalAdvance("[Delete]") + 24);
+    box->setFixedWidth(fontMetrics().horizontalAdvance("[ScrollLock]") + 16);
     watchVisits(
         box, [function] { frmKeyCode_Text4_GotFocus(function); },
         [function] { frmKeyCode_Text4_LostFocus(function); });
