@@ -21,7 +21,6 @@ struct Column {
     int firstIndividual = 0;
     std::int16_t lowest = 0;
     std::int16_t highest = 0;
-    int lastIndividual = 0;
     std::int16_t last = 0;
 };
 
@@ -97,10 +96,9 @@ Drawing planCurve(const std::vector<std::int16_t>& curve, int columns)
         } else {
             stroke();
             if (joined)
-                drawing.line(across(column.lastIndividual), column.last, across(n), point, red);
-            column = {at, n, point, point, n, point};
+                drawing.line(across(column.firstIndividual), column.last, across(n), point, red);
+            column = {at, n, point, point, point};
         }
-        column.lastIndividual = n;
         column.last = point;
     }
     stroke();

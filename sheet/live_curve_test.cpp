@@ -103,6 +103,13 @@ TEST(LongCurve, isDrawnWithNoMoreLinesThanPixelsAndLooksTheSame)
     const Drawing reduced = planCurve(curve, columns);
     EXPECT_EQ(whole.marks.size(), total - 2);
     EXPECT_LE(reduced.marks.size(), 2 * columns + 3);
+    const auto extent = [](const Drawing& drawing) {
+        float sum = 0;
+        for (const Mark& line : drawing.marks)
+            sum += line.x2 - line.x1;
+        return sum;
+    };
+    EXPECT_NEAR(extent(reduced), extent(whole), 3 * 10 * total / columns) << "no gaps but the curve's own";
     const auto expected = silhouette(whole, total, columns);
     const auto drawn = silhouette(reduced, total, columns);
     for (int column = 0; column <= columns; ++column)

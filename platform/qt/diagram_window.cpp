@@ -1,5 +1,6 @@
 #include "platform/qt/diagram_window.h"
 
+#include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
@@ -46,7 +47,6 @@ void put(QWidget* widget, const Place& place)
 DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
 {
     setObjectName("frmDiagram");
-    setWindowTitle("Diagram");
     makeMenus();
     makePopups();
     statusBar()->setObjectName("StatusBar1");
@@ -59,6 +59,7 @@ DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
     notice_ = new QLabel(surface);
     notice_->setObjectName("notice");
     names_ = picture("Picture4", frmDiagram.Picture4, "Taxon names");
+    names_->setPaper(Paper::window);
     diagram_ = picture("Picture1", frmDiagram.Picture1, "Percentage diagram");
     dendrogram_ = picture("Picture2", frmDiagram.Picture2, "Dendrogram of the cluster analysis");
     strip_ = new QWidget(surface);
@@ -187,12 +188,17 @@ QWidget* DiagramWindow::corner()
     grid->addWidget(zoomLabel, 0, 0, 1, 2);
     grid->addWidget(zoom_, 1, 0, 1, 2);
     grid->setRowStretch(2, 1);
+    move_ = new QWidget;
+    grid->addWidget(move_, 3, 0, 1, 2);
+    auto* const moved = new QGridLayout(move_);
+    moved->setContentsMargins(0, 0, 0, 0);
+    moved->setVerticalSpacing(3);
     auto* const move = new QPushButton("Moved sample");
     move->setObjectName("Command1");
     move->setAutoDefault(false);
     move->setToolTip("Shows from where to where a sample was dragged last");
     connect(move, &QPushButton::clicked, this, [this] { onEvent(frmDiagram_Command1_Click); });
-    grid->addWidget(move, 3, 0, 1, 2);
+    moved->addWidget(move, 0, 0, 1, 2);
     const auto number = [&](const char* name, const TextBox& record, const QString& says, int column) {
         auto* const edit = new QLineEdit;
         edit->setObjectName(name);
@@ -202,7 +208,7 @@ QWidget* DiagramWindow::corner()
         edit->setAccessibleName(says);
         edit->setMinimumWidth(20);
         lines_.append({edit, &record});
-        grid->addWidget(edit, 4, column);
+        moved->addWidget(edit, 1, column);
     };
     number("Text1", frmDiagram.Text1, "Moved from place", 0);
     number("Text2", frmDiagram.Text2, "Moved to place", 1);
@@ -227,8 +233,12 @@ void DiagramWindow::present()
     showAll(lines_);
     presentScales();
     presentPlaces();
+    move_->setVisible(sheet.NamesNotNumeric); // depths have their places
     for (SurfaceView* const view : {names_, diagram_, dendrogram_})
         view->present();
+    if (const QString title = "Diagram" + shownText(frmMain.caption.substr(frmMain.caption.find(" - [")));
+        title != windowTitle())
+        setWindowTitle(title);
     const Qt::CursorShape shape = f.pointer == DiagramPointer::sizeNS ? Qt::SizeVerCursor : Qt::ArrowCursor;
     for (SurfaceView* const view : {diagram_, dendrogram_})
         if (view->cursor().shape() != shape)

@@ -54,6 +54,7 @@ private:
     QScrollBar* scroll_;
     QSlider* sample_;
     QSlider* zoom_ = nullptr;
+    QWidget* move_ = nullptr; ///< what was moved from where to where
     QWidget* panel_;
     QWidget* buttons_;
     QWidget* corner_;

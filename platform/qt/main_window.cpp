@@ -225,8 +225,10 @@ void MainWindow::scaleFont()
     centralWidget()->setFont(letters);
     letters.setPixelSize(letters.pixelSize() * 5 / 4); // the sums are read at arm's length
     letters.setBold(true);
-    for (QLineEdit* const sum : sums_)
+    for (QLineEdit* const sum : sums_) {
         sum->setFont(letters);
+        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("32767") + 10);
+    }
 }
 
 void MainWindow::present()

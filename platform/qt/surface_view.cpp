@@ -33,7 +33,8 @@ void SurfaceView::paintEvent(QPaintEvent*)
         if (picture_.size() != size)
             picture_ = QPixmap(size);
         picture_.setDevicePixelRatio(devicePixelRatioF());
-        picture_.fill(Qt::white);
+        const QColor window = palette().color(QPalette::Window);
+        picture_.fill(paper_ == Paper::window && window.lightness() > 128 ? window : Qt::white);
         QPainter painter(&picture_);
         paintDrawing(painter, surface_.picture, surface_.scale, rect(), LineWidth::onePixel);
     }

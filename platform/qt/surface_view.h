@@ -6,13 +6,19 @@
 #include <QWidget>
 #include <functional>
 
-/// Shows a surface on white paper. The picture is painted once for each of its revisions and kept; the layer
+enum class Paper {
+    white,
+    window ///< the window's own background, unless black letters could not be read on it
+};
+
+/// Shows a surface on paper. The picture is painted once for each of its revisions and kept; the layer
 /// is painted over it.
 class SurfaceView : public QWidget {
 public:
     /// `resized` runs when the surface's size on the screen has changed and is noted in its record.
     SurfaceView(Surface& surface, std::function<void()> resized);
 
+    void setPaper(Paper paper) { paper_ = paper; }
     /// Asks for a repaint if the surface has changed.
     void present();
 
@@ -23,6 +29,7 @@ protected:
 private:
     Surface& surface_;
     std::function<void()> resized_;
+    Paper paper_ = Paper::white;
     QPixmap picture_;
     int pictureShown_ = -1;
     int layerShown_ = -1;
