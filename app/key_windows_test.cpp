@@ -29,19 +29,27 @@ protected:
         keyboard.click(widget->mapToGlobal(widget->rect().center()));
         settle(40);
     }
-    /// Clicks into a box of frmKeyCode, presses a key there and leaves it.
-    void capture(QWidget* form, const QString& box, Place place, std::initializer_list<Place> held = {})
+    /// Clicks into a box of frmKeyCode, presses a key there and leaves it. `result` tells what came of it.
+    template <class Result>
+    void capture(QWidget* form, const QString& name, Place place, std::initializer_list<Place> held,
+                 Result result, const std::string& expected)
     {
-        click(form->findChild<QWidget*>(box));
+        const QWidget* const box = form->findChild<QWidget*>(name);
+        click(box);
+        ASSERT_TRUE(waitFor([&] { return box->hasFocus(); }));
         tapWith(held, place);
-        EXPECT_TRUE(form->isActiveWindow() && form->findChild<QWidget*>(box)->hasFocus()) << place;
+        waitFor([&] { return result() == expected; });
+        EXPECT_EQ(result(), expected);
+        EXPECT_TRUE(form->isActiveWindow() && box->hasFocus()) << expected;
         form->findChild<QWidget*>("Command4")->setFocus();
     }
-    std::string captured(QWidget* form, int key, Place place, std::initializer_list<Place> held = {})
+    void expectKey27(QWidget* form, const std::string& expected, Place place,
+                     std::initializer_list<Place> held = {})
     {
-        capture(form, QString("Text1(%1)").arg(key), place, held);
-        return frmKeyCode.Text1[key].text + " " + frmKeyCode.Text2[key].text;
+        capture(form, "Text1(27)", place, held, key27, expected);
+        EXPECT_EQ(key27(), expected) << "after the visit";
     }
+    static std::string key27() { return frmKeyCode.Text1[27].text + " " + frmKeyCode.Text2[27].text; }
 };
 
 TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
@@ -55,36 +63,41 @@ TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
         {placeW, "w 87"},          {placeSemicolon, "; 186"}, {tab, "[Tab] 9"},
         {leftAlt, "[Alt] 18"}};
     for (const auto& [place, expected] : keys)
-        EXPECT_EQ(captured(form, 27, place), expected);
-    EXPECT_EQ(captured(form, 27, placeF, {leftAlt}), "f 70") << "opens no menu";
-    EXPECT_EQ(captured(form, 27, placeQ, {leftShift}), "Q 81");
-    EXPECT_EQ(captured(form, 27, placeQ, {leftCtrl}), "q 81") << "no shortcut";
+        expectKey27(form, expected, place);
+    expectKey27(form, "f 70", placeF, {leftAlt}); // opens no menu
+    expectKey27(form, "Q 81", placeQ, {leftShift});
+    expectKey27(form, "q 81", placeQ, {leftCtrl}); // sets off no shortcut
     tap(numLock);
-    EXPECT_EQ(captured(form, 27, keypad1), "1 97");
+    expectKey27(form, "1 97", keypad1);
     tap(numLock);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(total(), 0);
 
     layout("fr");
-    QTimer::singleShot(400, window, [] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        EXPECT_EQ(box->windowTitle(), "Are you an AZERTY keyboard user?");
-        box->button(QMessageBox::Ok)->click();
+    bool told = false;
+    QTimer answering;
+    QObject::connect(&answering, &QTimer::timeout, window, [&told] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told = box->windowTitle() == "Are you an AZERTY keyboard user?";
+            box->button(QMessageBox::Ok)->click();
+        }
     });
+    answering.start(50);
     click(form->findChild<QWidget*>("Text1(27)"));
     tap(digit3);
-    settle(500);
-    EXPECT_EQ(frmKeyCode.Text1[27].text + " " + frmKeyCode.Text2[27].text, "1 97");
+    EXPECT_TRUE(waitFor([&] { return told && form->isActiveWindow(); }));
+    EXPECT_EQ(key27(), "1 97");
     layout("us");
 
-    captured(form, 27, left);
-    capture(form, "Text4(0)", up);
-    EXPECT_EQ(frmKeyCode.Text4[0].text + frmKeyCode.Text2[46].text + frmKeyCode.Text2[48].text, "[Up]3838");
+    expectKey27(form, "[Left] 37", left);
+    const auto shift1 = [] {
+        return frmKeyCode.Text4[0].text + " " + frmKeyCode.Text2[46].text + " " + frmKeyCode.Text2[48].text;
+    };
+    capture(form, "Text4(0)", up, {}, shift1, "[Up] 38 38");
     click(form->findChild<QWidget*>("Command4"));
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmKeyCode.visible; }));
     tapWith({up}, left);
-    EXPECT_EQ(shown(45 + 27), 1);
+    EXPECT_TRUE(waitFor([] { return shown(45 + 27) == 1; }));
     QFile file(folder.settings());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("\"[Left]\",\"37\",\"27\"\r\n"));
@@ -109,27 +122,33 @@ TEST_F(FirstStart, goesFromKeyToKeyToTheFirstSheet)
 {
     waitForWindow("frmInitial");
     EXPECT_FALSE(window->isVisible());
-    for (const Place place : {leftShift, leftCtrl, deleteKey, backspace, escape})
-        tap(place);
+    const auto walk = [this](std::initializer_list<Place> places) {
+        for (const Place place : places) {
+            const int next = frmInitial.focus + 1;
+            tap(place);
+            EXPECT_TRUE(waitFor([&] { return frmInitial.focus == next; })) << next;
+        }
+    };
+    walk({leftShift, leftCtrl, deleteKey, backspace, escape});
     keyboard.press(enter); // a held key fills one box, and presses no button
     settle(900);
     keyboard.release(enter);
     settle(60);
     EXPECT_EQ(frmInitial.focus, 6);
-    for (const Place place : {space, f1, left, up, right})
-        tap(place);
+    walk({space, f1, left, up, right});
     EXPECT_FALSE(named<QWidget>("frmInitial")->findChild<QWidget*>("Command1")->isEnabled());
-    tap(down);
+    walk({down});
     ASSERT_TRUE(frmInitial.visible);
     tap(enter);
     QWidget* const next = waitForWindow("frmNext");
     EXPECT_TRUE(window->isVisible() && !frmInitial.visible && sheet.KeySetting[62].Code == "40");
     click(next->findChild<QWidget*>("Command4"));
+    ASSERT_TRUE(waitFor([] { return frmNext.entryBoxes; }));
     tap(digit1);
     tap(enter);
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmNext.visible; }));
     tap(placeQ);
-    EXPECT_EQ(shown(1), 1);
+    EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
     EXPECT_EQ(frmMain.Combo2.text, "1");
 }
 
@@ -138,5 +157,5 @@ TEST_F(FirstStart, goesOnWhenItsWindowIsClosed)
     waitForWindow("frmInitial")->close();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
     tap(placeQ);
-    EXPECT_EQ(shown(1), 1);
+    EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
 }
