@@ -98,7 +98,7 @@ TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmKeyCode.visible; }));
     tapWith({up}, left);
     EXPECT_TRUE(waitFor([] { return shown(45 + 27) == 1; }));
-    QFile file(folder.settings());
+    QFile file(delivered.keySettings());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("\"[Left]\",\"37\",\"27\"\r\n"));
 }
@@ -109,11 +109,11 @@ protected:
     void SetUp() override
     {
         layout("us");
-        QFile::remove(folder.settings());
-        QFile::copy(DELIVERED_FOLDER "/References/KeySetting.csv", folder.settings());
+        QFile::remove(delivered.keySettings());
+        QFile::copy(DELIVERED_FOLDER "/References/KeySetting.csv", delivered.keySettings());
         sheet = SheetState();
         frmMain = MainScreen();
-        program = std::make_unique<Program>(folder.path());
+        program = std::make_unique<Program>(delivered.path());
         window = &program->window();
     }
 };

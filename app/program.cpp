@@ -5,24 +5,29 @@
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/start_up.h"
+#include "files/recovery.h"
 
 #include <QApplication>
 #include <QScreen>
 
 Program::Program(const QString& folder)
-    : timer_([this] { window_.onEvent(Timer1_Timer); }), dialogs_(window_), keys_(window_)
+    : timer_([this] { window_.onEvent(Timer1_Timer); }), recoveryTimer_(RecoveryTimer_Timer),
+      dialogs_(window_), keys_(window_)
 {
     ports = {&files_,
              &dialogs_,
              &sound_,
              &clock_,
              &timer_,
+             &recoveryTimer_,
              &pictures_,
              folder.toStdString(),
              15 * window_.screen()->size().width()};
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);
+    recoveryCopy = {};
+    window_.onEvent(findRecoveryCopies);
 }
 
 Program::~Program()

@@ -25,6 +25,7 @@ private:
     SystemClock clock_;
     QtPictures pictures_;
     EventLoopTimer timer_;
+    EventLoopTimer recoveryTimer_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;

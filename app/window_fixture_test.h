@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/delivered_copy.h"
 #include "app/program.h"
-#include "app/ready_folder_test.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 
@@ -13,7 +13,7 @@
 /// The real program with its real window and the delivered files, on a known keyboard and fresh records.
 class WindowTest : public ::testing::Test {
 protected:
-    ReadyFolder folder;
+    DeliveredCopy delivered{DELIVERED_FOLDER};
     std::unique_ptr<Program> program;
     MainWindow* window = nullptr;
 
@@ -21,7 +21,7 @@ protected:
     {
         sheet = SheetState();
         frmMain = MainScreen();
-        program = std::make_unique<Program>(folder.path());
+        program = std::make_unique<Program>(delivered.path());
         window = &program->window();
         window->activateWindow();
         waitFor([this] { return window->isActiveWindow(); });

@@ -8,6 +8,7 @@
 #include "files/backup.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
+#include "files/recovery.h"
 #include "files/rename_info.h"
 #include "files/save_sheet.h"
 #include "keys/first_run.h"
@@ -46,7 +47,8 @@ void connectRooms()
     hooks.ShowFirstRunChoice = showFirstRunChoice;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.EndRecovery = endRecovery;
     hooks.DrawDiversity = DrawDiversity;
     hooks.RefreshDiagram = refreshDiagram;
-    hooks.BasisChanged = diagramBasisChanged;
+    hooks.RedrawDiagram = redrawDiagram;
 }

@@ -1,5 +1,5 @@
+#include "app/delivered_copy.h"
 #include "app/program.h"
-#include "app/ready_folder_test.h"
 #include "bench/start_time.h"
 
 #include <optional>
@@ -7,7 +7,7 @@
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    std::optional<ReadyFolder> folder(std::in_place);
+    std::optional<DeliveredCopy> folder(DELIVERED_FOLDER);
     Program program(folder->path());
     folder.reset(); // reportReady() leaves without cleaning up
     return reportReady(program.window());

@@ -89,7 +89,7 @@ TEST_F(Keyboard, saveKeySavesAndCountsIfItIsACounterKeyToo)
         tap(key);
     EXPECT_EQ(0, savedMode);
     EXPECT_EQ(1, all());
-    EXPECT_EQ(4, refreshes); // twice by Undo: when it goes down, and when it has taken back
+    EXPECT_EQ(3, refreshes);
 }
 
 TEST_F(Keyboard, alarmRingsAndBacksUpOnceOnTheWayUp)

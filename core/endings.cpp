@@ -35,14 +35,16 @@ void AbortCount()
     }
     // 6.
     if (sheet.DiagramOpen)
-        hooks.RefreshDiagram();
+        hooks.RedrawDiagram();
     // 7.
     if (!sheet.Modifying)
         frmMain.focus = MainFocus::Text99;
 }
 
-static void endProgram()
+/// `lossConfirmed`: what is not saved is given up.
+static void endProgram(bool lossConfirmed)
 {
+    hooks.EndRecovery(lossConfirmed);
     UnloadAll();
     hooks.EndProgram();
 }
@@ -55,7 +57,7 @@ void mnuQuit_Click()
         return;
     RestoreSnapshot();
     sheet.SoundOn = false;
-    endProgram();
+    endProgram(true);
 }
 
 static Answer askToSave()
@@ -82,12 +84,12 @@ void Form_Unload(bool& cancel)
         if (answer == Answer::yes && sheet.SaveResult == 2) {
             cancel = true;
             hooks.AutoBackup(); // the program ends, the counts do not
-            endProgram();
+            endProgram(false);
             return;
         }
     }
     sheet.SoundOn = false;
-    endProgram();
+    endProgram(true);
 }
 
 void UnloadAll()

@@ -9,11 +9,12 @@ struct Hooks {
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
     void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
     void (*AutoBackup)() = [] {};
-    void (*UnloadForms)() = [] {}; ///< takes down all windows but the main one
+    void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
+    void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {};  ///< the all total has changed
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
-    void (*BasisChanged)() = [] {};   ///< another % basis, while the diagram is open
+    void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
 };
 
 extern Hooks hooks;

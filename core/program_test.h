@@ -27,6 +27,7 @@ protected:
     SoundRecorder sound;
     HandClock clock;
     HandTimer timer;
+    HandTimer recoveryTimer;
     PictureRecorder pictures;
 
     ProgramTest()
@@ -37,7 +38,7 @@ protected:
         sheet.SoundOn = true;
         frmMain = MainScreen();
         hooks = Hooks();
-        ports = {&files, &dialogs, &sound, &clock, &timer, &pictures, "/program", 15360};
+        ports = {&files, &dialogs, &sound, &clock, &timer, &recoveryTimer, &pictures, "/program", 15360};
         dialogs.whenOpened =
             [this] { // a message box takes the keyboard, and stays longer than the repeat guard
                 Form_Deactivate();

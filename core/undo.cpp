@@ -69,7 +69,7 @@ void Undo()
     // 11.
     sheet.AlarmArmed = true;
     if (sheet.DiagramOpen)
-        hooks.RefreshDiagram();
+        hooks.RedrawDiagram();
 }
 
 void Amend()

@@ -21,7 +21,7 @@ void runAnalysis()
     for (int slot = 1; slot <= taxonSlots; ++slot)
         for (int rank = 1; rank <= sheet.SampleCount; ++rank)
             profiles[rank][slot - 1] =
-                static_cast<float>(weights[slot]) * sheet.Share(rank, sheet.RowOfKeyIndex[slot]);
+                static_cast<float>(weights[slot]) * frmDiagram.plot.Share(rank, sheet.RowOfKeyIndex[slot]);
     frmDiagram.merges = clusterSamples(std::move(profiles), diagramRows());
 }
 

@@ -20,40 +20,48 @@ constexpr int scrollBarHeight = 255;
 constexpr int noticeHeight = 300;
 constexpr int panelHeight = 780;
 constexpr int twipsPerPixel = 15;
-constexpr int overhang = 14; ///< pixels by which the last column's name may pass the diagram's edge
+constexpr int overhang = 210; ///< by which the last column's name may pass the diagram's edge
 
-int namesHeight(int scaleHeight)
+/// As high as the longest name needs, but a third of the room is the diagram's; a name beyond that is cut.
+int namesHeight(int room)
 {
-    float longest = 0;
-    for (int column = 1; column <= taxonSlots; ++column)
-        longest = std::max(longest,
-                           ports.pictures->textWidth(nameLetters(frmDiagram.plot.ColumnName[column], true)));
-    constexpr int aboveAndBelow = 16; // pixels
-    const int needed = (static_cast<int>(std::ceil(longest)) + aboveAndBelow) * twipsPerPixel;
-    return std::clamp(needed, 1500, std::max(1500, scaleHeight * 6 / 10));
+    constexpr int leastDiagram = 600;
+    constexpr int leastStrip = 900;
+    const int needed = static_cast<int>(std::ceil(longestName())) * twipsPerPixel + 240;
+    return std::max(leastStrip, std::min({std::max(needed, 1900), room * 2 / 3, room - leastDiagram}));
 }
 
-void setSize(Surface& surface, const Place& place, int widerBy = 0)
+void setSize(Surface& surface, const Place& place)
 {
-    surface.width = static_cast<float>(place.width) / twipsPerPixel + static_cast<float>(widerBy);
+    surface.width = static_cast<float>(place.width) / twipsPerPixel;
     surface.height = static_cast<float>(place.height) / twipsPerPixel;
 }
 
 } // namespace
 
+float longestName()
+{
+    float longest = 0;
+    for (int column = 1; column <= taxonSlots; ++column)
+        longest = std::max(longest,
+                           ports.pictures->textWidth(nameLetters(frmDiagram.plot.ColumnName[column], true)));
+    return longest;
+}
+
 void layOutDiagramWindow()
 {
     DiagramForm& f = frmDiagram;
     const int above = f.notice.empty() ? 0 : noticeHeight;
-    const int names = namesHeight(f.ScaleHeight);
-    const int MarginHeight = above + names + MarginScroll + 30;
+    const int below = MarginScroll + 30;
+    const int names = namesHeight(f.ScaleHeight - above - below);
+    const int MarginHeight = above + names + below;
     const int MarginSlider = MarginHeight;
     const int besideDiagram = f.picture2Visible ? dendrogramWidth : 0;
 
     const int width = std::max(twipsPerPixel, f.ScaleWidth - MarginWidth - besideDiagram);
     const int height = std::max(twipsPerPixel, f.ScaleHeight - MarginHeight);
     const int top = above + names;
-    f.picture4Place = {pictureLeft, above, width, names};
+    f.picture4Place = {pictureLeft, above, width + overhang, names};
     f.picture1Place = {pictureLeft, top, width, height};
     f.picture2Place = {pictureLeft + width, top, dendrogramWidth, height};
     f.hScroll1Place = {pictureLeft, f.ScaleHeight - MarginScroll, width, scrollBarHeight};
@@ -61,11 +69,12 @@ void layOutDiagramWindow()
     f.slider1Place = {90, top, 330, f.ScaleHeight - MarginSlider};
     f.frame3Place = {f.ScaleWidth - MarginFrame, f.frame3Place.top, MarginFrame - 90, panelHeight};
     f.upDown1Place = {pictureLeft - 240, f.frame3Place.top + 240, 240, 300};
-    f.cornerPlace = {f.frame3Place.left, above + 30, f.frame3Place.width, names - 60};
+    constexpr int panelRises = 420; // above the diagram, at the first sample
+    f.cornerPlace = {f.frame3Place.left, above + 30, f.frame3Place.width, names - 30 - panelRises};
 
     setSize(f.Picture1, f.picture1Place);
     setSize(f.Picture2, f.picture2Place);
-    setSize(f.Picture4, f.picture4Place, overhang);
+    setSize(f.Picture4, f.picture4Place);
     f.Picture1.scale = {0, f.DiagramScaleTop, f.Picture1.width / pixelsPerUnit, f.DiagramScaleHeight};
     f.Picture4.scale = {0, 0, f.Picture4.width, f.Picture4.height};
 }

@@ -5,4 +5,7 @@
 /// a wider window shows more columns. The strip of names is as high as the longest of them needs.
 void layOutDiagramWindow();
 
+/// Of the taxon names, pixels.
+float longestName();
+
 constexpr int dendrogramWidth = 3000; ///< twips

@@ -1,6 +1,6 @@
 #include "diagram/diagram_mouse.h"
 
-#include "core/main_screen.h"
+#include "core/action_log.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_form.h"
@@ -103,7 +103,7 @@ void pictureMouseMove(DiagramPicture picture, float x, float y)
     const float offLine = y - lineOfSample(f.Slider1.value);
     if (offLine * offLine < f.Picture1.scale.height * 10 / 50)
         f.pointer = DiagramPointer::sizeNS;
-    else if (!f.LineDragging)
+    else if (!f.LineDragging && !f.MovingSample) // the line that moves stays in sight
         f.pointer = DiagramPointer::arrow;
     followMouse(y);
     paintSampleLine();
@@ -138,8 +138,11 @@ void pictureMouseUp()
     DiagramForm& f = frmDiagram;
     if (!sheet.DiagramOpen)
         return;
-    if (f.MovingSample)
+    if (f.MovingSample && sheet.MoveFrom != sheet.MoveTo) {
         MoveSample();
+        logAction("(Move sample) " + sheet.SampleField(sheet.MoveTo, 2) + ": " + decimalText(sheet.MoveFrom) +
+                  " to " + decimalText(sheet.MoveTo));
+    }
     endDrag();
     paintSampleLine();
     placePanel();

@@ -59,7 +59,7 @@ void PrepareDiagram()
     plot.ColumnGap = columnGap(frmDiagram.Slider2.value);
     TestSampleNames();
     rankSamples(plot, sheet, !sheet.NamesNotNumeric);
-    fillShares(sheet, plot, basisWeights());
+    fillShares(plot, sheet, basisWeights());
     layOutColumns(plot, sheet);
     setScrollRange();
     frmDiagram.notice = outOfDepthOrder() ? "This sheet is not in depth order: a row's place and its "
@@ -88,7 +88,7 @@ void paintDiagram()
     if (sheet.SampleCount == 1 || !sheet.DiagramOpen)
         return;
     TestSampleNames();
-    frmDiagram.Picture1.setPicture(planDiagram(sheet, frmDiagram.plot, diagramRows(), diagramView()));
+    frmDiagram.Picture1.setPicture(planDiagram(frmDiagram.plot, diagramRows(), diagramView()));
     paintSampleLine();
 }
 

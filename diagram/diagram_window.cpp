@@ -139,8 +139,9 @@ void closeDiagram()
     DiagramForm& f = frmDiagram;
     if (!sheet.DiagramOpen)
         return;
+    dismissDendrogram(); // the window comes back without it and without its width
     sheet.DiagramOpen = false;
-    f.ConissShown = f.nmuConiss.checked = f.picture2Visible = false;
+    f.ConissShown = false;
     f.LineDragging = f.MovingSample = false;
     f.pointer = DiagramPointer::arrow;
     if (!sheet.Unloading) {
@@ -168,7 +169,7 @@ void refreshDiagram()
     paintAll();
 }
 
-void diagramBasisChanged()
+void redrawDiagram()
 {
     if (!sheet.DiagramOpen)
         return;
@@ -251,7 +252,7 @@ void frmDiagram_Style_Click(DiagramStyle style)
 void frmDiagram_Basis_Click(int basis)
 {
     if (frmMain.Option1[basis].selected)
-        diagramBasisChanged();
+        redrawDiagram();
     else
         selectBasis(basis);
     sheet.AlarmArmed = true;

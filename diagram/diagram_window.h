@@ -20,11 +20,10 @@ void LaunchDiagram();
 void closeDiagram();
 /// The sheet has other samples than when the window was opened.
 void reloadDiagram();
-/// A key has been counted, or counts were taken back. A dendrogram on show is dismissed, since it does not
-/// belong to the new counts.
+/// A key has been counted. A dendrogram on show is dismissed, since it does not belong to the new counts.
 void refreshDiagram();
-/// Another % basis; a dendrogram on show is computed anew.
-void diagramBasisChanged();
+/// Another % basis, or counts that were taken back; a dendrogram on show is computed anew.
+void redrawDiagram();
 
 /// The user has made the window `width` by `height` twips large, all in all.
 void frmDiagram_Resize(int width, int height);

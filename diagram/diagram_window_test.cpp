@@ -22,7 +22,7 @@ protected:
     {
         frmDiagram = DiagramForm();
         hooks.RefreshDiagram = refreshDiagram;
-        hooks.BasisChanged = diagramBasisChanged;
+        hooks.RedrawDiagram = redrawDiagram;
         addSamples(5);
         sheet.CurrentSample = 5;
         for (int sample = 1; sample <= 5; ++sample) {
@@ -137,14 +137,14 @@ TEST_F(Diagram, keysCountInItAndDismissTheDendrogram)
     EXPECT_TRUE(f.picture2Visible && f.ConissShown && f.Width == 9735 + dendrogramWidth);
     ASSERT_EQ(f.merges.merges(), 4);
     const int forward = frmMain.forwardRevision;
-    const float before = sheet.Share(5, 1);
+    const float before = f.plot.Share(5, 1);
     frmDiagram_KeyDown(shift1, 0);
     EXPECT_TRUE(f.picture2Visible) << "a layer key counts nothing";
     frmDiagram_KeyUp(shift1);
     EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down);
     frmDiagram_KeyDown('Q', 0);
     EXPECT_EQ(frmMain.forwardRevision, forward + 1);
-    EXPECT_NE(sheet.Share(5, 1), before);
+    EXPECT_NE(f.plot.Share(5, 1), before);
     EXPECT_FALSE(f.picture2Visible || f.nmuConiss.checked);
     EXPECT_EQ(f.Width, 9735);
 
@@ -162,7 +162,7 @@ TEST_F(Diagram, followsTheBasisOfEitherWindow)
     sheet.AlarmArmed = false;
     frmDiagram_Basis_Click(1);
     EXPECT_TRUE(frmMain.Option1[1].selected && f.mnuSub1.checked && !f.mnuAll.checked && sheet.AlarmArmed);
-    EXPECT_EQ(sheet.Share(1, 2), 5) << "50 of a taxon outside against 10";
+    EXPECT_EQ(f.plot.Share(1, 2), 5) << "50 of a taxon outside against 10";
     EXPECT_NE(f.merges.MergeSumSquare, merges);
     selectBasis(0);
     EXPECT_TRUE(f.mnuAll.checked && !f.mnuSub1.checked);

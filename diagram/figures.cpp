@@ -4,10 +4,12 @@
 #include "core/sheet_state.h"
 #include "diagram/dendrogram.h"
 #include "diagram/diagram_form.h"
+#include "diagram/diagram_layout.h"
 #include "diagram/diagram_view.h"
 #include "platform/ports.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace {
@@ -68,21 +70,34 @@ Figure wholeFigure()
         15;
     view.scale.width = units;
     const float width = units * pixelsPerUnit;
-    const float names = f.Picture4.height;
+    const float names = std::ceil(longestName()) + 16;
     const float height = f.Picture1.height;
 
     Figure figure;
-    figure.panels.push_back(
-        {margin, margin, width, names, {0, 0, width, names}, planNames(f.plot, view, names - 8)});
-    figure.panels.push_back(
-        {margin, margin + names, width, height, view.scale, planDiagram(sheet, f.plot, diagramRows(), view)});
     figure.width = width + 2 * margin;
-    figure.height = names + height + 2 * margin;
+    float top = margin;
+    if (!f.notice.empty()) { // a figure must not mislead where it goes, either
+        const Letters letters{f.notice, 10.4F};
+        const float wide = ports.pictures->textWidth(letters);
+        constexpr float line = 16;
+        Drawing notice;
+        notice.text(0, 0, letters, RGB(0, 0, 0));
+        figure.panels.push_back({margin, top, wide, line, {0, 0, wide, line}, std::move(notice)});
+        figure.width = std::max(figure.width, wide + 2 * margin);
+        top += line;
+    }
+    figure.panels.push_back(
+        {margin, top, width, names, {0, 0, width, names}, planNames(f.plot, view, names - 8)});
+    figure.panels.push_back(
+        {margin, top + names, width, height, view.scale, planDiagram(f.plot, diagramRows(), view)});
+    figure.height = top + names + height + margin;
     if (f.picture2Visible) {
         const Surface& dendrogram = f.Picture2;
+        constexpr float gap = 8; // a curve that ends at the edge must not run on in a branch
+        const float left = margin + width + gap;
         figure.panels.push_back(
-            {margin + width, margin + names, dendrogram.width, height, dendrogram.scale, dendrogram.picture});
-        figure.width += dendrogram.width;
+            {left, top + names, dendrogram.width, height, dendrogram.scale, dendrogram.picture});
+        figure.width = std::max(figure.width, left + dendrogram.width + margin);
     }
     return figure;
 }

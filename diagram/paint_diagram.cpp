@@ -8,9 +8,9 @@ constexpr Colour white = RGB(255, 255, 255);
 /// Paints one column. Samples count by rank, so that the share of rank i stands at row i.
 class ColumnPainter {
 public:
-    ColumnPainter(Drawing& drawing, const SheetState& sheet, const std::vector<float>& rows,
+    ColumnPainter(Drawing& drawing, const PlotData& plot, const std::vector<float>& rows,
                   const DiagramView& view, int column, float left)
-        : drawing_(drawing), sheet_(sheet), rows_(rows), view_(view), column_(column), left_(left),
+        : drawing_(drawing), plot_(plot), rows_(rows), view_(view), column_(column), left_(left),
           base_(left * view.zoom), samples_(static_cast<int>(rows.size()) - 1)
     {
     }
@@ -32,8 +32,8 @@ public:
     }
 
 private:
-    float end(int i) const { return (sheet_.Share(i, column_) * 100 + left_) * view_.zoom; }
-    bool empty(int i) const { return sheet_.Share(i, 0) == 0; }
+    float end(int i) const { return (plot_.Share(i, column_) * 100 + left_) * view_.zoom; }
+    bool empty(int i) const { return plot_.Share(i, 0) == 0; }
 
     void bar(int i) { drawing_.line(base_, rows_[i], end(i), rows_[i], view_.colour); }
 
@@ -61,7 +61,7 @@ private:
     {
         constexpr float radius = 1.5F;
         for (int i = 1; i <= samples_; ++i)
-            if (sheet_.Share(i, column_) > 0.005)
+            if (plot_.Share(i, column_) > 0.005)
                 drawing_.circle(end(i), rows_[i], radius, view_.colour, white);
     }
 
@@ -78,7 +78,7 @@ private:
     }
 
     Drawing& drawing_;
-    const SheetState& sheet_;
+    const PlotData& plot_;
     const std::vector<float>& rows_;
     const DiagramView& view_;
     const int column_;
@@ -107,8 +107,7 @@ Scale rowScale(int samples, float width)
     return scale;
 }
 
-Drawing planDiagram(const SheetState& sheet, const PlotData& plot, const std::vector<float>& rows,
-                    const DiagramView& view)
+Drawing planDiagram(const PlotData& plot, const std::vector<float>& rows, const DiagramView& view)
 {
     Drawing drawing;
     const std::size_t samples = rows.size() - 1;
@@ -122,18 +121,18 @@ Drawing planDiagram(const SheetState& sheet, const PlotData& plot, const std::ve
         const float ends = plot.ColumnLeft[column + 1] - view.scroll;
         if (ends * view.zoom < 0 || begins * view.zoom >= width)
             continue;
-        ColumnPainter(drawing, sheet, rows, view, column, begins)
+        ColumnPainter(drawing, plot, rows, view, column, begins)
             .paint(plot.ColumnLeft[column + 1] - plot.ColumnLeft[column]);
     }
     return drawing;
 }
 
-Letters nameLetters(const std::string& name, bool italic)
+Letters nameLetters(const std::string& name, bool italic, float longest)
 {
     constexpr float letterHeight = 10.4F; // the letters of a font 12 pixels high from line to line
     if (name.empty() || name == "---")
-        return {"---", letterHeight, false, true};
-    return {name, letterHeight, italic, true};
+        return {"---", letterHeight, false, longest, true};
+    return {name, letterHeight, italic, longest, true};
 }
 
 Drawing planNames(const PlotData& plot, const DiagramView& view, float origin)
@@ -148,7 +147,7 @@ Drawing planNames(const PlotData& plot, const DiagramView& view, float origin)
             continue;
         const std::string& name = plot.ColumnName[column];
         drawing.text(static_cast<float>(static_cast<int>(left * pixelsPerUnit * view.zoom)), origin,
-                     nameLetters(name, families && !isFamily(name)), black);
+                     nameLetters(name, families && !isFamily(name), origin), black);
     }
     return drawing;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
 #include "diagram/plot_data.h"
 #include "platform/drawing.h"
 
@@ -23,14 +22,13 @@ Scale rowScale(int samples, float width);
 /// The diagram: for each column in view its shares, its axis and a tick at each ten percent above and below.
 /// A sample whose basis holds no individual breaks the curve, which is closed against the axis on both sides.
 /// `rows`: place of each row, 1 to N. Nothing for fewer than two samples.
-Drawing planDiagram(const SheetState& sheet, const PlotData& plot, const std::vector<float>& rows,
-                    const DiagramView& view);
+Drawing planDiagram(const PlotData& plot, const std::vector<float>& rows, const DiagramView& view);
 
 /// The names above the columns in view, running upwards from `origin`, in pixels. Genera and species are
 /// italic; families, whose names end in "ae" or "AE", stand upright, and so does a list without families.
 Drawing planNames(const PlotData& plot, const DiagramView& view, float origin);
 
-/// The letters of a column's name.
-Letters nameLetters(const std::string& name, bool italic);
+/// The letters of a column's name. `longest`: pixels; 0 for no limit.
+Letters nameLetters(const std::string& name, bool italic, float longest = 0);
 
 constexpr float pixelsPerUnit = 0.99F; ///< of the diagram's width and of the places of the names

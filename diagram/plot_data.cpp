@@ -38,8 +38,7 @@ void rankSamples(PlotData& plot, const SheetState& sheet, bool byDepth)
     }
 }
 
-void fillShares(SheetState& sheet, const PlotData& plot,
-                const std::array<std::int32_t, taxonSlots + 1>& weights)
+void fillShares(PlotData& plot, SheetState& sheet, const std::array<std::int32_t, taxonSlots + 1>& weights)
 {
     const int samples = sheet.SampleCount;
     std::vector<std::int64_t> sums(static_cast<std::size_t>(samples) + 1);
@@ -52,7 +51,7 @@ void fillShares(SheetState& sheet, const PlotData& plot,
         const int row = sheet.RowOfKeyIndex[slot];
         for (int sample = 1; sample <= samples; ++sample) {
             const std::int32_t total = sheet.Count(sample, 0);
-            sheet.Share(plot.DepthRank[sample], row) =
+            plot.Share(plot.DepthRank[sample], row) =
                 total == 0 ? 0 : static_cast<float>(static_cast<double>(sheet.Count(sample, slot)) / total);
         }
     }
@@ -66,7 +65,7 @@ void layOutColumns(PlotData& plot, const SheetState& sheet)
     for (int column = 1; column <= taxonSlots; ++column) {
         float widest = 0;
         for (int rank = 1; rank <= sheet.SampleCount; ++rank)
-            widest = std::max(widest, sheet.Share(rank, column) * 100);
+            widest = std::max(widest, plot.Share(rank, column) * 100);
         plot.LastColumnWidth = widest;
         plot.ColumnLeft[column + 1] = widest + plot.ColumnLeft[column] + static_cast<float>(plot.ColumnGap);
     }

@@ -9,6 +9,9 @@
 
 /// What a diagram of the sheet shows, and where. A unit of width is one percent of the basis.
 struct PlotData {
+    /// Share of the basis as a fraction, index (rank, row); row 0: 1 for a sample with a basis total, else 0.
+    /// A table of its own: percentages that are looked at or saved meanwhile must not show in a figure.
+    SampleTable<float, taxonSlots + 1> Share;
     std::array<std::string, taxonSlots + 1> ColumnName; ///< taxon name of each column, 1 to 135, by file row
     std::array<float, taxonSlots + 2> ColumnLeft{}; ///< left edge of each column; 136: where the last ends
     float LastColumnWidth = 0;                      ///< of column 135: its largest share
@@ -25,11 +28,9 @@ std::int16_t columnGap(int zoom);
 /// place again.
 void rankSamples(PlotData& plot, const SheetState& sheet, bool byDepth);
 
-/// Fills `Share` with fractions of the basis, the row by file row and the column by rank; slot 0 of the
-/// counts takes the basis totals. Row 0 of the shares is 1 for a sample with a basis total and 0 for one
-/// without. Counts are not weighted: a taxon outside the basis has a share too, which may pass 1.
-void fillShares(SheetState& sheet, const PlotData& plot,
-                const std::array<std::int32_t, taxonSlots + 1>& weights);
+/// Fills the shares, the row by file row and the column by rank; slot 0 of the counts takes the basis totals.
+/// Counts are not weighted: a taxon outside the basis has a share too, which may pass 1.
+void fillShares(PlotData& plot, SheetState& sheet, const std::array<std::int32_t, taxonSlots + 1>& weights);
 
 /// Places the columns one after the other, each as wide as its largest share.
 void layOutColumns(PlotData& plot, const SheetState& sheet);

@@ -3,6 +3,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "diagram/coniss_window.h"
+#include "diagram/diagram_form.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_view.h"
 
@@ -37,7 +38,7 @@ void MoveSample()
     if (from != to) {
         moveColumn(sheet.SampleField, from, to);
         moveColumn(sheet.Count, from, to);
-        moveColumn(sheet.Share, from, to);
+        moveColumn(frmDiagram.plot.Share, from, to);
         moveColumn(sheet.AdditionalInfo, from, to);
         moveColumn(sheet.SampleNote, from, to);
         moveColumn(sheet.SampleStamp, from, to);
@@ -47,6 +48,7 @@ void MoveSample()
             entry.sample = placeAfterMove(entry.sample, from, to);
         sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);
 
+        sheet.SheetPristine = false;
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
         frmMain.Combo2.items.clear();
         ++frmMain.Combo2.itemsRevision;

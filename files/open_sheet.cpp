@@ -55,6 +55,7 @@ bool mayGo(bool dropped)
         return false;
     }
     RestoreSnapshot();
+    closeDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
         sheet.UndoStack[i].slot = 0;
     return true;
@@ -217,26 +218,31 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
         return;
     sheet.FreshSheet = true;
     if (const auto path = choose())
-        if (const auto bytes = ports.files->read(*path, sheetLimit)) {
-            closeDiagram(); // it shows the sheet that goes
-            beginProgress();
-            const Reading reading = readSheet(fileTextInCodePage(*bytes), *path);
-            if (reading == Reading::complete) {
-                settle();
-            } else if (reading == Reading::refused) {
-                resetSheet();
-                sheet.SheetPristine = true;
-                sheet.FreshSheet = false;
-            } else if (reading == Reading::failed) {
-                endEarly();
-            }
-        }
+        if (const auto bytes = ports.files->read(*path, sheetLimit))
+            openSheetText(fileTextInCodePage(*bytes), *path);
     endProgress();
     ApplyItalics();
     TestSampleNames();
 }
 
 } // namespace
+
+void openSheetText(const std::string& text, const std::string& path)
+{
+    closeDiagram(); // it shows the sheet that goes
+    beginProgress();
+    const Reading reading = readSheet(text, path);
+    if (reading == Reading::complete) {
+        settle();
+    } else if (reading == Reading::refused) {
+        resetSheet();
+        sheet.SheetPristine = true;
+        sheet.FreshSheet = false;
+    } else if (reading == Reading::failed) {
+        endEarly();
+    }
+    endProgress();
+}
 
 void mnuOpen_Click()
 {

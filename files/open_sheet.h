@@ -6,5 +6,8 @@
 /// template. Asks first if there is something to lose. A cancelled dialog and every failure to read end
 /// without a message; what was read until then stays, and the sheet has the file's name already.
 void mnuOpen_Click();
+/// Replaces the sheet in memory by the text of a data sheet, in the code page. `path`: UTF-8, becomes the
+/// sheet's file.
+void openSheetText(const std::string& text, const std::string& path);
 /// The same for a file that was dropped onto the window, questions included. `path`: UTF-8.
 void openDropped(const std::string& path);

@@ -131,6 +131,8 @@ void SaveSheet(int mode)
 
     if (namesSheet)
         takeName(path, *name);
+    if (isTable && namesSheet)
+        frmMain.notice = "The sheet now has the name of this table: Save will write its counts over it.";
     if (isTable) {
         if (path == sheet.SheetPath)
             markUnsavedWork(); // the sheet's own file holds no counts now

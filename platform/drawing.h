@@ -43,6 +43,7 @@ struct Letters {
     std::string text; ///< in the code page of the data sheets
     float height = 12;
     bool italic = false;
+    float longest = 0;    ///< pixels; a longer text is cut and ends in an ellipsis; 0: no limit
     bool upwards = false; ///< runs from bottom to top, its letters' tops to the left
     friend bool operator==(const Letters&, const Letters&) = default;
 };

@@ -22,6 +22,13 @@ public:
     virtual bool write(const std::string& path, std::string_view bytes) = 0;
     /// Makes an empty file where there is none; one that is there keeps its bytes.
     virtual bool create(const std::string& path) = 0;
+    /// Puts a whole file in place of what is there: whatever happens, the old or the new one stands.
+    virtual bool replace(const std::string& path, std::string_view bytes) = 0;
+    virtual bool remove(const std::string& path) = 0;
+    /// Claims a path for this program until it ends, however it ends, or gives the path free. False if
+    /// another running program has it or the folder cannot be written.
+    virtual bool claim(const std::string& path) = 0;
+    virtual void release(const std::string& path) = 0;
 };
 
 enum class Buttons { ok, yesNo, yesNoCancel };
@@ -116,7 +123,8 @@ struct Ports {
     Dialogs* dialogs = nullptr;
     Sound* sound = nullptr;
     Clock* clock = nullptr;
-    OneShotTimer* Timer1 = nullptr;
+    OneShotTimer* Timer1 = nullptr;        ///< ends the repeat guard
+    OneShotTimer* recoveryTimer = nullptr; ///< until unsaved work is copied
     Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips

@@ -52,7 +52,7 @@ void Option1_Click(int basis)
     underlineBasis();
     sheet.AlarmArmed = true;
     if (sheet.DiagramOpen)
-        hooks.BasisChanged();
+        hooks.RedrawDiagram();
     else
         frmMain.focus = MainFocus::Text99;
 }

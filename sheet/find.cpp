@@ -89,9 +89,12 @@ std::vector<int> positionsOf(int keyNumber)
 
 void labelKeyMap()
 {
-    for (int number = 1; number <= keysPerLayer; ++number)
-        for (const int position : positionsOf(number))
-            frmFind.Command1[position].caption = definition(number);
+    // A cell of a number that the map leaves out is seen at its position, so that one is labelled last.
+    for (const bool heldByMap : {true, false})
+        for (int number = 1; number <= keysPerLayer; ++number)
+            for (const int position : positionsOf(number))
+                if (mapHolds(position, number) == heldByMap)
+                    frmFind.Command1[position].caption = definition(number);
     for (const int place : {shift1Left, shift1Right})
         frmFind.Command1[place].caption = captionOf("Shift-1", rowShift1);
     for (const int place : {shift2Left, shift2Right})

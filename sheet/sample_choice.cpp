@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
+#include "sheet/percent_view.h"
 
 static void choose(int sample)
 {
@@ -16,6 +17,7 @@ static void choose(int sample)
 
 void Combo2_Click(std::string_view name)
 {
+    Command6_MouseUp(); // what it would put back belongs to the sample that was on show
     leaveEditedBox();
     sheet.SampleChangeFlag = true;
     int chosen = 0;
@@ -28,6 +30,7 @@ void Combo2_Click(std::string_view name)
 
 void Command9_Click()
 {
+    Command6_MouseUp(); // what it would put back belongs to the sample that was on show
     leaveEditedBox();
     int latest = 1;
     for (int sample = 2; sample <= sheet.SampleCount; ++sample)

@@ -13,6 +13,8 @@ public:
     std::set<std::string> unwritable; ///< read-only, locked, a folder, or below a folder that is missing
     std::size_t room = SIZE_MAX;      ///< bytes that one file may take
     bool closeFails = false;
+    std::set<std::string> claimedByOthers;
+    std::set<std::string> claimed;
 
     std::optional<std::string> read(const std::string& path, std::size_t limit) override
     {
@@ -28,6 +30,19 @@ public:
         contents[path] = bytes;
         return !closeFails;
     }
+    bool replace(const std::string& path, std::string_view bytes) override
+    {
+        if (unwritable.count(path) != 0 || bytes.size() > room || closeFails)
+            return false;
+        contents[path] = bytes;
+        return true;
+    }
+    bool remove(const std::string& path) override { return contents.erase(path) != 0; }
+    bool claim(const std::string& path) override
+    {
+        return claimedByOthers.count(path) == 0 && (claimed.insert(path), true);
+    }
+    void release(const std::string& path) override { claimed.erase(path); }
     bool create(const std::string& path) override
     {
         return unwritable.count(path) == 0 && (contents.try_emplace(path), true);

@@ -87,10 +87,13 @@ DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
         part->setMouseTracking(true);
         part->installEventFilter(this);
     }
+    panel_->raise();
+    parting_ = new QFrame(surface);
+    parting_->setFrameShape(QFrame::VLine);
 
     frmDiagram.chromeHeight =
         static_cast<int>((menuBar()->sizeHint().height() + statusBar()->sizeHint().height()) * twipsPerPixel);
-    setMinimumSize(220, 160); // below that the window says itself that it is too small
+    setMinimumSize(150, 120); // below that the window says itself that it is too small
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
         if (focused != nullptr && focused->window() == this)
             frmDiagram.sliderFocused = focused == sample_;
@@ -99,7 +102,7 @@ DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
 
 SurfaceView* DiagramWindow::picture(const char* name, Surface& surface, const QString& accessibleName)
 {
-    auto* const view = new SurfaceView(surface, [] {});
+    auto* const view = new SurfaceView(surface);
     view->setParent(centralWidget());
     view->setObjectName(name);
     view->setAccessibleName(accessibleName);
@@ -246,8 +249,7 @@ void DiagramWindow::present()
     if (const QString tip = shownText(f.toolTip); tip != diagram_->toolTip())
         diagram_->setToolTip(tip);
 
-    if (const QSize wanted(pixels(f.Width), pixels(f.Height)); wanted != size() && !resizeWaits_)
-        resize(wanted);
+    takeSize(QSize(pixels(f.Width), pixels(f.Height)));
     if (!isVisible())
         show();
     if (f.forwardRevision != forwardShown_) {
@@ -257,6 +259,21 @@ void DiagramWindow::present()
     }
     if (f.sliderFocused && isActiveWindow() && !sample_->hasFocus())
         sample_->setFocus();
+}
+
+/// A handler wants another size. What the screen has no room for, the diagram gives up.
+void DiagramWindow::takeSize(QSize wanted)
+{
+    if (wanted == size() || resizeWaits_)
+        return;
+    const QRect free = screen()->availableGeometry();
+    const QSize frame = frameSize() - size();
+    const QSize possible = isMaximized() ? size() : wanted.boundedTo(free.size() - frame);
+    resize(possible);
+    if (isVisible() && frameGeometry().left() + possible.width() + frame.width() > free.right())
+        move(std::max(free.left(), free.right() - possible.width() - frame.width()), pos().y());
+    if (possible != wanted)
+        resized();
 }
 
 void DiagramWindow::presentScales()
@@ -284,10 +301,11 @@ void DiagramWindow::presentPlaces()
 {
     const DiagramForm& f = frmDiagram;
     put(names_, f.picture4Place);
-    names_->resize(qRound(f.Picture4.width), names_->height()); // the last name may pass the edge
     put(diagram_, f.picture1Place);
     put(dendrogram_, f.picture2Place);
     dendrogram_->setVisible(f.picture2Visible);
+    parting_->setGeometry(dendrogram_->x(), dendrogram_->y(), 1, dendrogram_->height());
+    parting_->setVisible(f.picture2Visible); // a curve at the edge does not run on in a branch
     put(strip_, f.picture3Place);
     put(scroll_, f.hScroll1Place);
     put(sample_, f.slider1Place);
@@ -307,8 +325,6 @@ void DiagramWindow::resized()
         resizeWaits_ = false;
         frmDiagram.chromeWidth = static_cast<int>((width() - centralWidget()->width()) * twipsPerPixel);
         frmDiagram.chromeHeight = static_cast<int>((height() - centralWidget()->height()) * twipsPerPixel);
-        for (Surface* const surface : {&frmDiagram.Picture1, &frmDiagram.Picture2, &frmDiagram.Picture4})
-            surface->devicePixels = static_cast<float>(devicePixelRatioF());
         onEvent([this] {
             frmDiagram_Resize(static_cast<int>(width() * twipsPerPixel),
                               static_cast<int>(height() * twipsPerPixel));

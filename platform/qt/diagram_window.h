@@ -8,6 +8,7 @@
 
 class MainWindow;
 class QCheckBox;
+class QFrame;
 class QMenu;
 class QMouseEvent;
 class QScrollBar;
@@ -41,6 +42,7 @@ private:
     QWidget* corner();
     void resized();
     void presentPlaces();
+    void takeSize(QSize wanted);
     void presentScales();
     bool pictureEvent(SurfaceView* view, QMouseEvent& event);
     void onEvent(const std::function<void()>& handler);
@@ -51,6 +53,7 @@ private:
     SurfaceView* dendrogram_;
     SurfaceView* names_;
     QWidget* strip_;
+    QFrame* parting_;
     QScrollBar* scroll_;
     QSlider* sample_;
     QSlider* zoom_ = nullptr;

@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -11,6 +12,32 @@ namespace {
 QColor shownColour(Colour colour)
 {
     return {colour.red, colour.green, colour.blue};
+}
+
+/// Cuts a line at the edges of a panel, for files whose readers know no clipping. False if nothing is left.
+bool clip(QLineF& line, const QRectF& panel)
+{
+    double begin = 0;
+    double end = 1;
+    const QPointF from = line.p1();
+    const QPointF along = line.p2() - from;
+    const struct {
+        double step;
+        double room;
+    } edges[] = {{-along.x(), from.x() - panel.left()},
+                 {along.x(), panel.right() - from.x()},
+                 {-along.y(), from.y() - panel.top()},
+                 {along.y(), panel.bottom() - from.y()}};
+    for (const auto& [step, room] : edges) {
+        if (step == 0 && room < 0)
+            return false;
+        if (step < 0)
+            begin = std::max(begin, room / step);
+        if (step > 0)
+            end = std::min(end, room / step);
+    }
+    line = QLineF(from + begin * along, from + end * along);
+    return begin <= end;
 }
 
 class DrawingPainter {
@@ -57,8 +84,12 @@ private:
     {
         const Colour pen = mark->pen;
         segments_.clear();
-        for (; mark != drawing_.marks.end() && mark->kind == Mark::Kind::line && mark->pen == pen; ++mark)
-            segments_.emplace_back(x(mark->x1), y(mark->y1), x(mark->x2), y(mark->y2));
+        for (; mark != drawing_.marks.end() && mark->kind == Mark::Kind::line && mark->pen == pen; ++mark) {
+            QLineF line(x(mark->x1), y(mark->y1), x(mark->x2), y(mark->y2));
+            // A share of 0 must not leave a dot.
+            if (line.p1() != line.p2() && (lines_ == LineWidth::onePixel || clip(line, target_)))
+                segments_.push_back(line);
+        }
         setPen(pen);
         painter_.drawLines(segments_.data(), static_cast<int>(segments_.size()));
         return mark;
@@ -89,11 +120,14 @@ private:
         painter_.save();
         painter_.setFont(font);
         painter_.setPen(shownColour(mark.pen));
-        painter_.translate(x(mark.x1), y(mark.y1));
+        painter_.translate(std::max(x(mark.x1), target_.left()), y(mark.y1)); // no digit is cut
         if (letters.upwards)
             painter_.rotate(-90);
-        painter_.drawText(QPointF(0, QFontMetricsF(font, painter_.device()).ascent()),
-                          shownText(letters.text));
+        const QFontMetricsF metrics(font, painter_.device());
+        QString text = shownText(letters.text);
+        if (letters.longest > 0)
+            text = metrics.elidedText(text, Qt::ElideRight, letters.longest);
+        painter_.drawText(QPointF(0, metrics.ascent()), text);
         painter_.restore();
     }
 

@@ -22,6 +22,7 @@ constexpr double pointsPerPixel = 0.75; // 96 pixels of the design to an inch
 
 void paintFigure(QPainter& painter, const Figure& figure, LineWidth lines)
 {
+    painter.fillRect(QRectF(0, 0, figure.width, figure.height), Qt::white);
     for (const Figure::Panel& panel : figure.panels) {
         const QRectF place(panel.left, panel.top, panel.width, panel.height);
         painter.save();

@@ -157,11 +157,16 @@ void FindWindow::presentKeyMap()
         QPushButton& key = *keys_[place];
         const MapKey& record = frmFind.Command1[place];
         key.setText(shownText(record.caption).replace('&', "&&"));
+        key.setToolTip(shownText(record.caption));
         const bool toTake = record.backColor != frmFind.Command1[0].backColor;
-        if (toTake == key.font().bold())
+        QFont letters = font();
+        letters.setBold(toTake); // colour alone is not enough for every eye
+        const int room = keySize.width() - 8;
+        if (const int wide = QFontMetrics(letters).horizontalAdvance(key.text());
+            place <= keysPerLayer && wide > room)
+            letters.setPixelSize(std::max(7, QFontInfo(letters).pixelSize() * room / wide));
+        if (letters == key.font())
             continue;
-        QFont letters = key.font(); // colour alone is not enough for every eye
-        letters.setBold(toTake);
         key.setFont(letters);
         QPalette colours = palette();
         if (toTake) {

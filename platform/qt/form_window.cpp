@@ -128,8 +128,10 @@ void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::func
     connect(widget, &QAbstractButton::clicked, this,
             [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
     shows_ += [widget, &marked] {
+        const bool exclusive = widget->autoExclusive(); // the arrow keys go by it
         widget->setAutoExclusive(false);
         widget->setChecked(marked);
+        widget->setAutoExclusive(exclusive);
     };
 }
 

@@ -26,7 +26,8 @@ KeyInput::KeyInput(MainWindow& window) : window_(window)
     connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
     qApp->installEventFilter(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
-        if (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle())
+        if (focused == nullptr ||
+            (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle()))
             keyboardLost();
     });
 }

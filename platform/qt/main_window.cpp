@@ -139,9 +139,12 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
             return true;
         break;
-    case QEvent::MouseButtonRelease:
     case QEvent::UngrabMouse:
         if (target == percent_)
+            onEvent(Command6_MouseUp);
+        return false;
+    case QEvent::MouseButtonRelease:
+        if (target == percent_ && static_cast<QMouseEvent&>(*event).button() == Qt::LeftButton)
             onEvent(Command6_MouseUp);
         if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())
             enteredByMouse_->selectAll();
@@ -155,6 +158,8 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         boxEntered(static_cast<QWidget*>(target), static_cast<QFocusEvent&>(*event).reason());
         return false;
     case QEvent::FocusOut: {
+        if (!sheet.KeysActive)
+            onEvent(Command6_MouseUp);
         // A message or a menu in front is no reason to think that the user is done with the box.
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
         if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/user_event.h"
+#include "files/recovery.h"
 #include "platform/qt/bindings.h"
 
 #include <QMainWindow>
@@ -34,6 +35,7 @@ public:
             const UserEvent event;
             handler();
         }
+        watchUnsavedWork();
         present();
     }
 

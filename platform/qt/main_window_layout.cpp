@@ -169,11 +169,16 @@ QWidget* MainWindow::sampleStrip()
         const auto caret = heldText(text.left(samples->lineEdit()->cursorPosition())).size();
         onEvent([&] { Combo2_Change(heldText(text), static_cast<int>(caret)); });
     });
+    // Leaving the box, or Enter in it, is no pick.
+    samples->lineEdit()->disconnect(SIGNAL(editingFinished()), samples);
+    samples->lineEdit()->disconnect(SIGNAL(returnPressed()), samples);
     samples_ = samples;
     row->addWidget(samples, 2);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label3", "Serial No.:"));
-    row->addWidget(boundLabel("Label4", frmMain.Label4));
+    QLabel* const serial = boundLabel("Label4", frmMain.Label4);
+    serial->setMinimumWidth(serial->fontMetrics().horizontalAdvance("888/888")); // nothing moves with it
+    row->addWidget(serial);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
     row->addWidget(boundButton("Command9", frmMain.Command9, "Go", Command9_Click));
@@ -303,7 +308,9 @@ QWidget* MainWindow::notePanel()
     const char* const names[] = {"Label11", "Label12", "Label13"};
     for (int date = 0; date < 3; ++date) {
         grid->addWidget(fixedLabel(names[date], captions[date]), 2 + date, 0);
-        grid->addWidget(boundLabel(indexed("Label14", date), frmMain.Label14[date]), 2 + date, 1);
+        QLabel* const stamp = boundLabel(indexed("Label14", date), frmMain.Label14[date]);
+        stamp->setMinimumWidth(stamp->fontMetrics().horizontalAdvance("88/88/8888 (88:88:88)"));
+        grid->addWidget(stamp, 2 + date, 1);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);

@@ -4,6 +4,7 @@
 #include "platform/qt/text.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -15,13 +16,20 @@ static std::optional<std::string> chosen(const QString& path)
 
 static const QString dataFiles = "DataFile(*.csv)";
 
+/// The window that the user looks at: a box above another one would bring that one forward.
+QWidget* MessageBoxes::windowInFront() const
+{
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr ? active : &window_;
+}
+
 Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon)
 {
     window_.present(); // the box is read against what the handler has done so far
     constexpr QMessageBox::Icon pictures[] = {QMessageBox::Warning, QMessageBox::Question,
                                               QMessageBox::Information};
     QMessageBox box(pictures[static_cast<int>(icon)], shownText(title), shownText(text),
-                    QMessageBox::NoButton, &window_);
+                    QMessageBox::NoButton, windowInFront());
     // A question may come while the hand plays on: no letter answers it, and Enter, Space and Esc never lose
     // anything.
     struct Choice {
@@ -51,27 +59,30 @@ std::optional<std::string> MessageBoxes::chooseFileToSave(const std::string& pro
 {
     window_.present();
     return chosen(
-        QFileDialog::getSaveFileName(&window_, "Save", QString::fromStdString(proposed), dataFiles));
+        QFileDialog::getSaveFileName(windowInFront(), "Save", QString::fromStdString(proposed), dataFiles));
 }
 
 std::optional<std::string> MessageBoxes::chooseFileToOpen()
 {
     window_.present();
-    return chosen(QFileDialog::getOpenFileName(&window_, "Open", {}, dataFiles));
+    return chosen(QFileDialog::getOpenFileName(windowInFront(), "Open", {}, dataFiles));
 }
 
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
     window_.present();
-    return chosen(QFileDialog::getSaveFileName(&window_, "Save picture", QString::fromStdString(proposed),
-                                               "Picture(*.svg *.pdf *.png)"));
+    QFileDialog dialog(windowInFront(), "Save picture", {}, "Picture(*.svg *.pdf *.png)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("svg");
+    dialog.selectFile(QString::fromStdString(proposed));
+    return dialog.exec() == QDialog::Accepted ? chosen(dialog.selectedFiles().value(0)) : std::nullopt;
 }
 
 std::optional<Colour> MessageBoxes::chooseColour(Colour current)
 {
     window_.present();
     const QColor chosenColour =
-        QColorDialog::getColor(QColor(current.red, current.green, current.blue), &window_, "Colour");
+        QColorDialog::getColor(QColor(current.red, current.green, current.blue), windowInFront(), "Colour");
     if (!chosenColour.isValid())
         return std::nullopt;
     return RGB(static_cast<std::uint8_t>(chosenColour.red()), static_cast<std::uint8_t>(chosenColour.green()),

@@ -3,8 +3,9 @@
 #include "platform/ports.h"
 
 class MainWindow;
+class QWidget;
 
-/// The program's message boxes and file dialogs, above its main window.
+/// The program's message boxes and file dialogs, above the window in front.
 class MessageBoxes : public Dialogs {
 public:
     explicit MessageBoxes(MainWindow& window) : window_(window) {}
@@ -15,5 +16,7 @@ public:
     std::optional<Colour> chooseColour(Colour current) override;
 
 private:
+    QWidget* windowInFront() const;
+
     MainWindow& window_;
 };

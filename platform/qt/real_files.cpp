@@ -2,10 +2,12 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <algorithm>
 #include <cerrno>
 #if defined(Q_OS_LINUX)
 #include <fcntl.h>
+#include <unistd.h>
 #endif
 
 /// Asks the disk for the room of the new bytes while the old ones still stand. A file that only grew by that
@@ -35,6 +37,16 @@ std::optional<std::string> RealFiles::read(const std::string& path, std::size_t 
     return bytes.toStdString();
 }
 
+/// Until then a power cut could still take what was written.
+static bool reachesTheDisk([[maybe_unused]] QFile& file)
+{
+#if defined(Q_OS_LINUX)
+    return fdatasync(file.handle()) == 0 || errno == EINVAL; // some targets, such as pipes, have none
+#else
+    return true;
+#endif
+}
+
 bool RealFiles::write(const std::string& path, std::string_view bytes)
 {
     QFile file(QString::fromStdString(path));
@@ -42,7 +54,8 @@ bool RealFiles::write(const std::string& path, std::string_view bytes)
     // ReadWrite keeps the old bytes until the new ones have their room.
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !reserveRoom(file, size))
         return false;
-    const bool written = file.write(bytes.data(), size) == size && file.resize(size) && file.flush();
+    const bool written =
+        file.write(bytes.data(), size) == size && file.resize(size) && file.flush() && reachesTheDisk(file);
     file.close();
     return written && file.error() == QFile::NoError;
 }
@@ -50,4 +63,31 @@ bool RealFiles::write(const std::string& path, std::string_view bytes)
 bool RealFiles::create(const std::string& path)
 {
     return QFile(QString::fromStdString(path)).open(QIODevice::ReadWrite);
+}
+
+bool RealFiles::replace(const std::string& path, std::string_view bytes)
+{
+    QSaveFile file(QString::fromStdString(path));
+    const auto size = static_cast<qint64>(bytes.size());
+    return file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit();
+}
+
+bool RealFiles::remove(const std::string& path)
+{
+    return QFile::remove(QString::fromStdString(path));
+}
+
+bool RealFiles::claim(const std::string& path)
+{
+    auto lock = std::make_unique<QLockFile>(QString::fromStdString(path + ".lock"));
+    lock->setStaleLockTime(0); // only that of a program that runs no more is taken over, however old
+    if (!lock->tryLock())
+        return false;
+    claims_[path] = std::move(lock);
+    return true;
+}
+
+void RealFiles::release(const std::string& path)
+{
+    claims_.erase(path);
 }

@@ -51,16 +51,18 @@ void CheckPage::placeBoxes()
     const QRect inside = contentsRect().adjusted(8, 2, -4, -4);
     const int height = boxes_.front()->sizeHint().height();
     constexpr int columnWidth = 1290; // nearly up to the next one
+    constexpr int gap = 360;          // between the blocks of three columns
     const double across =
         inside.width() / double(grid.CellLeft[lastPlace] - grid.CellLeft[firstPlace] + columnWidth);
     const double down =
         (inside.height() - height) / double(grid.CellTop[lastPlace] - grid.CellTop[firstPlace]);
     for (int i = 0; i < keysPerLayer; ++i) {
         QCheckBox& box = *boxes_[i];
+        const bool beforeGap = record(i).left == grid.CellLeft[30] || record(i).left == grid.CellLeft[36];
         box.setGeometry(inside.left() +
                             static_cast<int>((record(i).left - grid.CellLeft[firstPlace]) * across),
                         inside.top() + static_cast<int>((record(i).top - grid.CellTop[firstPlace]) * down),
-                        static_cast<int>(columnWidth * across), height);
+                        static_cast<int>((columnWidth + (beforeGap ? gap : 0)) * across), height);
         const QString name = shownText(record(i).caption);
         QStyleOptionButton option;
         option.initFrom(&box);

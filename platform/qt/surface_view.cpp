@@ -19,9 +19,11 @@ void SurfaceView::present()
 
 void SurfaceView::resizeEvent(QResizeEvent*)
 {
+    surface_.devicePixels = static_cast<float>(devicePixelRatioF());
+    if (!resized_)
+        return;
     surface_.width = static_cast<float>(width());
     surface_.height = static_cast<float>(height());
-    surface_.devicePixels = static_cast<float>(devicePixelRatioF());
     resized_();
 }
 

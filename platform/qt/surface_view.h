@@ -15,8 +15,9 @@ enum class Paper {
 /// is painted over it.
 class SurfaceView : public QWidget {
 public:
-    /// `resized` runs when the surface's size on the screen has changed and is noted in its record.
-    SurfaceView(Surface& surface, std::function<void()> resized);
+    /// `resized` runs when the surface's size on the screen has changed and is noted in its record. Without
+    /// it the size is the record's own.
+    explicit SurfaceView(Surface& surface, std::function<void()> resized = {});
 
     void setPaper(Paper paper) { paper_ = paper; }
     /// Asks for a repaint if the surface has changed.

@@ -1,0 +1,20 @@
+// The program with the fullest sheet and its diagram, all columns in view.
+
+#include "app/delivered_copy.h"
+#include "app/program.h"
+#include "bench/full_sheet.h"
+#include "bench/memory.h"
+#include "diagram/diagram_window.h"
+#include "files/open_sheet.h"
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    const DeliveredCopy delivered(DELIVERED_FOLDER);
+    Program program(delivered.path());
+    const std::string path = delivered.path().toStdString() + "/full.csv";
+    ports.files->write(path, fullSheetText());
+    program.window().onEvent([&] { openDropped(path); });
+    program.window().onEvent(mnuCurve_Click);
+    return reportMemory();
+}
