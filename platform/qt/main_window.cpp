@@ -308,8 +308,3 @@ void MainWindow::presentFocusAndPointer()
         centralWidget()->setCursor(shapes[static_cast<int>(pointerShown_)]);
     }
 }
-
-void MainWindow::notThereYet(const QString& caption)
-{
-    frmMain.notice = heldText("\"" + caption + "\" is not there yet.");
-}

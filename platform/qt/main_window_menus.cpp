@@ -35,7 +35,7 @@ struct MainMenuEntry {
     const char* name; ///< nullptr: a line between entries
     const char* caption;
     MenuEntry* record = nullptr; ///< entries without one are always enabled
-    void (*handler)() = nullptr; ///< entries without one say that they are not there yet
+    void (*handler)() = nullptr;
     bool checkable = false;
 };
 
@@ -143,9 +143,7 @@ void MainWindow::addEntry(QMenu& menu, const MainMenuEntry& entry)
     action->setObjectName(entry.name);
     action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
     action->setCheckable(entry.checkable);
-    connect(action, &QAction::triggered, this, [this, entry] {
-        onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
-    });
+    connect(action, &QAction::triggered, this, [this, handler = entry.handler] { onEvent(handler); });
     if (entry.record != nullptr)
         actions_.append({action, entry.record});
 }
