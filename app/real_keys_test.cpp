@@ -161,6 +161,7 @@ TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
     EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down && sheet.KeysActive);
     window->activateWindow();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    settle(200); // the window manager has its own idea of when that is done
     tap(placeQ);
     EXPECT_EQ(shown(1), 2);
 }
@@ -182,6 +183,7 @@ TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
         EXPECT_EQ(frmMain.SSTab1, 0);
     }
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    settle(200); // the window manager has its own idea of when that is done
     tap(placeQ);
     EXPECT_EQ(shown(1), 1) << "the window counts on";
 }
@@ -202,6 +204,7 @@ TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
     EXPECT_TRUE(report.contains("down  87   w              layer 1")) << report.toStdString();
     diagnose->findChild<QPushButton*>("Command2")->click();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    settle(200); // the window manager has its own idea of when that is done
     tap(placeQ);
     EXPECT_EQ(shown(1), 1);
 }
