@@ -14,6 +14,8 @@
 #include "files/save_sheet.h"
 #include "files/template_file.h"
 #include "files/text_exports.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
 #include "platform/qt/main_window.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
@@ -108,8 +110,8 @@ QList<MainMenuEntry> entries()
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
 
-        {"mnuTools", "mnuKeyCodeReader", "Key settings"},
-        {"mnuTools", "mnuInitial", "Initialise"},
+        {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
+        {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},
         {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
         {"mnuTools", nullptr, nullptr},
         {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
