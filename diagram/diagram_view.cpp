@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr float twipsPerPixel = 15;
-
 float zoom()
 {
     return static_cast<float>(frmDiagram.Slider2.value) / 5.0F;

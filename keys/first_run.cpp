@@ -95,7 +95,8 @@ void frmInitial_Command1_Click()
     KeySettingTable table = knownKeySettings();
     for (int box = 0; box < referenceKeys; ++box)
         table[rowFirstReference + box].Code = decimalText(wholeNumber(frmInitial.Text1[box].text));
-    if (!WriteKeySettings(table))
+    // Where the built-in map counts although a file was read, it goes on counting.
+    if (!WriteKeySettings(table, sheet.UseKeySettings || !hasCounterKey(sheet.KeySetting)))
         return;
     sheet.KeysInitialised = true;
     const bool firstRun = frmInitial.FirstRun == 0;

@@ -5,6 +5,7 @@
 #include "core/sheet_state.h"
 #include "keys/key_editor.h"
 #include "keys/key_name.h"
+#include "platform/code_page.h"
 #include "platform/key_names.h"
 #include "platform/ports.h"
 
@@ -43,6 +44,14 @@ void nameOnKeyUp(KeyBox& box, int keyCode)
         box.text = keyName(keyCode);
 }
 
+/// Its place in the code page of the data sheets, or its own number if it has none there.
+long long inCodePage(char32_t character)
+{
+    const std::string byte = toCodePage(std::u16string(1, static_cast<char16_t>(character)));
+    return character < 0x10000 && byte != "?" ? static_cast<unsigned char>(byte.front())
+                                              : static_cast<long long>(character);
+}
+
 void putBack(int key)
 {
     frmKeyCode.Text1[key].text = frmKeyCode.savedDefinition;
@@ -72,8 +81,8 @@ void frmKeyCode_Text1_KeyDown(int key, int keyCode)
 void frmKeyCode_Text1_KeyPress(int key, char32_t character)
 {
     const std::string name = plainKeyName(sheet.LastKeyDown, character);
-    frmKeyCode.Label4.caption = decimalText(name.size() == 1 ? static_cast<unsigned char>(name.front())
-                                                             : static_cast<long long>(character));
+    frmKeyCode.Label4.caption =
+        decimalText(character < 0x80 ? static_cast<long long>(character) : inCodePage(character));
     if (name.empty())
         return;
     if (sheet.LastKeyDown == digit3 && character != '3') {
@@ -92,6 +101,8 @@ void frmKeyCode_Text1_KeyUp(int key, int keyCode)
 
 void frmKeyCode_Text1_LostFocus(int key)
 {
+    if (frmKeyCode.Text1[key].text == " ") // left before the key came up
+        nameOnKeyUp(frmKeyCode.Text1[key], sheet.LastKeyDown);
     if (frmKeyCode.Text1[key].text.empty())
         putBack(key);
 }
@@ -134,6 +145,8 @@ void frmKeyCode_Text4_KeyUp(int function, int keyCode)
 
 void frmKeyCode_Text4_LostFocus(int function)
 {
+    if (frmKeyCode.Text4[function].text == " ")
+        nameOnKeyUp(frmKeyCode.Text4[function], sheet.LastKeyDown);
     if (function == f1Capture || !frmKeyCode.Text4[function].text.empty())
         return;
     frmKeyCode.Text4[function].text = frmKeyCode.savedText;

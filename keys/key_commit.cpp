@@ -71,9 +71,10 @@ KeySettingTable settingsOfBoxes()
 void frmKeyCode_Command4_Click()
 {
     frmKeyCode.ProgressBar1 = {true, 0, keySettingRows - 1};
-    const bool stored = !isAnyKeyTwice() && WriteKeySettings(settingsOfBoxes());
+    const bool twice = isAnyKeyTwice();
+    const KeySettingTable table = settingsOfBoxes();
     frmKeyCode.ProgressBar1 = ProgressBar();
-    if (stored)
+    if (!twice && WriteKeySettings(table, true))
         closeKeyEditor();
 }
 

@@ -38,7 +38,7 @@ const KeySettingTable& knownKeySettings()
     return hasCounterKey(sheet.KeySetting) ? sheet.KeySetting : deliveredKeySettings();
 }
 
-bool WriteKeySettings(const KeySettingTable& table)
+bool WriteKeySettings(const KeySettingTable& table, bool inForce)
 {
     const bool written = ports.files->write(settingsPath(), keySettingsText(table));
     if (sheet.SoundOn)
@@ -50,7 +50,11 @@ bool WriteKeySettings(const KeySettingTable& table)
                            "Error", Buttons::ok, Icon::exclamation);
         return false;
     }
-    take(table);
-    sheet.UseKeySettings = true;
+    if (inForce) {
+        take(table);
+        sheet.UseKeySettings = true;
+    } else {
+        sheet.KeySetting = table;
+    }
     return true;
 }

@@ -9,6 +9,6 @@ bool ReadKeySettings();
 /// The key settings that the windows begin with: those in memory, or the delivered ones if none were read.
 const KeySettingTable& knownKeySettings();
 
-/// Writes the whole table to the same file and puts it in force at once. False, after a message and with
-/// everything as it was, if it could not be written. Each outcome has its cue.
-bool WriteKeySettings(const KeySettingTable& table);
+/// Writes the whole table to the same file and, if `inForce`, counts by it at once. False, after a message
+/// and with everything as it was, if it could not be written. Each outcome has its cue.
+bool WriteKeySettings(const KeySettingTable& table, bool inForce);

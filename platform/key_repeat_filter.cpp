@@ -5,13 +5,19 @@ namespace keycodes {
 KeyRepeatFilter::Events KeyRepeatFilter::down(const RawKey& key)
 {
     Events events;
-    const bool repeatsPending = isRepeatOfPending(key);
+    const bool repeatsPending = isPair(pending, key);
     if (repeatsPending)
         pending.reset();
     else
         letOutPending(events);
 
     const int pressed = pressedCode(key.physicalKey);
+    // A key that went down in another window and is still held is none of ours until it comes up.
+    const bool heldElsewhere =
+        pressed == 0 && !repeatsPending && (key.markedRepeat || isPair(strayRelease, key));
+    strayRelease.reset();
+    if (heldElsewhere)
+        return events;
     const bool repeats = pressed != 0 && (repeatsPending || key.markedRepeat);
     const int code = repeats ? pressed : key.code;
     setPressedCode(key.physicalKey, code);
@@ -26,6 +32,8 @@ KeyRepeatFilter::Events KeyRepeatFilter::up(const RawKey& key)
     const int pressed = pressedCode(key.physicalKey);
     if (!key.markedRepeat && pressed != 0)
         pending = PendingRelease{key.physicalKey, pressed, key.timestampMs};
+    if (pressed == 0)
+        strayRelease = PendingRelease{key.physicalKey, 0, key.timestampMs};
     return events;
 }
 
@@ -42,10 +50,10 @@ void KeyRepeatFilter::forget()
     pressedCodes.fill(0);
 }
 
-bool KeyRepeatFilter::isRepeatOfPending(const RawKey& key) const
+bool KeyRepeatFilter::isPair(const std::optional<PendingRelease>& release, const RawKey& press)
 {
-    return pending && pending->physicalKey == key.physicalKey && pending->timestampMs == key.timestampMs &&
-           key.timestampMs != 0;
+    return release && release->physicalKey == press.physicalKey &&
+           release->timestampMs == press.timestampMs && press.timestampMs != 0;
 }
 
 void KeyRepeatFilter::letOutPending(Events& events)

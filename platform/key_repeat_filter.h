@@ -32,7 +32,8 @@ struct KeyEvent {
 ///
 /// A key reports the code of its press until it is released, even if NumLock, Shift or the layout changed in
 /// between, so that every down is followed by the up of the same code. A release whose press was never seen
-/// is dropped: that press went to another window, or to a shortcut, and did nothing here that could end.
+/// is dropped: that press went to another window, or to a shortcut, and did nothing here that could end. So
+/// are the repeats of a key that went down elsewhere and is still held.
 class KeyRepeatFilter {
 public:
     /// The events that result from a call, in order.
@@ -67,13 +68,14 @@ private:
         std::uint64_t timestampMs;
     };
 
-    bool isRepeatOfPending(const RawKey& key) const;
+    static bool isPair(const std::optional<PendingRelease>& release, const RawKey& press);
     void letOutPending(Events& events);
     int pressedCode(std::uint32_t physicalKey) const;
     void setPressedCode(std::uint32_t physicalKey, int code);
 
     std::array<std::uint8_t, 512> pressedCodes{}; // X has 256 keycodes, Windows 512 scan codes; 0 while up
     std::optional<PendingRelease> pending;
+    std::optional<PendingRelease> strayRelease; ///< the last one whose press was never seen
 };
 
 } // namespace keycodes

@@ -7,7 +7,6 @@ CaptureBox::CaptureBox(MainWindow& main, Handlers handlers) : main_(main), handl
     setReadOnly(true);
     setFocusPolicy(Qt::ClickFocus);
     setContextMenuPolicy(Qt::NoContextMenu);
-    setAttribute(Qt::WA_InputMethodEnabled, false);
     setAlignment(Qt::AlignCenter);
 }
 
@@ -25,6 +24,12 @@ void CaptureBox::keyCameUp(int keyCode)
 {
     if (handlers_.keyUp)
         main_.onEvent([&] { handlers_.keyUp(keyCode); });
+}
+
+/// Else a dead key would wait for the letter that it belongs to.
+QVariant CaptureBox::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return query == Qt::ImEnabled ? QVariant(false) : QLineEdit::inputMethodQuery(query);
 }
 
 /// The keys have come already.

@@ -23,6 +23,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 private:
     MainWindow& main_;

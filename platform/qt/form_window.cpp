@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalBlocker>
 
 FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
@@ -35,6 +36,8 @@ void FormWindow::present()
     if (!shouldShow_)
         visited_ = nullptr;
     setVisible(shouldShow_);
+    if (shouldShow_ && !main_.isVisible())
+        move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());
     if (shouldShow_ && first_ != nullptr)
         first_->setFocus();
     if (!shouldShow_ && QApplication::activeModalWidget() == nullptr)

@@ -222,6 +222,7 @@ QWidget* MainWindow::sheetPages()
 QWidget* MainWindow::sumStrip()
 {
     auto* const row = new QHBoxLayout;
+    row->setSpacing(4);
     const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
     for (int total = 0; total < 3; ++total) {
         row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total]));
@@ -239,7 +240,7 @@ QWidget* MainWindow::sumStrip()
         bell->setSizePolicy(kept);
         bell->hide();
         row->addWidget(bell);
-        row->addSpacing(8);
+        row->addSpacing(4);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
