@@ -91,11 +91,19 @@ double WatchedApplication::waitedForProcessor() const
     return waited / 1e6;
 }
 
+static double ownWork()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
 void WatchedApplication::begin(Handling& handling)
 {
     handling.running = true;
     handling.since = Clock::now();
     handling.waitedSince = waitedForProcessor();
+    handling.workedSince = ownWork();
     lookedInto = false;
     handledSince = handling.since.time_since_epoch().count();
 }
@@ -107,11 +115,12 @@ void WatchedApplication::pause(Handling& handling)
     handledSince = 0;
     handling.running = false;
     const std::chrono::duration<double, std::milli> passed = Clock::now() - handling.since;
+    handling.worked += ownWork() - handling.workedSince;
     handling.taken += passed.count() - (waitedForProcessor() - handling.waitedSince);
     if (handling.taken > hang)
         judge(handling);
     if (handling.taken > hang)
-        handling.taken = 0; // told once
+        handling.taken = handling.worked = 0; // told once
 }
 
 void WatchedApplication::judge(const Handling& handling)
@@ -124,7 +133,8 @@ void WatchedApplication::judge(const Handling& handling)
         report_.longestName = handling.name.toStdString();
     }
     if (handling.taken > hang) {
-        report_.hangs.push_back(std::to_string(static_cast<int>(handling.taken)) + " ms in " +
+        report_.hangs.push_back(std::to_string(static_cast<int>(handling.taken)) + " ms (" +
+                                std::to_string(static_cast<int>(handling.worked)) + " ms of own work) in " +
                                 handling.name.toStdString() + (lookedInto ? callNames() : ""));
         std::printf("hang: %s\n", report_.hangs.back().c_str());
         std::fflush(stdout);

@@ -31,8 +31,9 @@ private:
         QString name;
         bool running = false;
         Clock::time_point since{};
-        double waitedSince = 0;
-        double taken = 0; ///< milliseconds so far
+        double waitedSince = 0, workedSince = 0;
+        double taken = 0;  ///< milliseconds so far
+        double worked = 0; ///< of these, milliseconds of this thread on a processor
     };
     void begin(Handling& handling);
     void pause(Handling& handling);
