@@ -26,7 +26,6 @@ Program::Program(const QString& folder)
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);
-    window_.show();
     recoveryCopy = {};
     window_.onEvent(findRecoveryCopies);
 }

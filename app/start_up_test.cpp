@@ -2,6 +2,7 @@
 #include "core/built_in_keys.h"
 #include "core/program_test.h"
 #include "core/start_up.h"
+#include "keys/delivered_keys.h"
 
 #include <filesystem>
 #include <fstream>
@@ -150,6 +151,7 @@ TEST_F(StartUp, withTheDeliveredFilesHasTheBuiltInKeysInTheirPlaces)
     start();
     EXPECT_TRUE(sheet.SoundOn && frmMain.mnuFavorite.enabled);
     EXPECT_EQ(1, initials); // no one has told it the keyboard yet
+    EXPECT_EQ(keySettingsText(deliveredKeySettings()), keySettingsText(sheet.KeySetting));
     for (int row = 1; row <= keysPerLayer; ++row) {
         const int key = wholeNumber(sheet.KeySetting[row].Code);
         EXPECT_EQ(row, builtInKeyNumber(key));

@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-/// The real program with its real window and the delivered files, on fresh records.
+/// The real program with its real window and the delivered files, on a known keyboard and fresh records.
 class WindowTest : public ::testing::Test {
 protected:
     DeliveredCopy delivered{DELIVERED_FOLDER};

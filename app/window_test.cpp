@@ -246,7 +246,6 @@ TEST_F(Widgets, aDroppedDataSheetIsOpened)
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
     sheet.BackupSlot = 0;
-    ports.programFolder = "/nowhere"; // no backup into the delivered files
     QApplication::sendEvent(window, &drop);
     ASSERT_TRUE(waitFor([] { return sheet.SampleCount == 16; }));
     EXPECT_EQ(window->windowTitle(), "TallyStrata 3.2.5 - [khil_phytoliths]");

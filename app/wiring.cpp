@@ -11,6 +11,9 @@
 #include "files/recovery.h"
 #include "files/rename_info.h"
 #include "files/save_sheet.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
+#include "keys/key_note.h"
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 #include "sheet/find.h"
@@ -23,7 +26,10 @@ static void unloadForms()
     frmAboutDX1.visible = false;
     frmAboutApp.visible = false;
     closeDiagram();
+    frmInitial.visible = false;
+    frmKeyCode.visible = false;
     frmNext.visible = false;
+    frmNote.visible = false;
     frmParaName.visible = false;
     frmSiteName.visible = false;
     frmSubtotal.visible = false;
@@ -37,6 +43,8 @@ void connectRooms()
     hooks.UnloadForms = unloadForms;
     hooks.ReadKeySettings = ReadKeySettings;
     hooks.ArrangeTaxonCells = ArrangeTaxonCells;
+    hooks.ShowInitial = ShowInitial;
+    hooks.ShowFirstRunChoice = showFirstRunChoice;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
     hooks.EndRecovery = endRecovery;

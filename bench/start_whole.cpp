@@ -1,9 +1,14 @@
+#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/start_time.h"
+
+#include <optional>
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    Program program(DELIVERED_FOLDER);
+    std::optional<DeliveredCopy> folder(DELIVERED_FOLDER);
+    Program program(folder->path());
+    folder.reset(); // reportReady() leaves without cleaning up
     return reportReady(program.window());
 }

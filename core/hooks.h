@@ -5,8 +5,9 @@
 struct Hooks {
     bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
     void (*ArrangeTaxonCells)() = [] {};
-    void (*ShowInitial)() = [] {};       ///< brings up the window that identifies the keyboard
-    void (*SaveSheet)(int) = [](int) {}; ///< argument: the save mode, 0 plain, 99 plain and untouched
+    void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
+    void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
+    void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
     void (*AutoBackup)() = [] {};
     void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy

@@ -20,11 +20,11 @@ class SampleTable {
 public:
     Element& operator()(int sample, int row)
     {
-        return elements_[static_cast<std::size_t>(row * sampleColumns + sample)];
+        return elements_[static_cast<std::size_t>(row) * sampleColumns + static_cast<std::size_t>(sample)];
     }
     const Element& operator()(int sample, int row) const
     {
-        return elements_[static_cast<std::size_t>(row * sampleColumns + sample)];
+        return elements_[static_cast<std::size_t>(row) * sampleColumns + static_cast<std::size_t>(sample)];
     }
     friend bool operator==(const SampleTable&, const SampleTable&) = default;
 

@@ -34,17 +34,6 @@ void startLog()
     frmMain.Combo1.text = frmMain.Text7.text = "(Start)";
 }
 
-/// True if the twelve reference keys have been told apart.
-bool isKeyboardIdentified()
-{
-    for (int row = rowFirstReference; row < keySettingRows; ++row) {
-        const double code = leadingNumber(sheet.KeySetting[row].Code);
-        if (code == 0 || code == 999)
-            return false;
-    }
-    return true;
-}
-
 bool readSounds()
 {
     for (int cue = 0; cue < cueCount; ++cue) {
@@ -88,12 +77,23 @@ void LoadStartup()
     RecountTotals(sheet.CurrentSample);
     hooks.ArrangeTaxonCells();
     readKeysAndSounds();
+    frmMain.visible = true;
     if (!sheet.KeysInitialised)
         hooks.ShowInitial();
     readFavorite();
 }
 
 } // namespace
+
+bool isKeyboardIdentified()
+{
+    for (int row = rowFirstReference; row < keySettingRows; ++row) {
+        const double code = leadingNumber(sheet.KeySetting[row].Code);
+        if (code == 0 || code == 999)
+            return false;
+    }
+    return true;
+}
 
 void Form_Load()
 {

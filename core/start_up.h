@@ -5,3 +5,6 @@
 /// less: without key settings the built-in map is in force and nothing sounds; without a cue nothing sounds
 /// and the built-in map is in force.
 void Form_Load();
+
+/// True if the twelve reference keys of the key settings have been told apart.
+bool isKeyboardIdentified();

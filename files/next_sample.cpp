@@ -171,6 +171,8 @@ void NextFile()
 
 void showFirstRunChoice()
 {
+    if (!hasNoSample()) // a sheet that a crash had left was taken up meanwhile
+        return;
     NextFile();
     frmNext.Command4.visible = true;
     frmNext.entryBoxes = false;

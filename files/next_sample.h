@@ -17,7 +17,7 @@ extern NextForm frmNext;
 void mnuNext_Click();
 /// Brings up frmNext, or tells that the sheet is full.
 void NextFile();
-/// After a first run: the choice between a new sheet and a file.
+/// After a first run: the choice between a new sheet and a file; nothing if a sheet has been taken up.
 void showFirstRunChoice();
 
 /// "OK": adds the sample; the window stays open if its name is refused.

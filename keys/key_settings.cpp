@@ -3,22 +3,54 @@
 #include "core/hooks.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
-#include "keys/key_settings_file.h"
+#include "keys/delivered_keys.h"
 #include "platform/ports.h"
+
+static std::string settingsPath()
+{
+    return ports.programFolder + "/References/KeySetting.csv";
+}
+
+static void take(const KeySettingTable& table)
+{
+    sheet.KeySetting = table;
+    sheet.Shift1Key = wholeNumber(table[rowShift1].Code);
+    sheet.Shift2Key = wholeNumber(table[rowShift2].Code);
+    sheet.MinusKey = wholeNumber(table[rowUndo].Code);
+    hooks.ArrangeTaxonCells();
+}
 
 bool ReadKeySettings()
 {
     constexpr std::size_t limit = 1u << 20; // a hundred times what 63 records take
-    const auto text = ports.files->read(ports.programFolder + "/References/KeySetting.csv", limit);
+    const auto text = ports.files->read(settingsPath(), limit);
     if (!text)
         return false;
     const auto table = parseKeySettings(*text);
     if (!table)
         return false;
-    sheet.KeySetting = *table;
-    sheet.Shift1Key = wholeNumber(sheet.KeySetting[rowShift1].Code);
-    sheet.Shift2Key = wholeNumber(sheet.KeySetting[rowShift2].Code);
-    sheet.MinusKey = wholeNumber(sheet.KeySetting[rowUndo].Code);
-    hooks.ArrangeTaxonCells();
+    take(*table);
+    return true;
+}
+
+const KeySettingTable& knownKeySettings()
+{
+    return hasCounterKey(sheet.KeySetting) ? sheet.KeySetting : deliveredKeySettings();
+}
+
+bool WriteKeySettings(const KeySettingTable& table)
+{
+    const bool written = ports.files->write(settingsPath(), keySettingsText(table));
+    if (sheet.SoundOn)
+        ports.sound->play(written ? Cue::SoundSave : Cue::SoundError);
+    if (!written) {
+        ports.dialogs->ask("TallyStrata could not write the key settings (KeySetting.csv). The settings that "
+                           "were in use stay in use. Please check that the file is not read-only and that "
+                           "the disk is not full, and try again.",
+                           "Error", Buttons::ok, Icon::exclamation);
+        return false;
+    }
+    take(table);
+    sheet.UseKeySettings = true;
     return true;
 }

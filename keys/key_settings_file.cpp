@@ -5,6 +5,12 @@
 
 #include <algorithm>
 
+bool hasCounterKey(const KeySettingTable& table)
+{
+    return std::any_of(table.begin() + 1, table.begin() + 1 + keysPerLayer,
+                       [](const KeySettingRow& row) { return leadingNumber(row.Code) != 0; });
+}
+
 std::optional<KeySettingTable> parseKeySettings(std::string_view fileText)
 {
     KeySettingTable table;
@@ -18,7 +24,13 @@ std::optional<KeySettingTable> parseKeySettings(std::string_view fileText)
             *field = *text;
         }
     }
-    const bool anyKey = std::any_of(table.begin() + 1, table.begin() + 1 + keysPerLayer,
-                                    [](const KeySettingRow& row) { return leadingNumber(row.Code) != 0; });
-    return anyKey ? std::optional(table) : std::nullopt;
+    return hasCounterKey(table) ? std::optional(table) : std::nullopt;
+}
+
+std::string keySettingsText(const KeySettingTable& table)
+{
+    FieldWriter writer;
+    for (const KeySettingRow& row : table)
+        writer.text(row.Definition).text(row.Code).text(row.Number).endLine();
+    return writer.take();
 }

@@ -3,25 +3,19 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "keys/key_grid.h"
 
 #include <algorithm>
 
 static CellGrid designedGrid()
 {
-    constexpr int left[9] = {240, 1560, 2880, 4560, 5880, 7200, 8880, 10200, 11520};
-    constexpr int top[5] = {360, 1200, 2140, 3000, 3840};
-    constexpr int position[5][9] = {
-        {28, 29, 30, 34, 35, 36, 40, 41, 42}, //
-        {31, 32, 33, 37, 38, 39, 43, 44, 45}, //
-        {1, 2, 3, 10, 11, 12, 19, 20, 21},    //
-        {4, 5, 6, 13, 14, 15, 22, 23, 24},    //
-        {7, 8, 9, 16, 17, 18, 25, 26, 27},
-    };
+    constexpr int left[keyGridColumns] = {240, 1560, 2880, 4560, 5880, 7200, 8880, 10200, 11520};
+    constexpr int top[keyGridRows] = {360, 1200, 2140, 3000, 3840};
     CellGrid grid{};
-    for (int row = 0; row < 5; ++row)
-        for (int column = 0; column < 9; ++column) {
-            grid.CellTop[position[row][column]] = top[row];
-            grid.CellLeft[position[row][column]] = left[column];
+    for (int row = 0; row < keyGridRows; ++row)
+        for (int column = 0; column < keyGridColumns; ++column) {
+            grid.CellTop[keyGrid[row][column]] = top[row];
+            grid.CellLeft[keyGrid[row][column]] = left[column];
         }
     return grid;
 }

@@ -35,7 +35,7 @@ public:
             ADD_FAILURE() << "Unannounced file dialog";
             return std::nullopt;
         }
-        const auto path = paths.front();
+        auto path = paths.front();
         paths.pop_front();
         return path;
     }

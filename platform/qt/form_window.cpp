@@ -7,6 +7,7 @@
 #include "platform/qt/text.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -31,6 +32,8 @@ void FormWindow::present()
     presentMore();
     if (shouldShow_ == isVisible())
         return;
+    if (!shouldShow_)
+        visited_ = nullptr;
     setVisible(shouldShow_);
     if (shouldShow_ && first_ != nullptr)
         first_->setFocus();
@@ -55,8 +58,7 @@ QLineEdit* FormWindow::box(const QString& name, TextBox& record, BoxHandlers han
         edit->setText(shownText(record.text));
         edit->setCursorPosition(record.caret);
     };
-    focusHandlers_[edit] = {std::move(handlers.entered), std::move(handlers.left)};
-    edit->installEventFilter(this);
+    watchVisits(edit, std::move(handlers.entered), std::move(handlers.left));
     return edit;
 }
 
@@ -82,8 +84,7 @@ QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
         edit->setPlainText(text);
         edit->moveCursor(QTextCursor::End);
     };
-    focusHandlers_[edit] = {};
-    edit->installEventFilter(this);
+    watchVisits(edit, {}, {});
     return edit;
 }
 
@@ -108,6 +109,20 @@ QLabel* FormWindow::label(const QString& name, const std::string& caption)
     return made;
 }
 
+QLabel* FormWindow::fixedText(const QString& name, const QString& text)
+{
+    auto* const made = new QLabel(text, this);
+    made->setObjectName(name);
+    made->setTextFormat(Qt::PlainText);
+    return made;
+}
+
+void FormWindow::watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left)
+{
+    focusHandlers_[widget] = {std::move(entered), std::move(left)};
+    widget->installEventFilter(this);
+}
+
 void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::function<void()> clicked)
 {
     connect(widget, &QAbstractButton::clicked, this,
@@ -123,12 +138,21 @@ void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::func
 bool FormWindow::eventFilter(QObject* target, QEvent* event)
 {
     const auto handlers = focusHandlers_.constFind(target);
-    if (handlers != focusHandlers_.constEnd()) {
-        if (event->type() == QEvent::FocusIn)
-            sheet.LastKeyDown = noKeyYet;
-        if (event->type() == QEvent::FocusIn && handlers->first)
+    if (handlers == focusHandlers_.constEnd())
+        return false;
+    if (event->type() == QEvent::FocusIn && visited_ != target) {
+        visited_ = target;
+        sheet.LastKeyDown = noKeyYet;
+        if (handlers->first)
             main_.onEvent(handlers->first);
-        if (event->type() == QEvent::FocusOut && handlers->second)
+    }
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
+        const bool lasts = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+        if (shouldShow_ && lasts)
+            return false;
+        visited_ = nullptr;
+        if (shouldShow_ && handlers->second)
             main_.onEvent(handlers->second);
     }
     return false;

@@ -39,6 +39,12 @@ protected:
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> clicked,
                         const Button* record = nullptr);
     QLabel* label(const QString& name, const std::string& caption);
+    /// A label that never changes.
+    QLabel* fixedText(const QString& name, const QString& text);
+    /// `entered` runs when a visit of a widget begins and `left` when it ends. A message or another program
+    /// in front ends none.
+    void watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left);
+    MainWindow& mainWindow() const { return main_; }
     /// A check box or a radio button. A click runs the handler, and `marked` tells what shows.
     template <class Widget>
     Widget* mark(const QString& name, const bool& marked, std::function<void()> clicked)
@@ -65,4 +71,5 @@ private:
     QWidget* first_ = nullptr;
     QList<std::function<void()>> shows_;
     QHash<QObject*, std::pair<std::function<void()>, std::function<void()>>> focusHandlers_;
+    QObject* visited_ = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "diagram/diagram_window.h"
 #include "extras/diagnose.h"
 #include "platform/key_codes.h"
+#include "platform/qt/capture_box.h"
 #include "platform/qt/diagram_window.h"
 #include "platform/qt/main_window.h"
 #include "sheet/percent_view.h"
@@ -35,6 +36,7 @@ void KeyInput::keyboardLost()
 {
     deliver(repeats_.flush(), 0); // that key did come up
     repeats_.forget();
+    captured_.clear();
     window_.onEvent([] {
         Form_Deactivate();
         Command6_MouseUp(); // percentages are looked at in passing
@@ -64,6 +66,16 @@ int KeyInput::virtualKey(const QKeyEvent& event)
 #endif
 }
 
+static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
+{
+#if defined(Q_OS_MACOS)
+    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
+#else
+    const quint32 physicalKey = event.nativeScanCode();
+#endif
+    return {physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+}
+
 /// The diagnose window is in front: it is shown all keys, and no button of it takes one.
 static bool isForDiagnosis(const QObject* target)
 {
@@ -74,17 +86,12 @@ static bool isForDiagnosis(const QObject* target)
 bool KeyInput::takesKey(QKeyEvent& event)
 {
     const int code = virtualKey(event);
-#if defined(Q_OS_MACOS)
-    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
-#else
-    const quint32 physicalKey = event.nativeScanCode();
-#endif
+    const keycodes::RawKey key = rawKey(event, code);
     if (code == 0) {
         if (frmDiagnose.visible && event.type() == QEvent::KeyPress)
-            window_.onEvent([&] { frmDiagnose_KeyWithoutCode(physicalKey); });
+            window_.onEvent([&] { frmDiagnose_KeyWithoutCode(key.physicalKey); });
         return frmDiagnose.visible;
     }
-    const keycodes::RawKey key{physicalKey, code, event.timestamp(), event.isAutoRepeat()};
     const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
     // Asked before the key is handled: what is bound may change through it.
     const bool taken = frmDiagnose.visible || (!sheet.Modifying && isBoundKey(code));
@@ -98,17 +105,59 @@ bool KeyInput::takesKey(QKeyEvent& event)
     return taken;
 }
 
+static CaptureBox* captureBox()
+{
+    return dynamic_cast<CaptureBox*>(QApplication::focusWidget());
+}
+
+/// True if the key is for a capture box, or still that of one.
+bool KeyInput::isCaptured(QKeyEvent& event)
+{
+    const int code = virtualKey(event);
+    if (captureBox() == nullptr && !captured_.contains(code))
+        return false;
+    if (code == 0)
+        return true;
+    const keycodes::RawKey key = rawKey(event, code);
+    if (event.type() == QEvent::KeyRelease) {
+        deliver(repeats_.up(key), 0);
+        if (repeats_.hasPending())
+            heldRelease_.start(releaseWaits);
+        return true;
+    }
+    for (const keycodes::KeyEvent& one : repeats_.down(key)) {
+        if (!one.isDown) {
+            deliver(one, 0);
+        } else if (!captured_.contains(one.code)) { // else it repeats
+            captured_.insert(one.code);
+            if (CaptureBox* const box = captureBox())
+                box->keyWentDown(one.code, event.text());
+        }
+    }
+    return true;
+}
+
 void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
 {
     for (const keycodes::KeyEvent& key : events)
-        window_.onEvent([&] {
-            if (frmDiagnose.visible)
-                key.isDown ? frmDiagnose_KeyDown(key.code) : frmDiagnose_KeyUp(key.code);
-            else if (inDiagram_)
-                key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
-            else
-                key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
-        });
+        deliver(key, shift);
+}
+
+void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
+{
+    if (!key.isDown && captured_.remove(key.code)) {
+        if (CaptureBox* const box = captureBox())
+            box->keyCameUp(key.code);
+        return;
+    }
+    window_.onEvent([&] {
+        if (frmDiagnose.visible)
+            key.isDown ? frmDiagnose_KeyDown(key.code) : frmDiagnose_KeyUp(key.code);
+        else if (inDiagram_)
+            key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
+        else
+            key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
+    });
 }
 
 /// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
@@ -129,12 +178,18 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
             inDiagram_ = target == window_.diagramWindow().windowHandle();
             return takesKey(static_cast<QKeyEvent&>(*event));
         }
+        if (target->isWindowType() && isCaptured(static_cast<QKeyEvent&>(*event)))
+            return true;
         if (target->isWindowType() &&
             event->type() == QEvent::KeyPress) // a box of another window takes it next
             sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
         return false;
     case QEvent::ShortcutOverride: {
         auto& key = static_cast<QKeyEvent&>(*event);
+        if (captureBox() != nullptr) {
+            key.accept();
+            return true;
+        }
         const QWidget* const active = QApplication::activeWindow();
         const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
@@ -144,6 +199,10 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
         key.accept(); // no menu and no shortcut takes a key that counts
         return true;
     }
+    case QEvent::MouseButtonPress: // before it takes the focus from a capture box whose key has come up
+        if (!captured_.isEmpty())
+            deliver(repeats_.flush(), 0);
+        return false;
     case QEvent::Show: // an opened menu or list takes the keyboard, key-ups included
         if (target->isWidgetType() && static_cast<QWidget*>(target)->windowType() == Qt::Popup)
             keyboardLost();

@@ -4,6 +4,7 @@
 #include "platform/qt/x11_layout.h"
 
 #include <QObject>
+#include <QSet>
 #include <QTimer>
 
 class MainWindow;
@@ -12,6 +13,8 @@ class QKeyEvent;
 /// The way of real keys into the program. The main window's keys are seen before any widget of it: a key that
 /// is bound goes no further, so it moves no focus, presses no button and opens no menu, and as the focus
 /// rests on a widget without text input, no input method sees it. Ctrl and a letter is left to the shortcuts.
+/// A capture box takes every key, and keeps it until it comes up: a key that is held while the focus goes on
+/// to a button must not press it.
 class KeyInput : public QObject {
 public:
     explicit KeyInput(MainWindow& window);
@@ -23,12 +26,15 @@ private:
     bool isForCounting(const QObject* target) const;
     int virtualKey(const QKeyEvent& event);
     bool takesKey(QKeyEvent& event);
+    bool isCaptured(QKeyEvent& event);
     void deliver(const keycodes::KeyRepeatFilter::Events& events, int shift);
+    void deliver(const keycodes::KeyEvent& key, int shift);
     void keyboardLost();
 
     MainWindow& window_;
     X11Layout layout_;
     keycodes::KeyRepeatFilter repeats_;
+    QSet<int> captured_;     ///< codes of the keys that went down in a capture box and are still down
     bool inDiagram_ = false; ///< the last key went to the diagram's window
     QTimer heldRelease_;     ///< a release waits this long for the press that would make it a repeat
 };

@@ -9,6 +9,8 @@
 #include "platform/qt/diagnose_window.h"
 #include "platform/qt/diagram_window.h"
 #include "platform/qt/find_window.h"
+#include "platform/qt/initial_window.h"
+#include "platform/qt/key_windows.h"
 #include "platform/qt/picture_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/subtotal_window.h"
@@ -103,7 +105,8 @@ MainWindow::MainWindow()
     forms_ = {new SiteNameWindow(*this), new NextWindow(*this),     new ParameterNameWindow(*this),
               new SubtotalWindow(*this), new SummaryWindow(*this),  new FindWindow(*this),
               new PictureWindow(*this),  new AboutAppWindow(*this), new AboutKeypadWindow(*this),
-              new DiagnoseWindow(*this)};
+              new DiagnoseWindow(*this), new InitialWindow(*this),  new KeyCodeWindow(*this),
+              new KeyNoteWindow(*this)};
     diagram_ = std::make_unique<DiagramWindow>(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
@@ -264,6 +267,8 @@ void MainWindow::present()
     presentMode();
     frmMain.focus = wanted;
     presentFocusAndPointer();
+    if (isVisible() != frmMain.visible)
+        setVisible(frmMain.visible);
     for (FormWindow* const form : forms_)
         form->present();
     diagram_->present();
@@ -302,9 +307,4 @@ void MainWindow::presentFocusAndPointer()
         constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::IBeamCursor, Qt::WaitCursor};
         centralWidget()->setCursor(shapes[static_cast<int>(pointerShown_)]);
     }
-}
-
-void MainWindow::notThereYet(const QString& caption)
-{
-    frmMain.notice = heldText("\"" + caption + "\" is not there yet.");
 }

@@ -83,9 +83,6 @@ private:
     void boxEntered(QWidget* box, Qt::FocusReason reason);
     void presentMode();
 
-    /// What an entry says whose work is still to come.
-    static void notThereYet(const QString& caption);
-
     void presentNames();
     void presentFocusAndPointer();
     void scaleFont();

@@ -130,9 +130,7 @@ QAbstractButton* MainWindow::boundButton(const QString& name, const Button& reco
     button->setText(caption);
     button->setObjectName(name);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the keys count
-    connect(button, &QToolButton::clicked, this, [this, clicked = std::move(clicked), caption] {
-        onEvent([&] { clicked ? clicked() : notThereYet(caption); });
-    });
+    connect(button, &QToolButton::clicked, this, [this, clicked = std::move(clicked)] { onEvent(clicked); });
     buttons_.append({button, &record});
     return button;
 }

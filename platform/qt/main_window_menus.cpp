@@ -14,6 +14,8 @@
 #include "files/save_sheet.h"
 #include "files/template_file.h"
 #include "files/text_exports.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
 #include "platform/qt/main_window.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
@@ -33,7 +35,7 @@ struct MainMenuEntry {
     const char* name; ///< nullptr: a line between entries
     const char* caption;
     MenuEntry* record = nullptr; ///< entries without one are always enabled
-    void (*handler)() = nullptr; ///< entries without one say that they are not there yet
+    void (*handler)() = nullptr;
     bool checkable = false;
 };
 
@@ -108,8 +110,8 @@ QList<MainMenuEntry> entries()
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
 
-        {"mnuTools", "mnuKeyCodeReader", "Key settings"},
-        {"mnuTools", "mnuInitial", "Initialise"},
+        {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
+        {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},
         {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
         {"mnuTools", nullptr, nullptr},
         {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
@@ -141,9 +143,7 @@ void MainWindow::addEntry(QMenu& menu, const MainMenuEntry& entry)
     action->setObjectName(entry.name);
     action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
     action->setCheckable(entry.checkable);
-    connect(action, &QAction::triggered, this, [this, entry] {
-        onEvent([&] { entry.handler != nullptr ? entry.handler() : notThereYet(entry.caption); });
-    });
+    connect(action, &QAction::triggered, this, [this, handler = entry.handler] { onEvent(handler); });
     if (entry.record != nullptr)
         actions_.append({action, entry.record});
 }

@@ -96,8 +96,11 @@ NextWindow::NextWindow(MainWindow& main)
 
 void NextWindow::presentMore()
 {
+    const bool comeNow = frmNext.entryBoxes && !entries_->isVisibleTo(this);
     entries_->setVisible(frmNext.entryBoxes);
     ok_->setVisible(frmNext.entryBoxes);
+    if (comeNow)
+        entries_->findChild<QWidget*>("Text1")->setFocus();
 }
 
 ParameterNameWindow::ParameterNameWindow(MainWindow& main)

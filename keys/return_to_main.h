@@ -1,0 +1,5 @@
+#pragma once
+
+/// A window that stood above the main one is gone: the main window shows and takes keys again, unless the
+/// program is quitting.
+void returnToMain();
