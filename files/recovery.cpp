@@ -35,7 +35,7 @@ std::string pathOfSheet()
 
 void writeCopy()
 {
-    if (recoveryCopy.path.empty() || !hasUnsavedWork())
+    if (recoveryCopy.path.empty())
         return;
     storeShownSample();
     stampHead("Last modified (dd/mm/yyyy):", pathOfSheet(), ports.clock->now());
@@ -132,6 +132,12 @@ void watchUnsavedWork()
 void RecoveryTimer_Timer()
 {
     recoveryCopy.waiting = false;
+    if (hasUnsavedWork())
+        writeCopy();
+}
+
+void copyBeforeOverwriting()
+{
     writeCopy();
 }
 
@@ -140,6 +146,6 @@ void endRecovery(bool lossConfirmed)
     ports.recoveryTimer->stop();
     if (lossConfirmed)
         removeCopy();
-    else
+    else if (hasUnsavedWork())
         writeCopy();
 }

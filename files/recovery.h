@@ -22,5 +22,9 @@ void findRecoveryCopies();
 void watchUnsavedWork();
 /// The time has come, between two keys.
 void RecoveryTimer_Timer();
+/// A file of the sheet is about to be written over. Cut short by a crash, it would be neither the old one nor
+/// the new one: until it is whole, all counts stand in the copy, those of the last seconds and the saved ones
+/// too.
+void copyBeforeOverwriting();
 /// The program ends. `lossConfirmed`: what was not saved is given up.
 void endRecovery(bool lossConfirmed);

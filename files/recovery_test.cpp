@@ -96,6 +96,26 @@ TEST_F(Recovery, crashedSheetIsTakenUpWithItsFileAndItsCounts)
     findRecoveryCopies(); // nothing is offered
 }
 
+TEST_F(Recovery, sheetThatIsCutShortByItsOwnSaveIsWholeInTheCopy)
+{
+    dialogs.paths = {"/cores/Lake.csv"};
+    count(2);
+    SaveSheet(0);
+    watchUnsavedWork();
+    files.cutShort = {"/cores/Lake.csv"};
+    for (const int counted : {0, 3}) { // what was saved would be lost too
+        count(counted);
+        dialogs.expect("The file is being used by another software. Please close the file and try again.",
+                       "Error", Answer::ok);
+        SaveSheet(0);
+        watchUnsavedWork();
+        crashAndStart();
+        expectOffer("Lake", Answer::yes);
+        findRecoveryCopies();
+        EXPECT_EQ(shown(1), 2 + counted);
+    }
+}
+
 TEST_F(Recovery, unnamedSheetAndLostFileComeBackWithoutAName)
 {
     count(4);

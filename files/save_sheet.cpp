@@ -6,6 +6,7 @@
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
+#include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
 #include "platform/code_page.h"
@@ -64,6 +65,7 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
     std::string& modified = sheet.SampleStamp(sheet.CurrentSample, 3);
     const std::string modifiedBefore = modified;
 
+    copyBeforeOverwriting();
     stampHead("Last modified (dd/mm/yyyy):", sheetPath, now);
     if (mode == plain && !sheet.FreshSheet)
         modified = dateStamp(now);
@@ -71,6 +73,8 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
     if (!ports.files->write(path, fileText(mode, totals))) {
         sheet.SheetHeader[1] = headBefore;
         modified = modifiedBefore;
+        if (path == sheet.SheetPath)
+            markUnsavedWork(); // what was saved there may be cut short
         return false;
     }
     if (mode == plain && !sheet.FreshSheet)

@@ -13,6 +13,7 @@ public:
     std::set<std::string> unwritable; ///< read-only, locked, a folder, or below a folder that is missing
     std::size_t room = SIZE_MAX;      ///< bytes that one file may take
     bool closeFails = false;
+    std::set<std::string> cutShort; ///< written over by half when the power goes
     std::set<std::string> claimedByOthers;
     std::set<std::string> claimed;
 
@@ -27,8 +28,9 @@ public:
     {
         if (unwritable.count(path) != 0 || bytes.size() > room)
             return false;
-        contents[path] = bytes;
-        return !closeFails;
+        const bool whole = cutShort.count(path) == 0;
+        contents[path] = bytes.substr(0, whole ? bytes.size() : bytes.size() / 2);
+        return whole && !closeFails;
     }
     bool replace(const std::string& path, std::string_view bytes) override
     {
