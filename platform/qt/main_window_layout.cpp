@@ -241,7 +241,7 @@ QWidget* MainWindow::sumStrip()
         bell->setSizePolicy(kept);
         bell->hide();
         row->addWidget(bell);
-        row->addSpacing(8);
+        row->addSpacing(1);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
