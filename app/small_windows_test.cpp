@@ -3,6 +3,7 @@
 #include "app/window_fixture_test.h"
 
 #include "core/text_changes.h"
+#include "extras/manual.h"
 #include "sheet/subtotals.h"
 #include "sheet/summary.h"
 
@@ -14,6 +15,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QWindow>
 
 namespace {
 
@@ -91,4 +95,34 @@ TEST_F(SmallWindows, theSummaryFillsItsWindow)
     EXPECT_GT(ranking->width(), 660);
     form->close();
     EXPECT_TRUE(frmMain.enabled && !frmSummary.visible);
+}
+
+TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
+{
+    const std::string folder = std::exchange(ports.programFolder, DELIVERED_FOLDER);
+    named<QAction>("mnuManual")->trigger();
+    ports.programFolder = folder;
+    const auto all = QApplication::topLevelWidgets();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [](const QWidget* one) { return one->objectName() == "frmManual"; });
+    ASSERT_NE(found, all.end());
+    QWidget* const manual = *found;
+    EXPECT_TRUE(manual->isVisible() && !manual->isModal() && frmMain.enabled);
+
+    auto* const pages = manual->findChild<QTextBrowser*>();
+    ASSERT_TRUE(pages->toPlainText().startsWith("The manual of TallyStrata"));
+    const QUrl contents = pages->source();
+    pages->setSource(QUrl("../data-formats.md#history"));
+    EXPECT_TRUE(pages->cursorForPosition({1, 1}).block().text() == "History")
+        << "a link leads to its heading";
+    pages->backward();
+    EXPECT_EQ(pages->source(), contents);
+
+    window->activateWindow();
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Q, {}, 24, 'q', 0, "q");
+    QApplication::sendEvent(window->windowHandle(), &key);
+    EXPECT_EQ(frmMain.Text2[1].text, "8") << "the manual takes no key from the counting";
+    manual->close();
+    EXPECT_FALSE(frmManual.visible);
 }

@@ -4,6 +4,7 @@
 #include "diagram/diagram_window.h"
 #include "extras/about.h"
 #include "extras/diagnose.h"
+#include "extras/manual.h"
 #include "extras/pictures.h"
 #include "files/backup.h"
 #include "files/new_sheet.h"
@@ -20,7 +21,7 @@
 #include "sheet/live_curve.h"
 #include "sheet/subtotals.h"
 
-/// In this order; nothing asks for when frmFind and frmDiagnose go.
+/// In this order; nothing asks for when frmFind, frmDiagnose and the manual go.
 static void unloadForms()
 {
     frmAboutDX1.visible = false;
@@ -36,6 +37,7 @@ static void unloadForms()
     frmPicture.visible = false;
     frmFind.visible = false;
     frmDiagnose.visible = false;
+    closeManual();
 }
 
 void connectRooms()

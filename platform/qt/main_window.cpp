@@ -11,6 +11,7 @@
 #include "platform/qt/find_window.h"
 #include "platform/qt/initial_window.h"
 #include "platform/qt/key_windows.h"
+#include "platform/qt/manual_window.h"
 #include "platform/qt/picture_window.h"
 #include "platform/qt/sample_windows.h"
 #include "platform/qt/subtotal_window.h"
@@ -108,6 +109,7 @@ MainWindow::MainWindow()
               new DiagnoseWindow(*this), new InitialWindow(*this),  new KeyCodeWindow(*this),
               new KeyNoteWindow(*this)};
     diagram_ = std::make_unique<DiagramWindow>(*this);
+    manual_ = std::make_unique<ManualWindow>(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -272,6 +274,7 @@ void MainWindow::present()
     for (FormWindow* const form : forms_)
         form->present();
     diagram_->present();
+    manual_->present();
     if (frmMain.forwardRevision != forwardShown_) {
         forwardShown_ = frmMain.forwardRevision;
         raise();

@@ -13,6 +13,7 @@
 struct MainMenuEntry;
 class DiagramWindow;
 class FormWindow;
+class ManualWindow;
 class QMenu;
 class QMouseEvent;
 class QTabWidget;
@@ -113,6 +114,7 @@ private:
     QList<LogBinding> logs_;
     std::array<std::string, taxonSlots + 1> namesShown_;
     std::unique_ptr<DiagramWindow> diagram_;
+    std::unique_ptr<ManualWindow> manual_;
     int forwardShown_ = 0;
     QList<FormWindow*> forms_; ///< the small windows above this one
     Pointer pointerShown_ = Pointer::arrow;

@@ -7,6 +7,7 @@
 #include "diagram/diagram_window.h"
 #include "extras/about.h"
 #include "extras/diagnose.h"
+#include "extras/manual.h"
 #include "extras/pictures.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -130,6 +131,7 @@ QList<MainMenuEntry> entries()
         {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
         {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite, mnuFavorite_Click},
         {"mnuHelp", nullptr, nullptr},
+        {"mnuHelp", "mnuManual", "Manual", nullptr, mnuManual_Click},
         {"mnuHelp", "mnuAboutDX1", "About programmable keypads", nullptr, mnuAboutDX1_Click},
         {"mnuHelp", "mnuAboutApp", "About TallyStrata", nullptr, mnuAboutApp_Click},
     };

@@ -1,0 +1,144 @@
+#include "platform/qt/manual_window.h"
+
+#include "extras/manual.h"
+#include "platform/ports.h"
+#include "platform/qt/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextTable>
+#include <QToolBar>
+
+/// The page with the list of all others, or an empty address.
+static QUrl contentsPage()
+{
+    const QString executable = QCoreApplication::applicationDirPath();
+    for (const QString& folder : {QString::fromStdString(ports.programFolder), executable,
+                                  executable + "/../share/doc/tallystrata"}) // of an installed package
+        if (const QFileInfo page(folder + "/docs/manual/index.md"); page.isFile())
+            return QUrl::fromLocalFile(page.canonicalFilePath());
+    return {};
+}
+
+/// Shows Markdown with what the toolkit leaves out: places to jump to, lines in tables, pictures that fit.
+class ManualPages : public QTextBrowser {
+public:
+    ManualPages()
+    {
+        setObjectName("pages");
+        setAccessibleName("Manual");
+        setFrameShape(QFrame::NoFrame);
+        setOpenLinks(true);
+        document()->setDocumentMargin(24);
+    }
+
+protected:
+    void doSetSource(const QUrl& page, QTextDocument::ResourceType type) override
+    {
+        QTextBrowser::doSetSource(page, type);
+        nameHeadings();
+        layOutTables();
+        scrollToAnchor(page.fragment());
+    }
+
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        const QVariant found = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource || found.typeId() != QMetaType::QByteArray)
+            return found;
+        constexpr int widest = 780;
+        const QImage picture = QImage::fromData(found.toByteArray());
+        return picture.width() > widest ? picture.scaledToWidth(widest, Qt::SmoothTransformation) : picture;
+    }
+
+private:
+    /// A heading is named as links name it: "Number pads, keypads" is "number-pads-keypads".
+    void nameHeadings()
+    {
+        static const QRegularExpression signs("[^\\w -]", QRegularExpression::UseUnicodePropertiesOption);
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+            if (block.blockFormat().headingLevel() == 0)
+                continue;
+            QTextCharFormat named;
+            named.setAnchor(true);
+            named.setAnchorNames({block.text().toLower().remove(signs).replace(' ', '-')});
+            QTextCursor whole(block);
+            whole.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            whole.mergeCharFormat(named);
+        }
+    }
+
+    void layOutTables()
+    {
+        for (QTextFrame* const frame : document()->rootFrame()->childFrames()) {
+            auto* const table = qobject_cast<QTextTable*>(frame);
+            if (table == nullptr)
+                continue;
+            QTextTableFormat format = table->format();
+            format.setBorder(1);
+            format.setBorderCollapse(true);
+            format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            format.setBorderBrush(palette().mid());
+            format.setCellSpacing(0);
+            format.setCellPadding(4);
+            table->setFormat(format);
+        }
+    }
+};
+
+ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPages)
+{
+    setObjectName("frmManual");
+    setWindowTitle("TallyStrata manual");
+    setCentralWidget(pages_);
+    QToolBar* const bar = addToolBar("Pages");
+    bar->setMovable(false);
+    bar->toggleViewAction()->setEnabled(false); // a hidden bar would leave no way back
+    bar->addAction("Contents", this, [this] { pages_->setSource(contentsPage()); });
+    QAction* const back = bar->addAction("Back", pages_, &QTextBrowser::backward);
+    back->setShortcut(QKeySequence::Back);
+    back->setEnabled(false);
+    connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    QAction* const forward = bar->addAction("Forward", pages_, &QTextBrowser::forward);
+    forward->setShortcut(QKeySequence::Forward);
+    forward->setEnabled(false);
+    connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    resize(860, 680);
+}
+
+void ManualWindow::present()
+{
+    if (frmManual.visible && pages_->source().isEmpty()) {
+        if (const QUrl contents = contentsPage(); contents.isValid())
+            pages_->setSource(contents);
+        else
+            pages_->setPlainText("The manual (the folder docs) is not beside the program.");
+    }
+    if (isVisible() != frmManual.visible)
+        setVisible(frmManual.visible);
+    if (frmManual.forwardRevision != forwardShown_) {
+        forwardShown_ = frmManual.forwardRevision;
+        raise();
+        activateWindow();
+    }
+}
+
+void ManualWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the record says whether it is open
+    main_.onEvent(closeManual);
+}
+
+void ManualWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
+}
