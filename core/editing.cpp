@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "core/text_changes.h"
 #include "platform/ports.h"
 
@@ -137,14 +138,6 @@ static bool anotherSampleIsNamed(std::string_view name)
     return false;
 }
 
-static void listSampleNames()
-{
-    frmMain.Combo2.items.clear();
-    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-        frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
-    ++frmMain.Combo2.itemsRevision;
-}
-
 void renameShownSample(std::string_view name, int caret)
 {
     TextBox typed;
@@ -168,6 +161,7 @@ static void leaveText1(int slot)
         ports.dialogs->ask("The sample name is already used. Choose another name.", "Error!", Buttons::ok,
                            Icon::exclamation);
         setText1(0, sheet.EditOld);
+        listSampleNames(); // a move of a sample may have listed it meanwhile
         return;
     }
     if (slot == 0)

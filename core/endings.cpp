@@ -72,7 +72,7 @@ static Answer askToSave()
 void Form_Unload(bool& cancel)
 {
     sheet.SaveResult = 1;
-    leaveEditedBox();
+    const VisitInterrupted interrupted; // after a Cancel the user types on in the same box
     if (sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled) {
         const Answer answer = askToSave();
         if (answer == Answer::cancel) {

@@ -12,6 +12,8 @@ static bool isBlankName(std::string_view name)
 
 void RecountTotals(int sample)
 {
+    if (!sheet.KeysActive) // the boxes show percentages
+        return;
     frmMain.hundredMark = {};
     std::int64_t all = 0;
     std::int64_t subtotal1 = 0;

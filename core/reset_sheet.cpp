@@ -27,6 +27,7 @@ static void resetState()
 static void resetScreen()
 {
     MainScreen before = std::exchange(frmMain, MainScreen());
+    frmMain.visible = before.visible;
     frmMain.Combo1 = std::move(before.Combo1);
     frmMain.Text7 = std::move(before.Text7);
     frmMain.forwardRevision = before.forwardRevision;

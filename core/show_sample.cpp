@@ -49,3 +49,11 @@ void showSample(int sample)
     for (int date = 0; date < 3; ++date)
         frmMain.Label14[date].caption = orDashes(sheet.SampleStamp(sample, date + 1));
 }
+
+void listSampleNames()
+{
+    frmMain.Combo2.items.clear();
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
+    ++frmMain.Combo2.itemsRevision;
+}

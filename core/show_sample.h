@@ -24,3 +24,5 @@ private:
 /// Stores nothing and stamps nothing. Arms the question about an older sample.
 /// `sample`: 1 to SampleCount; becomes CurrentSample.
 void showSample(int sample);
+/// The names of all samples, in the order of the sheet, go into the list of samples.
+void listSampleNames();

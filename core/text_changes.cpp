@@ -85,7 +85,7 @@ static void refuseCount(int slot)
     if (sheet.SoundOn)
         ports.sound->play(Cue::SoundError);
     ports.dialogs->ask("Please input digit(s).", "Error", Buttons::ok, Icon::exclamation);
-    setText2(slot, decimalText(static_cast<long long>(sheet.PreviousCount)));
+    setText2(slot, decimalText(within32Bits(static_cast<std::int64_t>(sheet.PreviousCount))));
 }
 
 void Text2_Change(int slot)

@@ -67,6 +67,7 @@ private:
 
     void ticks(float width)
     {
+        constexpr float farthest = 32767; // percent; a mistyped count may make a column millions wide
         const auto [scaleLeft, top, scaleWidth, height] = view_.scale;
         float percent = 0;
         do {
@@ -74,7 +75,7 @@ private:
             drawing_.line(x, top, x, top + height * 8 / 1000, black);
             drawing_.line(x, top + height, x, top + height * 988 / 1000, black);
             percent += 10;
-        } while (width > percent + 5);
+        } while (width > percent + 5 && percent < farthest);
     }
 
     Drawing& drawing_;

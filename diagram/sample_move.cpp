@@ -1,7 +1,9 @@
 #include "diagram/sample_move.h"
 
+#include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_form.h"
 #include "diagram/diagram_mouse.h"
@@ -48,12 +50,8 @@ void MoveSample()
             entry.sample = placeAfterMove(entry.sample, from, to);
         sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);
 
-        sheet.SheetPristine = false;
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
-        frmMain.Combo2.items.clear();
-        ++frmMain.Combo2.itemsRevision;
-        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-            frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
+        markUnsavedWork();
+        listSampleNames();
         frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);
     }
     if (sheet.DiagramOpen) {

@@ -114,7 +114,7 @@ bool AddSample()
     sheet.SampleField(sample, 0).clear();
     sheet.SampleField(sample, 1) = decimalText(sheet.LatestSerial);
     sheet.SampleField(sample, 2) = name;
-    frmMain.Combo2.items.push_back(name);
+    listSampleNames(); // without the placeholder
     setText1(0, name); // shows in Combo2 too
     // 10. Whatever stood in the column before.
     for (int slot = 0; slot <= taxonSlots; ++slot) {
@@ -171,7 +171,8 @@ void NextFile()
 
 void showFirstRunChoice()
 {
-    if (!hasNoSample()) // a sheet that a crash had left was taken up meanwhile
+    // A sheet that a crash had left was taken up meanwhile, or the names of the first one are being edited.
+    if (!hasNoSample() || sheet.Modifying)
         return;
     NextFile();
     frmNext.Command4.visible = true;

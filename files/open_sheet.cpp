@@ -69,10 +69,7 @@ void showHeads()
     setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
     showSubtotalNames();
 
-    frmMain.Combo2.items.clear();
-    ++frmMain.Combo2.itemsRevision;
-    for (int sample = 1; sample <= last; ++sample)
-        frmMain.Combo2.items.push_back(sheet.SampleField(sample, 2));
+    listSampleNames();
     if (last > 0) {
         setText1(0, sheet.SampleField(last, 2));
         frmMain.Combo2.text = sheet.SampleField(last, 2);
@@ -157,6 +154,8 @@ void endEarly()
         const ShowingSample showing;
         showHeads();
     }
+    for (int slot = 1; slot <= taxonSlots; ++slot) // also of a row whose name was the last to be read
+        setText1(slot, sheet.TaxonRecord[slot].Name);
     showSample(sheet.CurrentSample);
     TakeSnapshot(); // a reset must not bring counts of the sheet before
 }

@@ -147,9 +147,9 @@ void SaveSheet(int mode)
     }
     if (sheet.SoundOn)
         ports.sound->play(Cue::SoundSave);
-    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
+    if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows
+        frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = frmMain.mnuSaveCopy.enabled = true;
     logAction(mode == saveAs ? "(Save as)" : mode == copy ? "(Save copy)" : "(Save)");
-    frmMain.mnuSaveCopy.enabled = true;
     if (mode == plain && !sheet.Modifying)
         frmMain.focus = MainFocus::Text99;
     endProgress();

@@ -62,8 +62,10 @@ TEST(KeyRepeats, KeepTheCodeOfThePressUntilARelease)
     EXPECT_EQ(filtered(numLockChanged), "+97+97+97-97+35");
     const std::vector<Step> pressNotSeen = {{up, keyA, 65, 100}, {up, 5000, 70, 500}};
     EXPECT_EQ(filtered(pressNotSeen), "");
-    const std::vector<Step> heldSinceElsewhere = {{down, keyA, 65, 100, marked}, {up, keyA, 65, 140},
-                                                  {down, keyA, 65, 140},         {up, keyA, 65, 180},
+    const std::vector<Step> heldSinceElsewhere = {{down, keyA, 65, 100, marked},
+                                                  {up, keyA, 65, 140},
+                                                  {down, keyA, 65, 140},
+                                                  {up, keyA, 65, 180},
                                                   {down, keyA, 65, 200}};
     EXPECT_EQ(filtered(heldSinceElsewhere), "+65");
     keycodes::KeyRepeatFilter filter;

@@ -187,10 +187,10 @@ void FindForm::SelectTaxon()
         return;
     }
     // 2.
-    const int before = sheet.Count(sheet.CurrentSample, slot);
+    const std::int32_t before = sheet.ActionCount;
     sheet.Layer = layerOf(slot);
     DispatchKey(code, 0);
-    const bool counted = sheet.Count(sheet.CurrentSample, slot) != before;
+    const bool counted = sheet.ActionCount != before;
     // 3.
     unload();
     // 4. After a No to the question about an older sample nothing was counted, so nothing is marked.
