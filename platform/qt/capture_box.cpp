@@ -2,6 +2,8 @@
 
 #include "platform/qt/main_window.h"
 
+#include <QEvent>
+
 CaptureBox::CaptureBox(MainWindow& main, Handlers handlers) : main_(main), handlers_(std::move(handlers))
 {
     setReadOnly(true);

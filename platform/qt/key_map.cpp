@@ -45,7 +45,7 @@ void KeyMap::add(QLineEdit* box, const KeyBox& record)
 
 void KeyMap::present()
 {
-    const auto pixels = [this](int twips) { return static_cast<int>(twips * pixelsPerTwip_ + 0.5); };
+    const auto pixels = [this](int twips) { return qRound(twips * pixelsPerTwip_); };
     for (const Entry& entry : entries_) {
         const QRect place(pixels(entry.record->left), pixels(entry.record->top), pixels(keyBoxWidth),
                           pixels(keyBoxHeight));

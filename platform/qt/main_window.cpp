@@ -23,6 +23,7 @@
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -31,6 +32,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -226,7 +228,7 @@ void MainWindow::scaleFont()
     const double scale =
         std::min(width() / double(designSize.width()), height() / double(designSize.height()));
     QFont letters = font();
-    letters.setPixelSize(std::max(9, static_cast<int>(designLetters * scale + 0.5)));
+    letters.setPixelSize(std::max(9, qRound(designLetters * scale)));
     if (letters == centralWidget()->font())
         return;
     centralWidget()->setFont(letters);

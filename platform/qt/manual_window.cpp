@@ -49,7 +49,7 @@ protected:
 
     QVariant loadResource(int type, const QUrl& name) override
     {
-        const QVariant found = QTextBrowser::loadResource(type, name);
+        QVariant found = QTextBrowser::loadResource(type, name);
         if (type != QTextDocument::ImageResource || found.typeId() != QMetaType::QByteArray)
             return found;
         constexpr int widest = 780;
