@@ -40,18 +40,16 @@ public:
         setFrameShape(QFrame::NoFrame);
         setOpenLinks(true);
         document()->setDocumentMargin(24);
+        // Told of each page, also of those that Back and Forward bring.
+        connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
+            layOutHeadings();
+            layOutTables();
+            showLinks();
+            scrollToAnchor(page.fragment());
+        });
     }
 
 protected:
-    void doSetSource(const QUrl& page, QTextDocument::ResourceType type) override
-    {
-        QTextBrowser::doSetSource(page, type);
-        layOutHeadings();
-        layOutTables();
-        showLinks();
-        scrollToAnchor(page.fragment());
-    }
-
     QVariant loadResource(int type, const QUrl& name) override
     {
         const QVariant found = QTextBrowser::loadResource(type, name);
@@ -59,7 +57,8 @@ protected:
             return found;
         constexpr double widest = 780;
         constexpr double dotsPerMetre = 96 / 0.0254;
-        const QImage picture = QImage::fromData(found.toByteArray());
+        const QImage picture =
+            QImage::fromData(found.toByteArray()).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         if (picture.isNull())
             return picture;
         // Pictures may have more pixels than they are to be wide; their density tells. Each gets as many as
