@@ -94,7 +94,7 @@ private:
     std::array<QLineEdit*, 3> sums_{};
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
-    QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
+    QLineEdit* enteredByMouse_ = nullptr; ///< a box that is selected when the button comes up
     std::array<QLabel*, 3> hundredMarks_{};
     QAbstractButton* percent_ = nullptr; ///< Command6
     QComboBox* samples_ = nullptr;       ///< Combo2
