@@ -17,11 +17,13 @@ static std::optional<std::string> chosen(const QString& path)
 
 static const QString dataFiles = "DataFile(*.csv)";
 
-/// The window that the user looks at: a box above another one would bring that one forward.
-QWidget* MessageBoxes::windowInFront() const
+/// The window that the user looks at: a box above another one would bring that one forward. For a moment
+/// after a dialog no window has the keyboard; a message that follows it belongs where the dialog was.
+QWidget* MessageBoxes::windowInFront()
 {
-    QWidget* const active = QApplication::activeWindow();
-    return active != nullptr ? active : &window_;
+    if (QWidget* const active = QApplication::activeWindow())
+        lastInFront_ = active;
+    return lastInFront_ != nullptr && lastInFront_->isVisible() ? lastInFront_.data() : &window_;
 }
 
 Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon)

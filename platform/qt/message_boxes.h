@@ -2,8 +2,10 @@
 
 #include "platform/ports.h"
 
+#include <QPointer>
+#include <QWidget>
+
 class MainWindow;
-class QWidget;
 
 /// The program's message boxes and file dialogs, above the window in front.
 class MessageBoxes : public Dialogs {
@@ -16,7 +18,8 @@ public:
     std::optional<Colour> chooseColour(Colour current) override;
 
 private:
-    QWidget* windowInFront() const;
+    QWidget* windowInFront();
 
     MainWindow& window_;
+    QPointer<QWidget> lastInFront_;
 };
