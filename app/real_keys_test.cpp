@@ -98,6 +98,19 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
     tapWith({leftCtrl}, placeQ);
     EXPECT_EQ(total(), 0);
 
+    sheet.SampleCount = 2;
+    sheet.WarnNotLatest = false;
+    window->onEvent([] { frmMain.mnuCurve.enabled = true; });
+    named<QAction>("mnuCurve")->trigger();
+    const auto isActive = [](const char* name) {
+        return QApplication::activeWindow() != nullptr && QApplication::activeWindow()->objectName() == name;
+    };
+    ASSERT_TRUE(waitFor([&] { return isActive("frmDiagram"); }));
+    tapWith({leftCtrl}, placeQ);
+    EXPECT_EQ(total(), 0) << "there neither";
+    QApplication::activeWindow()->close();
+    ASSERT_TRUE(waitFor([&] { return isActive("frmMain"); }));
+
     sheet.Modifying = true;
     frmMain.focus = MainFocus::elsewhere;
     QLineEdit box("abc", window->centralWidget());

@@ -112,6 +112,7 @@ MainWindow::MainWindow()
               new KeyNoteWindow(*this)};
     diagram_ = std::make_unique<DiagramWindow>(*this);
     manual_ = std::make_unique<ManualWindow>(*this);
+    takeCtrlLetters();
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {

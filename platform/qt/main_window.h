@@ -77,6 +77,7 @@ private:
     void makeMenus();
     void addEntry(QMenu& menu, const MainMenuEntry& entry);
     void makeRowMenu();
+    void takeCtrlLetters();
 
     // main_window_editing.cpp
     bool boxPressed(QWidget* box, const QMouseEvent& press);

@@ -17,6 +17,7 @@
 #include "files/text_exports.h"
 #include "keys/first_run.h"
 #include "keys/key_editor.h"
+#include "platform/qt/diagram_window.h"
 #include "platform/qt/main_window.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
@@ -186,13 +187,18 @@ void MainWindow::makeMenus()
                            mnuCopyDiversity_Click});
     addEntry(*curveMenu_,
              {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &frmMain.mnuSaveDiversity, SaveDiversity});
+}
 
-    // mnuByPass: Ctrl and a letter is taken here and does nothing. It counts nothing either.
+/// mnuByPass: Ctrl and a letter is taken and does nothing. It counts nothing either, here and where the
+/// diagram is: there it is meant for copying.
+void MainWindow::takeCtrlLetters()
+{
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
         auto* const taken = new QAction(this);
         taken->setObjectName(QString("mnu") + letter);
         taken->setShortcut(QKeySequence(QString("Ctrl+") + letter));
         addAction(taken);
+        diagram_->addAction(taken);
     }
 }
 
