@@ -205,7 +205,8 @@ void frmDiagram_Resize(int width, int height)
     // 4. On purpose without the zoom, and without a limit.
     const float beyond = f.plot.ColumnLeft[taxonSlots] - f.Picture1.scale.width + f.plot.LastColumnWidth +
                          2.0F * static_cast<float>(f.plot.ColumnGap);
-    f.HScroll1.max = std::max(0, static_cast<int>(std::nearbyint(beyond)));
+    constexpr float farthest = 2e9F; // a mistyped count may make a column wider than a whole number can say
+    f.HScroll1.max = static_cast<int>(std::nearbyint(std::clamp(beyond, 0.0F, farthest)));
     f.HScroll1.value = std::min(f.HScroll1.value, f.HScroll1.max);
     f.HScroll1.largeChange = static_cast<int>(f.Picture1.scale.width);
     f.HScroll1.smallChange = 10;

@@ -139,8 +139,6 @@ void mnuDiversityRB_Open()
 void mnuCopyDiversity_Click()
 {
     const Surface& picture = frmMain.Picture2;
-    if (picture.picture.marks.empty()) // an opened sheet has no curve yet
-        return;
     ports.pictures->copy({picture.width,
                           picture.height,
                           {{0, 0, picture.width, picture.height, picture.scale, picture.picture}}});
