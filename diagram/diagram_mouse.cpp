@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -172,9 +173,12 @@ void showMove()
 
 void listDiagramSamples()
 {
-    ComboBox& list = frmDiagram.Combo2;
-    list.items.clear();
-    ++list.itemsRevision;
+    std::vector<std::string> names;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-        list.items.push_back(sheet.SampleField(sample, 2));
+        names.push_back(sheet.SampleField(sample, 2));
+    ComboBox& list = frmDiagram.Combo2;
+    if (names == list.items)
+        return;
+    list.items = std::move(names);
+    ++list.itemsRevision;
 }

@@ -389,5 +389,7 @@ void frmDiagram_Command1_Click()
 
 void frmDiagram_Activate()
 {
+    listDiagramSamples(); // one may have been renamed meanwhile, and is picked by the name that it has now
+    placePanel();
     frmDiagram.sliderFocused = true;
 }

@@ -101,6 +101,9 @@ TEST_F(Diagram, stepsThroughTheSamplesInARing)
     sheet.SampleField(2, 2) = sheet.SampleField(4, 2);
     frmDiagram_Combo2_Click("40");
     EXPECT_EQ(f.DiagramSample, 4) << "of two samples of a name the later";
+    sheet.SampleField(3, 2) = "31";
+    frmDiagram_Activate();
+    EXPECT_EQ(f.Combo2.items[2], "31") << "a sample that was renamed meanwhile";
     frmMain.SSTab1 = 2;
     Slider1_Change(2);
     EXPECT_EQ(frmMain.SSTab1, 0);
