@@ -164,7 +164,10 @@ TEST_F(Widgets, listsAndTheHistoryGrowAtTheirEndAndCanBeReplaced)
     EXPECT_EQ(latest->currentText(), "1: ---");
     EXPECT_EQ(history->toPlainText(), "(Start)\n1: ---\n2: ---");
 
-    frmMain.Combo2.items = {"10", "20"};
+    frmMain.Combo2.items = {"10", "20", "30"};
+    frmMain.Combo2.text = "20";
+    window->present();
+    EXPECT_EQ(named<QComboBox>("Combo2")->currentIndex(), 1) << "where the list opens";
     frmMain.Combo2.text = "30";
     window->present();
     frmMain.Combo2.items = {"5"};

@@ -165,13 +165,17 @@ void show(ComboBinding& binding)
         binding.shownItems = 0;
         binding.shownRevision = now.itemsRevision;
     }
+    const bool added = binding.shownItems < now.items.size();
     for (; binding.shownItems < now.items.size(); ++binding.shownItems)
         widget.addItem(shownText(now.items[binding.shownItems]));
     const QString text = shownText(now.text);
-    if (widget.currentText() != text) {
-        widget.setEditText(text);
-        widget.lineEdit()->setCursorPosition(0);
-    }
+    if (!added && widget.currentText() == text)
+        return;
+    const int last = widget.count() - 1; // what a log shows
+    widget.setCurrentIndex(widget.itemText(last) == text ? last
+                                                         : widget.findText(text)); // the list opens there
+    widget.setEditText(text);
+    widget.lineEdit()->setCursorPosition(0);
 }
 
 void show(LogBinding& binding)
