@@ -4,6 +4,7 @@
 #include "core/sheet_state.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
+#include "platform/qt/bring_forward.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/text.h"
@@ -254,8 +255,7 @@ void DiagramWindow::present()
         show();
     if (f.forwardRevision != forwardShown_) {
         forwardShown_ = f.forwardRevision;
-        raise();
-        activateWindow();
+        bringForward(*this);
     }
     if (f.sliderFocused && isActiveWindow() && !sample_->hasFocus())
         sample_->setFocus();

@@ -6,6 +6,7 @@
 #include "core/sheet_state.h"
 #include "files/open_sheet.h"
 #include "platform/qt/about_windows.h"
+#include "platform/qt/bring_forward.h"
 #include "platform/qt/diagnose_window.h"
 #include "platform/qt/diagram_window.h"
 #include "platform/qt/find_window.h"
@@ -280,8 +281,7 @@ void MainWindow::present()
     manual_->present();
     if (frmMain.forwardRevision != forwardShown_) {
         forwardShown_ = frmMain.forwardRevision;
-        raise();
-        activateWindow();
+        bringForward(*this);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "extras/manual.h"
 #include "platform/ports.h"
+#include "platform/qt/bring_forward.h"
 #include "platform/qt/main_window.h"
 
 #include <QAction>
@@ -166,8 +167,7 @@ void ManualWindow::present()
         setVisible(frmManual.visible);
     if (frmManual.forwardRevision != forwardShown_) {
         forwardShown_ = frmManual.forwardRevision;
-        raise();
-        activateWindow();
+        bringForward(*this);
     }
 }
 
