@@ -1,5 +1,7 @@
 #include "diagram/paint_diagram.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr Colour black = RGB(0, 0, 0);
@@ -148,7 +150,7 @@ Drawing planNames(const PlotData& plot, const DiagramView& view, float origin)
         if (left * view.zoom < 0 || left * view.zoom >= view.scale.width)
             continue;
         const std::string& name = plot.ColumnName[column];
-        drawing.text(static_cast<float>(static_cast<int>(left * pixelsPerUnit * view.zoom)), origin,
+        drawing.text(std::trunc(left * pixelsPerUnit * view.zoom), origin,
                      nameLetters(name, families && !isFamily(name), origin), black);
     }
     return drawing;
