@@ -5,6 +5,7 @@
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
 #include "platform/qt/main_window.h"
+#include "platform/qt/menu_key.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/text.h"
 
@@ -107,6 +108,7 @@ SurfaceView* DiagramWindow::picture(const char* name, Surface& surface, const QS
     view->setObjectName(name);
     view->setAccessibleName(accessibleName);
     view->setMouseTracking(true);
+    view->setFocusPolicy(Qt::TabFocus);
     view->installEventFilter(this);
     return view;
 }
@@ -153,8 +155,8 @@ QWidget* DiagramWindow::samplePanel()
     names->setAccessibleName("Choose a sample");
     names->setEditable(true);
     names->lineEdit()->setReadOnly(true);
-    names->lineEdit()->setFocusPolicy(Qt::NoFocus);
-    names->setFocusPolicy(Qt::NoFocus);
+    names->lineEdit()->setAccessibleName("Choose a sample");
+    names->setFocusPolicy(Qt::TabFocus);
     names->setInsertPolicy(QComboBox::NoInsert);
     names->setCompleter(nullptr);
     names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -353,6 +355,22 @@ bool DiagramWindow::pictureEvent(SurfaceView* view, QMouseEvent& event)
     return true;
 }
 
+/// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
+bool DiagramWindow::keyOnPicture(const SurfaceView* view, QEvent& event)
+{
+    if (asksForMenu(event)) {
+        QMenu* const menu = view == diagram_ ? diagramMenu_ : view == names_ ? namesMenu_ : dendrogramMenu_;
+        menu->popup(view->mapToGlobal(view->rect().center()));
+        return true;
+    }
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent&>(event).key();
+    if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End)
+        return QApplication::sendEvent(scroll_, &event);
+    return false;
+}
+
 bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
 {
     const bool isPicture = target == diagram_ || target == dendrogram_;
@@ -361,6 +379,9 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
         if (target == centralWidget())
             resized();
         return false;
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+        return (isPicture || target == names_) && keyOnPicture(static_cast<SurfaceView*>(target), *event);
     case QEvent::Wheel: // a turn on the way elsewhere must not change the sample
         return qobject_cast<QComboBox*>(target) != nullptr;
     case QEvent::MouseMove:
