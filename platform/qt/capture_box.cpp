@@ -25,7 +25,8 @@ void CaptureBox::focusInEvent(QFocusEvent* event)
     QLineEdit::focusInEvent(event);
 }
 
-/// A visit ends and begins with the focus, so what changes between coming by and taking keys gives it up first.
+/// A visit ends and begins with the focus, so what changes between coming by and taking keys gives it up
+/// first.
 void CaptureBox::comeAnew(Qt::FocusReason reason)
 {
     clearFocus();
@@ -67,8 +68,8 @@ QVariant CaptureBox::inputMethodQuery(Qt::InputMethodQuery query) const
     return query == Qt::ImEnabled ? QVariant(false) : QLineEdit::inputMethodQuery(query);
 }
 
-/// Keys that are taken have come already. Enter and Space act when they come up: pressed in a box that takes keys
-/// they would fill it.
+/// Keys that are taken have come already. Enter and Space act when they come up: pressed in a box that takes
+/// keys they would fill it.
 bool CaptureBox::event(QEvent* event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)

@@ -48,8 +48,8 @@ DiagnoseWindow::DiagnoseWindow(MainWindow& main)
 
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(
-        new QLabel("Press keys: they show here what they send and what they would do, and count nothing. "
-                   "Esc twice in a row hands\nthe keyboard to the buttons."));
+        new QLabel("Press keys: they show here what they send and what they would do, and count nothing.\n"
+                   "Esc twice in a row hands the keyboard to the buttons."));
     whole->addWidget(key_);
     whole->addWidget(meaning_);
     whole->addWidget(report_, 1);

@@ -26,6 +26,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
+#include <utility>
 
 namespace {
 
@@ -365,9 +366,16 @@ bool DiagramWindow::keyOnPicture(const SurfaceView* view, QEvent& event)
     }
     if (event.type() != QEvent::KeyPress)
         return false;
-    const int key = static_cast<QKeyEvent&>(event).key();
-    if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End)
-        return QApplication::sendEvent(scroll_, &event);
+    constexpr std::pair<int, QAbstractSlider::SliderAction> scrolls[] = {
+        {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
+        {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd}};
+    for (const auto& [key, action] : scrolls)
+        if (static_cast<QKeyEvent&>(event).key() == key) {
+            scroll_->triggerAction(action);
+            return true;
+        }
     return false;
 }
 

@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-/// A caption that the user may have made long: what finds no room is cut with dots, and the tip shows it whole.
+/// A caption that the user may have made long: what finds no room is cut with dots, and the tip shows it
+/// whole.
 class ElidedLabel : public QLabel {
 public:
     ElidedLabel();

@@ -79,7 +79,8 @@ static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
 /// The diagnose window is in front: it is shown all keys, and no button of it takes one.
 static bool isForDiagnosis(const QObject* target)
 {
-    return frmDiagnose.visible && frmDiagnose.takesKeys && target->isWindowType() && QApplication::activePopupWidget() == nullptr;
+    return frmDiagnose.visible && frmDiagnose.takesKeys && target->isWindowType() &&
+           QApplication::activePopupWidget() == nullptr;
 }
 
 /// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.

@@ -24,7 +24,8 @@ void showRed(QWidget& box, bool red)
     QPalette colours = box.palette();
     const QPalette around = box.parentWidget()->palette();
     const QColor plain = around.color(QPalette::Active, QPalette::Text);
-    const QColor wanted = red ? legible(Qt::red, plain, {around.color(QPalette::Base), around.color(QPalette::Window)}) : plain;
+    const QColor wanted =
+        red ? legible(Qt::red, plain, {around.color(QPalette::Base), around.color(QPalette::Window)}) : plain;
     if (QFont letters = box.font(); letters.bold() != red) {
         letters.setBold(red);
         box.setFont(letters);
@@ -66,8 +67,8 @@ void KeyMap::present()
     update();
 }
 
-/// The outlines of the keys; that of the one with the focus is strong, since its box has no caret. Boxes that a
-/// commit has found equal have a dashed one: red alone is not enough for every eye.
+/// The outlines of the keys; that of the one with the focus is strong, since its box has no caret. Boxes that
+/// a commit has found equal have a dashed one: red alone is not enough for every eye.
 void KeyMap::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);

@@ -14,6 +14,6 @@ public:
 
 /// Contrast of two colours as the Web Content Accessibility Guidelines define it, 1 to 21.
 double contrast(const QColor& one, const QColor& other);
-/// `text`, or if it has too little contrast to one of the grounds the first colour on the way to `strong` that
-/// has enough.
+/// `text`, or if it has too little contrast to one of the grounds the first colour on the way to `strong`
+/// that has enough.
 QColor legible(const QColor& text, const QColor& strong, const QList<QColor>& grounds);

@@ -42,7 +42,7 @@
 namespace {
 
 constexpr QSize designSize(1000, 700);
-constexpr int designLetters = 12;   // pixels
+constexpr int designLetters = 12; // pixels
 constexpr QSize frameRoom(8, 40); // what a window manager puts around the window
 
 /// Text99: takes the focus and no text, so that no input method looks at the keys.

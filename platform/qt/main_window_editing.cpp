@@ -19,6 +19,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -145,6 +146,8 @@ void MainWindow::presentMode()
     const QPalette colours = on ? modifyColours(plainColours_, *frmMain.sheetColour) : plainColours_;
     centralWidget()->setPalette(colours);
     centralWidget()->setAutoFillBackground(on);
+    tabs_->tabBar()->setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
+    tabs_->tabBar()->setPalette(plainColours_); // tabs have a ground of their own
     for (TaxonPage* const page : pages_)
         page->makeEditable(on);
     for (const LineBinding& line : lines_) {

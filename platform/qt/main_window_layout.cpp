@@ -139,8 +139,7 @@ QAbstractButton* MainWindow::boundButton(const QString& name, const Button& reco
     return button;
 }
 
-QComboBox* MainWindow::boundCombo(const QString& name, const QString& accessibleName,
-                                  const ComboBox& record)
+QComboBox* MainWindow::boundCombo(const QString& name, const QString& accessibleName, const ComboBox& record)
 {
     auto* const combo = new QComboBox;
     combo->setObjectName(name);
@@ -200,8 +199,7 @@ QWidget* MainWindow::sheetPages()
     tabs_ = new QTabWidget;
     tabs_->setObjectName("SSTab1");
     tabs_->setAccessibleName("Layers");
-    tabs_->setFocusPolicy(Qt::TabFocus);
-    tabs_->tabBar()->setFocusPolicy(Qt::TabFocus);
+    tabs_->tabBar()->setFocusPolicy(Qt::NoFocus); // while counting the shift keys turn the pages
     connect(tabs_, &QTabWidget::currentChanged, this, [this](int page) { // by the arrow keys
         if (page != frmMain.SSTab1)
             onEvent([page] { SSTab1_Click(page); });
@@ -236,7 +234,7 @@ QWidget* MainWindow::sumStrip()
     row->setSpacing(4);
     const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
     for (int total = 0; total < 3; ++total) {
-        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total], 
+        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total],
                                   total == 0 ? nullptr : new ElidedLabel)); // groups are named by the user
         QLineEdit* const sum = sums_[total] = boundBox(indexed("Text3", total), frmMain.Text3[total]);
         sum->setAccessibleName(names[total]);
@@ -279,8 +277,7 @@ QWidget* MainWindow::infoPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     for (int item = 1; item <= infoItems; ++item) {
-        QLabel* const caption = 
-            boundLabel(indexed("Label10", item), frmMain.Label10[item], new ElidedLabel);
+        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item], new ElidedLabel);
         QSizePolicy size = caption->sizePolicy();
         size.setRetainSizeWhenHidden(true); // the boxes stay where they are when counting goes on
         caption->setSizePolicy(size);
