@@ -73,7 +73,10 @@ MainWindow::MainWindow()
 {
     setObjectName("frmMain");
     setMinimumSize(designSize * 0.7);
-    resize(designSize.boundedTo(screen()->availableGeometry().size() - frameRoom));
+    const QRect free = screen()->availableGeometry();
+    resize(designSize.boundedTo(free.size() - frameRoom));
+    // After a first run other windows have been there before, and a window manager would place it beside them.
+    move(free.center() - QRect(QPoint(), size() + frameRoom).center());
     setAcceptDrops(true);
     makeMenus();
 
