@@ -78,10 +78,12 @@ void DiagnoseWindow::presentLastKey()
 
 void DiagnoseWindow::presentMore()
 {
-    for (QPushButton* const one : {copy_, close_})
+    for (QPushButton* const one : {copy_, close_}) {
         one->setFocusPolicy(frmDiagnose.takesKeys ? Qt::NoFocus : Qt::StrongFocus);
+        one->setAutoDefault(!frmDiagnose.takesKeys); // for Enter
+    }
     if (!frmDiagnose.takesKeys && !copy_->hasFocus() && !close_->hasFocus())
-        close_->setFocus();
+        close_->setFocus(Qt::TabFocusReason); // shows its frame
     if (isVisible() && frmDiagnose.keys == shownKeys_)
         return;
     shownKeys_ = frmDiagnose.keys;

@@ -3,6 +3,7 @@
 #include "platform/qt/legible_style.h"
 #include "platform/qt/text.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -41,6 +42,7 @@ KeyMap::KeyMap()
     across_ = (fontMetrics().horizontalAdvance("[Delete]") + 12) / double(keyBoxWidth);
     down_ = (fontMetrics().height() + 9) / double(keyBoxHeight);
     setFixedSize(static_cast<int>(keyMapWidth * across_), static_cast<int>(keyMapHeight * down_));
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); }); // the outlines tell who has it
 }
 
 void KeyMap::add(QLineEdit* box, const KeyBox& record)

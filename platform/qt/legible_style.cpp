@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double enough = 4.8; // styles shade what a text stands on a little
+constexpr double enough = 4.6; // styles shade what a text stands on a little
 
 double luminance(const QColor& colour)
 {
@@ -70,7 +70,7 @@ void LegibleStyle::polish(QPalette& colours)
             for (const QPalette::ColorRole ground : pair.grounds)
                 grounds += colours.color(group, ground);
             if (pair.text == QPalette::ButtonText)
-                grounds += grounds.front().lighter(150); // buttons are shaded
+                grounds += grounds.front().lighter(145); // buttons are shaded
             const bool onDark = contrast(Qt::white, grounds.front()) > contrast(Qt::black, grounds.front());
             colours.setColor(
                 group, pair.text,

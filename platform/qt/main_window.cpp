@@ -75,7 +75,8 @@ MainWindow::MainWindow()
     setMinimumSize(designSize * 0.7);
     const QRect free = screen()->availableGeometry();
     resize(designSize.boundedTo(free.size() - frameRoom));
-    // After a first run other windows have been there before, and a window manager would place it beside them.
+    // After a first run other windows have been there before, and a window manager would place it beside
+    // them.
     move(free.center() - QRect(QPoint(), size() + frameRoom).center());
     setAcceptDrops(true);
     makeMenus();

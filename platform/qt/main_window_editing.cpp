@@ -147,7 +147,9 @@ void MainWindow::presentMode()
     centralWidget()->setPalette(colours);
     centralWidget()->setAutoFillBackground(on);
     tabs_->tabBar()->setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
-    tabs_->tabBar()->setPalette(plainColours_); // tabs have a ground of their own
+    QPalette tabs; // stand on a ground of their own
+    tabs.setColor(QPalette::WindowText, plainColours_.color(QPalette::WindowText));
+    tabs_->tabBar()->setPalette(tabs);
     for (TaxonPage* const page : pages_)
         page->makeEditable(on);
     for (const LineBinding& line : lines_) {
