@@ -191,6 +191,8 @@ QWidget* DiagramWindow::corner()
             [this](int value) { onEvent([&] { Slider2_Change(value); }); });
     auto* const zoomLabel = new QLabel("Zoom");
     zoomLabel->setBuddy(zoom_);
+    for (QWidget* const part : {static_cast<QWidget*>(zoomLabel), static_cast<QWidget*>(zoom_)})
+        part->setAutoFillBackground(true); // the paper of the names reaches under it, white in a dark theme
     grid->addWidget(zoomLabel, 0, 0, 1, 2);
     grid->addWidget(zoom_, 1, 0, 1, 2);
     grid->setRowStretch(2, 1);
@@ -357,7 +359,7 @@ bool DiagramWindow::pictureEvent(SurfaceView* view, QMouseEvent& event)
 }
 
 /// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
-bool DiagramWindow::keyOnPicture(const SurfaceView* view, QEvent& event)
+bool DiagramWindow::keyOnPicture(SurfaceView* view, QEvent& event)
 {
     if (asksForMenu(event)) {
         QMenu* const menu = view == diagram_ ? diagramMenu_ : view == names_ ? namesMenu_ : dendrogramMenu_;
@@ -374,6 +376,7 @@ bool DiagramWindow::keyOnPicture(const SurfaceView* view, QEvent& event)
     for (const auto& [key, action] : scrolls)
         if (static_cast<QKeyEvent&>(event).key() == key) {
             scroll_->triggerAction(action);
+            view->setFocus(Qt::TabFocusReason); // the next arrow scrolls too, and changes no sample
             return true;
         }
     return false;

@@ -37,7 +37,7 @@ void FormWindow::present()
         return;
     if (!shouldShow_)
         visited_ = nullptr;
-    if (shouldShow_ && layout() != nullptr && layout()->sizeConstraint() != QLayout::SetFixedSize)
+    if (shouldShow_ && (layout() == nullptr || layout()->sizeConstraint() != QLayout::SetFixedSize))
         resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
     setVisible(shouldShow_);
     if (shouldShow_ && !main_.isVisible())

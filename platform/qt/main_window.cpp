@@ -72,7 +72,7 @@ void keepDisabledTextsLegible(QWidget& widget)
 MainWindow::MainWindow()
 {
     setObjectName("frmMain");
-    setMinimumSize(designSize * 0.7);
+    setMinimumSize(designSize * 0.65);
     const QRect free = screen()->availableGeometry();
     resize(designSize.boundedTo(free.size() - frameRoom));
     // After a first run other windows have been there before, and a window manager would place it beside
