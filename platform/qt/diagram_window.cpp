@@ -5,7 +5,6 @@
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
 #include "platform/qt/main_window.h"
-#include "platform/qt/menu_key.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/text.h"
 
@@ -26,7 +25,6 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolButton>
-#include <utility>
 
 namespace {
 
@@ -296,8 +294,14 @@ void DiagramWindow::presentScales()
     const QSignalBlocker quietZoom(zoom_);
     zoom_->setValue(f.Slider2.value);
     check_->setChecked(f.Check1.checked);
-    if (const QString caption = shownText(f.Check1.caption).replace('&', "&&"); caption != check_->text())
+    const QString sample = shownText(f.Check1.caption);
+    constexpr int besideName = 36; // the tick and the margins
+    const QString name =
+        check_->fontMetrics().elidedText(sample, Qt::ElideRight, pixels(f.frame3Place.width) - besideName);
+    if (const QString caption = QString(name).replace('&', "&&"); caption != check_->text())
         check_->setText(caption);
+    if (const QString said = "Line at sample " + sample; said != check_->accessibleName())
+        check_->setAccessibleName(said);
     if (const QString notice = shownText(f.notice); notice != notice_->text())
         notice_->setText(notice);
 }
@@ -356,30 +360,6 @@ bool DiagramWindow::pictureEvent(SurfaceView* view, QMouseEvent& event)
     if (menuOpens)
         (view == diagram_ ? diagramMenu_ : dendrogramMenu_)->popup(event.globalPosition().toPoint());
     return true;
-}
-
-/// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
-bool DiagramWindow::keyOnPicture(SurfaceView* view, QEvent& event)
-{
-    if (asksForMenu(event)) {
-        QMenu* const menu = view == diagram_ ? diagramMenu_ : view == names_ ? namesMenu_ : dendrogramMenu_;
-        menu->popup(view->mapToGlobal(view->rect().center()));
-        return true;
-    }
-    if (event.type() != QEvent::KeyPress)
-        return false;
-    constexpr std::pair<int, QAbstractSlider::SliderAction> scrolls[] = {
-        {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
-        {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},
-        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
-        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd}};
-    for (const auto& [key, action] : scrolls)
-        if (static_cast<QKeyEvent&>(event).key() == key) {
-            scroll_->triggerAction(action);
-            view->setFocus(Qt::TabFocusReason); // the next arrow scrolls too, and changes no sample
-            return true;
-        }
-    return false;
 }
 
 bool DiagramWindow::eventFilter(QObject* target, QEvent* event)

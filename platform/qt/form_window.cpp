@@ -4,6 +4,7 @@
 #include "core/editing.h"
 #include "core/sheet_state.h"
 #include "platform/qt/capture_box.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
@@ -110,8 +111,10 @@ QPushButton* FormWindow::button(const QString& name, const QString& caption, std
 
 QLabel* FormWindow::label(const QString& name, const std::string& caption)
 {
-    auto* const made = new QLabel(this);
+    auto* const made = new ElidedLabel;
+    made->setParent(this);
     made->setObjectName(name);
+    made->setMaximumWidth(360); // captions of additional info are the user's own
     shows_ += [made, &caption] { made->setText(shownText(caption)); };
     return made;
 }

@@ -153,8 +153,9 @@ void TaxonPage::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::Antialiasing);
 
     // The six blocks of the keyboard, so that the eye finds a key's place at once.
-    QColor block = palette().color(QPalette::WindowText); // seen in a dark theme too
-    block.setAlpha(16);
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    QColor block = palette().color(dark ? QPalette::Light : QPalette::Mid);
+    block.setAlpha(60);
     painter.setPen(Qt::NoPen);
     painter.setBrush(block);
     for (const int left : {240, 4560, 8880}) {
