@@ -64,6 +64,17 @@ TEST_F(RealDisk, aFullDiskLeavesTheOldFileAlone)
     EXPECT_FALSE(files.write("/dev/full", "some text"));
 }
 
+TEST_F(RealDisk, aPlaceIsClaimedOnceUnlessItsHolderIsGoneOnWhateverMachine)
+{
+    const std::string elsewhere = "1\nprogram\nelsewhere\n00112233445566778899aabbccddeeff\n0-0-0-0-0\n";
+    ASSERT_TRUE(files.claim(path("held")));
+    ASSERT_TRUE(files.write(path("held.lock"), elsewhere)); // as another machine's on a shared drive
+    EXPECT_FALSE(RealFiles().claim(path("held")));
+
+    ASSERT_TRUE(files.write(path("left.lock"), elsewhere));
+    EXPECT_TRUE(RealFiles().claim(path("left")));
+}
+
 TEST_F(RealDisk, whatIsInTheWayFailsWithoutHarm)
 {
     QDir(folder.path()).mkdir("sheet.csv");

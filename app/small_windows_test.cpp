@@ -119,6 +119,9 @@ TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
         << "a link leads to its heading";
     pages->backward();
     EXPECT_EQ(pages->source(), contents);
+    EXPECT_EQ(pages->document()->find("The words of this manual").charFormat().anchorNames(),
+              QStringList("the-words-of-this-manual"))
+        << "laid out as when it was opened";
 
     window->activateWindow();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));

@@ -358,6 +358,29 @@ TEST_F(Editing, whatIsTypedIsStoredShownAndLogged)
     EXPECT_TRUE(note->textCursor().atEnd());
 }
 
+TEST_F(Editing, aClickIntoACellWithoutATaxonLetsItsNameBeTyped)
+{
+    frmMain.Text1[2].text = "Betula";
+    window->present();
+    const auto click = [this](const char* name) {
+        QLineEdit* const box = named<QLineEdit>(name);
+        box->setFocus(Qt::MouseFocusReason);
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, {5, 5}, box->mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton,
+                              {});
+            QApplication::sendEvent(box, &event);
+        }
+    };
+    click("Text1(0)");
+    type("7");
+    EXPECT_EQ(sheet.SampleField(1, 2), "7");
+    click("Text1(1)");
+    type("P");
+    EXPECT_EQ(sheet.TaxonRecord[1].Name, "P");
+    click("Text1(2)");
+    EXPECT_FALSE(named<QLineEdit>("Text1(2)")->hasSelectedText()) << "a letter of it may be mended";
+}
+
 TEST_F(Editing, aRowIsMovedByItsMenu)
 {
     named<QWidget>("Text2(1)")->setFocus(Qt::TabFocusReason);

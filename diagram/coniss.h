@@ -8,18 +8,17 @@
 /// FORTRAN 77 program for stratigraphically constrained cluster analysis by the method of incremental sum of
 /// squares", Computers & Geosciences 13: 13-35, in an unweighted variant. It differs from Grimm's in this:
 /// - the profile and the place of a merged cluster are the plain means of the two, whatever their sizes;
-/// - a merge's height is the squared distance of the two profiles plus the heights of both, not the increase
-/// of
-///   the within-cluster sum of squares, so heights of different branches are not comparable as dispersions;
+/// - the pair whose squared distance is least merges, not the one that least increases the within-cluster sum
+///   of squares, and a merge's height is that distance plus the heights of both, so heights of different
+///   branches are not comparable as dispersions;
 /// - the data are fractions of the % basis as they stand, not transformed.
 
 /// Merges 1 to N - 1 in the order in which they happen; element 0 holds nothing. Places are coordinates of
 /// the diagram (10 for its first row), those of a merged cluster a mean of two.
 struct MergeTable {
-    std::vector<float> MergeFrom; ///< place of the upper cluster
-    std::vector<float> MergeTo;   ///< place of the lower cluster
-    std::vector<float>
-        MergeSumSquare; ///< height; never falls along a branch, but the last need not be highest
+    std::vector<float> MergeFrom;      ///< place of the upper cluster
+    std::vector<float> MergeTo;        ///< place of the lower cluster
+    std::vector<float> MergeSumSquare; ///< height; never falls along a branch, so the last is the highest
 
     int merges() const { return static_cast<int>(MergeSumSquare.size()) - 1; }
 };

@@ -97,8 +97,9 @@ bool isFamily(const std::string& name)
 
 Scale rowScale(int samples, float width)
 {
-    const auto quarter = static_cast<float>(samples / 4);
-    Scale scale{0, 10 - quarter, width, 2 * quarter + 10.0F * static_cast<float>(samples - 1)};
+    const int quarter = samples / 4;
+    Scale scale{0, static_cast<float>(10 - quarter), width,
+                static_cast<float>(2 * quarter + 10 * (samples - 1))};
     if (samples == 2)
         scale.top = scale.height * 0.975F;
     if (samples == 3)

@@ -44,7 +44,8 @@ void fillShares(PlotData& plot, SheetState& sheet, const std::array<std::int32_t
     std::vector<std::int64_t> sums(static_cast<std::size_t>(samples) + 1);
     for (int slot = 1; slot <= taxonSlots; ++slot)
         for (int sample = 1; sample <= samples; ++sample)
-            sums[sample] += within32Bits(std::int64_t{sheet.Count(sample, slot)} * weights[slot]);
+            sums[sample] +=
+                within32Bits(static_cast<std::int64_t>(sheet.Count(sample, slot)) * weights[slot]);
     for (int sample = 1; sample <= samples; ++sample)
         sheet.Count(sample, 0) = within32Bits(sums[sample]);
     for (int slot = 0; slot <= taxonSlots; ++slot) {

@@ -123,10 +123,12 @@ bool AddSample()
         if (slot > 0)
             setText2(slot, "0");
     }
-    // 11, 12.
+    // 11, 12. An info may have been renamed for the first sample.
     frmMain.Text4.text = sheet.SampleNote(sample, 0) = orDashes(frmNext.Text2.text);
-    for (int item = 1; item <= infoItems; ++item)
+    for (int item = 1; item <= infoItems; ++item) {
+        frmMain.Label10[item].caption = sheet.AdditionalInfo(0, item) = frmNext.Label3[item].caption;
         frmMain.Text5[item].text = sheet.AdditionalInfo(sample, item) = orDashes(frmNext.Text3[item].text);
+    }
     // 13.
     setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";

@@ -33,10 +33,11 @@ std::string pathOfSheet()
     return sheet.TemplateOpened ? std::string() : sheet.SheetPath;
 }
 
-void writeCopy()
+/// False if the counts are not all on disk.
+bool writeCopy()
 {
     if (recoveryCopy.path.empty())
-        return;
+        return false;
     storeShownSample();
     stampHead("Last modified (dd/mm/yyyy):", pathOfSheet(), ports.clock->now());
     fillEmptyCells(sheet, shownCaptions());
@@ -45,11 +46,12 @@ void writeCopy()
     std::string text = dataSheetText(
         sheet, totals.value_or(std::vector<SampleTotals>(static_cast<std::size_t>(sheet.SampleCount) + 1)));
     if (recoveryCopy.onDisk && text == recoveryCopy.written)
-        return;
-    if (ports.files->replace(recoveryCopy.path, text)) {
-        recoveryCopy.onDisk = true;
-        recoveryCopy.written = std::move(text);
-    }
+        return true;
+    if (!ports.files->replace(recoveryCopy.path, text))
+        return false;
+    recoveryCopy.onDisk = true;
+    recoveryCopy.written = std::move(text);
+    return true;
 }
 
 void removeCopy()
@@ -132,8 +134,8 @@ void watchUnsavedWork()
 void RecoveryTimer_Timer()
 {
     recoveryCopy.waiting = false;
-    if (hasUnsavedWork())
-        writeCopy();
+    if (hasUnsavedWork() && !writeCopy())
+        watchUnsavedWork(); // a disk that is full now may have room again before the next key
 }
 
 void copyBeforeOverwriting()

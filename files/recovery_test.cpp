@@ -62,7 +62,11 @@ TEST_F(Recovery, copyIsThereWithinTenSecondsAndGoesWithTheSave)
     EXPECT_EQ(recoveryTimer.starts, 1) << "from the first change, not from the last";
     EXPECT_LE(recoveryTimer.milliseconds, 10000);
     EXPECT_EQ(files.contents.count(copyPath), 0) << "nothing is written inside a key press";
+    files.room = 10;
     timePasses();
+    EXPECT_EQ(files.contents.count(copyPath), 0);
+    files.room = SIZE_MAX;
+    timePasses(); // without another key
     EXPECT_EQ(files.contents.count(copyPath), 1);
     EXPECT_EQ(recoveryTimer.milliseconds, 0) << "an idle program writes nothing";
     dialogs.paths = {"/core.csv"};

@@ -196,4 +196,9 @@ TEST_F(Samples, additionalInfoIsRenamedFromBothWindows)
     EXPECT_EQ(frmNext.Label3[2].caption, ":");
     EXPECT_EQ(frmMain.Label10[2].caption, "Grain size:");
     EXPECT_TRUE(frmNext.visible && !frmMain.enabled && !frmParaName.visible);
+    frmNext_Command5_Click(2);
+    frmParaName.Text1.text = "Volume";
+    frmParaName_Command1_Click();
+    frmNext_Command1_Click();
+    EXPECT_EQ(frmMain.Label10[2].caption, "Volume:") << "taken with the sample";
 }

@@ -23,7 +23,7 @@ public:
     SheetComposer(const SheetState& sheet, int samples, Cells cells)
         : sheet_(sheet), samples_(samples), cells_(cells)
     {
-        fields_.reserve(static_cast<std::size_t>(16000 + 1500 * samples));
+        fields_.reserve(16000 + 1500 * static_cast<std::size_t>(samples));
     }
 
     void heads()

@@ -36,7 +36,7 @@ std::string plainKeyName(int keyCode, char32_t character)
         return {};
     if (character == '"')
         return "'";
-    const std::string name = toCodePage({std::u16string(1, static_cast<char16_t>(character))});
+    std::string name = toCodePage({std::u16string(1, static_cast<char16_t>(character))});
     if (character < 0x10000 && (name != "?" || character == '?'))
         return name;
     return keyName(keyCode);

@@ -35,7 +35,9 @@ bool ReadKeySettings()
 
 const KeySettingTable& knownKeySettings()
 {
-    return hasCounterKey(sheet.KeySetting) ? sheet.KeySetting : deliveredKeySettings();
+    if (hasCounterKey(sheet.KeySetting))
+        return sheet.KeySetting;
+    return deliveredKeySettings();
 }
 
 bool WriteKeySettings(const KeySettingTable& table, bool inForce)

@@ -69,9 +69,8 @@ int movedKeyCode(std::uint32_t keysym)
         return 17; // Control_L, Control_R
     case 0xffe9:
     case 0xffea:
-        return 18; // Alt_L, Alt_R
     case 0xfe03:
-        return 18; // ISO_Level3_Shift
+        return 18; // Alt_L, Alt_R, ISO_Level3_Shift
     case 0xffe5:
         return 20; // Caps_Lock
     case 0xff1b:

@@ -26,7 +26,7 @@ std::int32_t basisTotal(const SheetState& state, int sample,
 {
     std::int64_t total = 0;
     for (int slot = 1; slot <= taxonSlots; ++slot)
-        total += within32Bits(std::int64_t{state.Count(sample, slot)} * weights[slot]);
+        total += within32Bits(static_cast<std::int64_t>(state.Count(sample, slot)) * weights[slot]);
     return within32Bits(total);
 }
 

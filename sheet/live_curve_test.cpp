@@ -110,7 +110,7 @@ TEST(LongCurve, isDrawnWithNoMoreLinesThanPixelsAndLooksTheSame)
             sum += line.x2 - line.x1;
         return sum;
     };
-    EXPECT_NEAR(extent(reduced), extent(whole), 3 * 10 * total / columns) << "no gaps but the curve's own";
+    EXPECT_NEAR(extent(reduced), extent(whole), 30.0 * total / columns) << "no gaps but the curve's own";
     const auto expected = silhouette(whole, total, columns);
     const auto drawn = silhouette(reduced, total, columns);
     for (int column = 0; column <= columns; ++column)

@@ -1,5 +1,6 @@
 """The manual is whole: every link, picture and place in a page that its pages name exists, every page can be reached
-from its contents, no picture is left over, and no page leads out of the folder that is delivered with the program."""
+from its contents, no picture is left over or would show at another size than that of the window it was made from, and
+no page leads out of the folder that is delivered with the program."""
 
 import re
 import sys
@@ -50,6 +51,8 @@ for page in (docs / "manual").glob("*.md"):
 for picture in (docs / "manual/pictures").glob("*"):
     if picture not in pictures:
         faults.append(f"{picture.name} is in no page")
+    if b"pHYs" not in picture.read_bytes().partition(b"IDAT")[0]:
+        faults.append(f"{picture.name} does not tell its density; tools/screenshots makes pictures that do")
 
 print("\n".join(faults))
 sys.exit(1 if faults else 0)

@@ -13,7 +13,7 @@ std::string RandomDialogs::fileToOpen()
             sheets.push_back(path);
     if (sheets.empty() || chance_.oneIn(20))
         return "/home/missing.csv";
-    const std::string path = chance_.oneOf(sheets);
+    std::string path = chance_.oneOf(sheets);
     if (!chance_.oneIn(4))
         return path;
     files_.contents["/home/broken.csv"] = brokenFile(files_.contents[path], chance_);

@@ -195,6 +195,12 @@ std::string keptCaption(int item)
     return caption.empty() ? "Additional info-" + decimalText(item) : caption;
 }
 
+/// A name as good as none becomes the sign for none with the next sum.
+std::string keptName(const std::string& name)
+{
+    return name.empty() || name == "-" || name == "--" || name == " " || name == "  " ? "---" : name;
+}
+
 } // namespace
 
 bool isFormOpen()
@@ -222,8 +228,8 @@ std::size_t keptInFile()
         kept.add(sheet.SheetHeader[2][column]);
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         const TaxonFields& taxon = sheet.TaxonRecord[slot];
-        for (const std::string* field : {&taxon.Subtotal1, &taxon.Subtotal2, &taxon.Name})
-            kept.add(*field);
+        for (const std::string& field : {taxon.Subtotal1, taxon.Subtotal2, keptName(taxon.Name)})
+            kept.add(field);
         kept.add(static_cast<std::size_t>(sheet.KeyIndexOfRow[slot]));
         for (int sample = 1; sample <= sheet.SampleCount; ++sample)
             kept.add(static_cast<std::size_t>(sheet.Count(sample, slot)));

@@ -49,19 +49,19 @@ private:
     void onEvent(const std::function<void()>& handler);
 
     MainWindow& main_;
-    QLabel* notice_;
-    SurfaceView* diagram_;
-    SurfaceView* dendrogram_;
-    SurfaceView* names_;
-    QWidget* strip_;
-    QFrame* parting_;
-    QScrollBar* scroll_;
-    QSlider* sample_;
+    QLabel* notice_ = nullptr;
+    SurfaceView* diagram_ = nullptr;
+    SurfaceView* dendrogram_ = nullptr;
+    SurfaceView* names_ = nullptr;
+    QWidget* strip_ = nullptr;
+    QFrame* parting_ = nullptr;
+    QScrollBar* scroll_ = nullptr;
+    QSlider* sample_ = nullptr;
     QSlider* zoom_ = nullptr;
     QWidget* move_ = nullptr; ///< what was moved from where to where
-    QWidget* panel_;
-    QWidget* buttons_;
-    QWidget* corner_;
+    QWidget* panel_ = nullptr;
+    QWidget* buttons_ = nullptr;
+    QWidget* corner_ = nullptr;
     QCheckBox* check_ = nullptr;
     QMenu* diagramMenu_ = nullptr;    ///< RB1
     QMenu* dendrogramMenu_ = nullptr; ///< RBConiss

@@ -45,6 +45,8 @@ void FormWindow::present()
         move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());
     if (shouldShow_ && first_ != nullptr)
         first_->setFocus();
+    if (auto* const box = qobject_cast<QLineEdit*>(first_); shouldShow_ && box != nullptr)
+        box->selectAll(); // typing replaces what it holds
     if (!shouldShow_ && QApplication::activeModalWidget() == nullptr)
         main_.activateWindow(); // a question in between may have left the keyboard with no window at all
 }

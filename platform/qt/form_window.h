@@ -47,11 +47,11 @@ protected:
     MainWindow& mainWindow() const { return main_; }
     /// A check box or a radio button. A click runs the handler, and `marked` tells what shows.
     template <class Widget>
-    Widget* mark(const QString& name, const bool& marked, std::function<void()> clicked)
+    Widget* mark(const QString& name, const bool& marked, const std::function<void()>& clicked)
     {
         auto* const made = new Widget(this);
         made->setObjectName(name);
-        bindMark(made, marked, std::move(clicked));
+        bindMark(made, marked, clicked);
         return made;
     }
     /// What present() brings up to date beside the boxes.

@@ -55,8 +55,8 @@ void KeyMap::add(QLineEdit* box, const KeyBox& record)
 
 void KeyMap::present()
 {
-    const auto x = [this](int twips) { return static_cast<int>(twips * across_ + 0.5); };
-    const auto y = [this](int twips) { return static_cast<int>(twips * down_ + 0.5); };
+    const auto x = [this](int twips) { return qRound(twips * across_); };
+    const auto y = [this](int twips) { return qRound(twips * down_); };
     for (const Entry& entry : entries_) {
         const QRect place(x(entry.record->left), y(entry.record->top), x(keyBoxWidth), y(keyBoxHeight));
         if (place != entry.box->geometry())

@@ -22,6 +22,7 @@
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -30,6 +31,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -249,7 +251,7 @@ void MainWindow::scaleFont()
     const double scale =
         std::min(width() / double(designSize.width()), height() / double(designSize.height()));
     QFont letters = font();
-    letters.setPixelSize(std::max(9, static_cast<int>(designLetters * scale + 0.5)));
+    letters.setPixelSize(std::max(9, qRound(designLetters * scale)));
     if (letters == centralWidget()->font())
         return;
     centralWidget()->setFont(letters);

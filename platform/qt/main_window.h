@@ -99,7 +99,7 @@ private:
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QPlainTextEdit* location_ = nullptr;  ///< Text6
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
-    QLineEdit* enteredByMouse_ = nullptr; ///< a count box that is selected when the button comes up
+    QLineEdit* enteredByMouse_ = nullptr; ///< a box that is selected when the button comes up
     std::array<QLabel*, 3> hundredMarks_{};
     QAbstractButton* percent_ = nullptr; ///< Command6
     QComboBox* samples_ = nullptr;       ///< Combo2

@@ -47,6 +47,12 @@ void makeEditable(QLineEdit* box, bool editable)
         box->deselect();
 }
 
+/// What stands in the box of a row without a taxon, and of a sheet without a sample.
+bool isNoName(const std::string& name)
+{
+    return name == "---" || name == "-9999";
+}
+
 QPalette modifyColours(QPalette colours, Colour sheet)
 {
     const QColor back(sheet.red, sheet.green, sheet.blue);
@@ -132,9 +138,10 @@ void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)
         else if (name == "Text5")
             Text5_GotFocus(index);
     });
-    // Typing replaces a count. Tab selects by itself; of a click, the press would take the selection away.
-    enteredByMouse_ =
-        name == "Text2" && reason == Qt::MouseFocusReason ? static_cast<QLineEdit*>(box) : nullptr;
+    // Typing replaces a count, and what stands for a name. Tab selects by itself; of a click, the press would
+    // take the selection away.
+    const bool replaced = name == "Text2" || (name == "Text1" && isNoName(frmMain.Text1[index].text));
+    enteredByMouse_ = replaced && reason == Qt::MouseFocusReason ? static_cast<QLineEdit*>(box) : nullptr;
 }
 
 void MainWindow::presentMode()

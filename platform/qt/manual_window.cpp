@@ -16,6 +16,10 @@
 #include <QTextTable>
 #include <QToolBar>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 /// The page with the list of all others, or an empty address.
 static QUrl contentsPage()
 {
@@ -37,34 +41,44 @@ public:
         setFrameShape(QFrame::NoFrame);
         setOpenLinks(true);
         document()->setDocumentMargin(24);
+        // Told of each page, also of those that Back and Forward bring.
+        connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
+            layOutHeadings();
+            layOutTables();
+            showLinks();
+            scrollToAnchor(page.fragment());
+        });
     }
 
 protected:
-    void doSetSource(const QUrl& page, QTextDocument::ResourceType type) override
-    {
-        QTextBrowser::doSetSource(page, type);
-        nameHeadings();
-        layOutTables();
-        scrollToAnchor(page.fragment());
-    }
-
     QVariant loadResource(int type, const QUrl& name) override
     {
-        const QVariant found = QTextBrowser::loadResource(type, name);
+        QVariant found = QTextBrowser::loadResource(type, name);
         if (type != QTextDocument::ImageResource || found.typeId() != QMetaType::QByteArray)
             return found;
-        constexpr int widest = 780;
-        const QImage picture = QImage::fromData(found.toByteArray());
-        return picture.width() > widest ? picture.scaledToWidth(widest, Qt::SmoothTransformation) : picture;
+        constexpr double widest = 780;
+        constexpr double dotsPerMetre = 96 / 0.0254;
+        const QImage picture =
+            QImage::fromData(found.toByteArray()).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        if (picture.isNull())
+            return picture;
+        // Pictures may have more pixels than they are to be wide; their density tells. Each gets as many as
+        // the screen has for it, so that the screen need not stretch it.
+        const double width = std::min(widest, picture.width() * dotsPerMetre / picture.dotsPerMeterX());
+        QImage shown = picture.scaledToWidth(qRound(width * devicePixelRatioF()), Qt::SmoothTransformation);
+        shown.setDevicePixelRatio(devicePixelRatioF());
+        return shown;
     }
 
 private:
-    /// A heading is named as links name it: "Number pads, keypads" is "number-pads-keypads".
-    void nameHeadings()
+    /// Room above each; and a name as links name it: "Number pads, keypads" is "number-pads-keypads".
+    void layOutHeadings()
     {
+        constexpr int room[] = {0, 0, 22, 14}; // by level; the first one stands at the top
         static const QRegularExpression signs("[^\\w -]", QRegularExpression::UseUnicodePropertiesOption);
         for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-            if (block.blockFormat().headingLevel() == 0)
+            const int level = block.blockFormat().headingLevel();
+            if (level == 0)
                 continue;
             QTextCharFormat named;
             named.setAnchor(true);
@@ -72,6 +86,32 @@ private:
             QTextCursor whole(block);
             whole.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
             whole.mergeCharFormat(named);
+            QTextBlockFormat apart;
+            apart.setTopMargin(room[std::min(level, 3)]);
+            apart.setBottomMargin(6);
+            whole.mergeBlockFormat(apart);
+        }
+    }
+
+    /// Many dark themes leave links dark blue.
+    void showLinks()
+    {
+        QColor colour = palette().color(QPalette::Link);
+        if (palette().color(QPalette::Base).lightness() < 128 && colour.lightness() < 160)
+            colour.setHsl(colour.hslHue(), colour.hslSaturation(), 190);
+        QTextCharFormat shown;
+        shown.setForeground(colour);
+        shown.setFontUnderline(true);           // a colour alone is not enough for every eye
+        std::vector<std::pair<int, int>> links; // found first: a change may join one to what stands beside it
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (const QTextFragment text = part.fragment(); !text.charFormat().anchorHref().isEmpty())
+                    links.emplace_back(text.position(), text.position() + text.length());
+        for (const auto& [begin, end] : links) {
+            QTextCursor link(document());
+            link.setPosition(begin);
+            link.setPosition(end, QTextCursor::KeepAnchor);
+            link.mergeCharFormat(shown);
         }
     }
 
@@ -88,6 +128,8 @@ private:
             format.setBorderBrush(palette().mid());
             format.setCellSpacing(0);
             format.setCellPadding(4);
+            format.setTopMargin(6);
+            format.setBottomMargin(10);
             table->setFormat(format);
         }
     }

@@ -1,19 +1,14 @@
 #include "platform/qt/program_folder.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 
-static void copyMissing(const QString& from, const QString& to)
+static void copyMissing(const QString& from, const QString& to, const QStringList& names)
 {
-    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = files.next();
-        const QString target = to + source.mid(from.size());
-        if (QFileInfo::exists(target))
-            continue;
-        QDir().mkpath(QFileInfo(target).path());
-        if (QFile::copy(source, target))
+    QDir().mkpath(to);
+    for (const QString& name : names) {
+        const QString target = to + '/' + name;
+        if (!QFileInfo::exists(target) && QFile::copy(from + '/' + name, target))
             QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
     }
 }
@@ -26,8 +21,11 @@ QString programFolder(const QString& executableFolder, const QString& userFolder
 
     const QString delivered =
         beside.isDir() ? executableFolder : QDir::cleanPath(executableFolder + "/../share/tallystrata");
-    for (const char* folder : {"/References", "/Sound files"})
-        copyMissing(delivered + folder, userFolder + folder);
+    // By name: in a folder that was in use (a stick, now write-protected) backups and unsaved work lie beside
+    // them.
+    copyMissing(delivered + "/References", userFolder + "/References", {"KeySetting.csv", "My_favorite.jpg"});
+    const QString sounds = "/Sound files";
+    copyMissing(delivered + sounds, userFolder + sounds, QDir(delivered + sounds).entryList(QDir::Files));
     QDir().mkpath(userFolder + "/References/Back up files");
-    return userFolder;
+    return QFileInfo(userFolder + "/References").isDir() ? userFolder : delivered;
 }

@@ -77,11 +77,21 @@ bool RealFiles::remove(const std::string& path)
     return QFile::remove(QString::fromStdString(path));
 }
 
+/// On a stick that was carried here a crash on another machine may have left its lock, which looks held. What
+/// a living program holds cannot be removed, on a shared drive either.
+static bool removedAsLeft(QLockFile& lock)
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.getLockInfo(&process, &host, &program) && lock.removeStaleLockFile();
+}
+
 bool RealFiles::claim(const std::string& path)
 {
     auto lock = std::make_unique<QLockFile>(QString::fromStdString(path + ".lock"));
     lock->setStaleLockTime(0); // only that of a program that runs no more is taken over, however old
-    if (!lock->tryLock())
+    if (!lock->tryLock() && !(removedAsLeft(*lock) && lock->tryLock()))
         return false;
     claims_[path] = std::move(lock);
     return true;

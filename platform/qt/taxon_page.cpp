@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 
@@ -49,7 +50,7 @@ TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
 
 QRect TaxonPage::scaled(int left, int top, int width, int height) const
 {
-    const auto pixels = [this](int twips) { return static_cast<int>(twips * pixelsPerTwip_ + 0.5); };
+    const auto pixels = [this](int twips) { return qRound(twips * pixelsPerTwip_); };
     return {QPoint(leftMargin_ + pixels(left), pixels(top)),
             QPoint(leftMargin_ + pixels(left + width) - 1, pixels(top + height) - 1)};
 }
@@ -94,7 +95,7 @@ void TaxonPage::placeCells()
 void TaxonPage::sizeLetters(QWidget* widget, int points) const
 {
     QFont letters = widget->font();
-    letters.setPixelSize(std::max(1, static_cast<int>(points * twipsPerPoint * pixelsPerTwip_ + 0.5)));
+    letters.setPixelSize(std::max(1, qRound(points * twipsPerPoint * pixelsPerTwip_)));
     if (letters != widget->font())
         widget->setFont(letters);
 }
