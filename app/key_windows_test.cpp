@@ -103,6 +103,29 @@ TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
     EXPECT_TRUE(file.readAll().contains("\"[Left]\",\"37\",\"27\"\r\n"));
 }
 
+TEST_F(KeyWindows, aCaptureBoxIsEnteredAndLeftWithoutAMouse)
+{
+    QWidget* const form = open("mnuKeyCodeReader", "frmKeyCode");
+    QWidget* const box = form->findChild<QWidget*>("Text1(27)");
+    box->setFocus(Qt::TabFocusReason);
+    const std::string before = key27();
+    EXPECT_EQ(before, ". 190") << "Tab coming by empties nothing";
+    tap(tab);
+    ASSERT_TRUE(waitFor([&] { return !box->hasFocus(); }));
+    box->setFocus(Qt::TabFocusReason);
+    tap(enter);
+    ASSERT_TRUE(waitFor([] { return frmKeyCode.Text1[27].text.empty(); }));
+    tapWith({leftShift}, tab); // both are taken, and the last one holds
+    ASSERT_TRUE(waitFor([] { return key27() == "[Tab] 9"; }));
+    ASSERT_TRUE(box->hasFocus() && form->isActiveWindow());
+    settle(40);
+    tap(tab);
+    EXPECT_TRUE(waitFor([&] { return !box->hasFocus(); })) << "one key was all";
+    EXPECT_EQ(key27(), "[Tab] 9");
+    tap(escape);
+    EXPECT_TRUE(waitFor([] { return !frmKeyCode.visible; }));
+}
+
 /// The program as it is started for the first time.
 class FirstStart : public KeyWindows {
 protected:

@@ -1,5 +1,6 @@
 #include "app/program.h"
 #include "core/version.h"
+#include "platform/qt/legible_style.h"
 #include "platform/qt/program_folder.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@ int main(int argc, char* argv[])
     QApplication::setApplicationVersion(programVersion);
     QApplication::setDesktopFileName("org.tallystrata.TallyStrata");
     QApplication::setWindowIcon(programIcon());
+    QApplication::setStyle(new LegibleStyle);
     Program program(programFolder(QApplication::applicationDirPath(),
                                   QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
     return QApplication::exec();

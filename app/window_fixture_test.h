@@ -28,11 +28,11 @@ protected:
         ASSERT_TRUE(window->isActiveWindow());
     }
 
-    /// Runs the event loop until `done` holds, for two seconds at most.
+    /// Runs the event loop until `done` holds, for ten seconds at most: the machine may be busy.
     template <class Condition>
     static bool waitFor(Condition done)
     {
-        const QDeadlineTimer deadline(2000);
+        const QDeadlineTimer deadline(10000);
         while (!done() && !deadline.hasExpired())
             QApplication::processEvents(QEventLoop::AllEvents, 5);
         return done();

@@ -19,11 +19,23 @@ static void keep(bool isDown, int keyCode, unsigned physicalKey)
 void mnuDiagnose_Click()
 {
     frmDiagnose.keys.clear();
+    frmDiagnose.takesKeys = true;
     openAboveMain(frmDiagnose.visible);
+}
+
+/// Else a hand without a mouse would never get out.
+static bool isSecondEscape(int keyCode)
+{
+    constexpr int escape = 27;
+    if (keyCode != escape || frmDiagnose.keys.empty())
+        return false;
+    const SeenKey& before = frmDiagnose.keys.back();
+    return before.code == escape && !before.isDown; // a held one repeats without coming up
 }
 
 void frmDiagnose_KeyDown(int keyCode)
 {
+    frmDiagnose.takesKeys = !isSecondEscape(keyCode);
     layerKeyDown(keyCode);
     keep(true, keyCode, 0);
 }

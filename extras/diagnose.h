@@ -9,6 +9,7 @@ struct DiagnoseForm {
     static constexpr std::size_t keysKept = 24;
 
     bool visible = false;
+    bool takesKeys = true;     ///< until Esc twice in a row hands them to the buttons
     std::vector<SeenKey> keys; ///< the latest, oldest first
 };
 extern DiagnoseForm frmDiagnose;

@@ -14,9 +14,10 @@ namespace {
 
 constexpr int textWidth = 560;
 
-QString row(const QString& label, const QString& text)
+QString row(QString label, const QString& text)
 {
-    return "<tr><td style='padding-right:14px'>" + label + "</td><td>" + text.toHtmlEscaped() + "</td></tr>";
+    return "<tr><td style='padding-right:14px'>" + label.replace(' ', "&nbsp;") + "</td><td>" +
+           text.toHtmlEscaped() + "</td></tr>";
 }
 
 /// %1 version, %2 that of Qt, %3 that of SDL, %4 rows of folders.

@@ -7,7 +7,8 @@ class MainWindow;
 
 /// A box that takes the keys themselves: whatever is pressed in it, Tab, Enter, Esc, arrows and shortcuts
 /// included, reaches its handlers and nothing else. KeyInput hands it each key once, however long it is held.
-/// It is entered by the mouse: Tab would get in and never out again.
+/// Tab only comes by: the box takes keys from a click on it, or from Enter or Space when it has the focus. In
+/// the latter case one key is all, and Tab goes on.
 class CaptureBox : public QLineEdit {
 public:
     struct Handlers {
@@ -17,15 +18,27 @@ public:
     };
     CaptureBox(MainWindow& main, Handlers handlers);
 
+    /// False while Tab has only come by.
+    bool takesKeys() const { return !comesBy_; }
+    /// Does a visit begin when the focus comes for this reason?
+    static bool beginsVisit(Qt::FocusReason reason);
+
     /// `typed`: what the key types, empty if nothing.
     void keyWentDown(int keyCode, const QString& typed);
     void keyCameUp(int keyCode);
 
 protected:
     bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 private:
+    void comeAnew(Qt::FocusReason reason);
+
     MainWindow& main_;
     Handlers handlers_;
+    bool comesBy_ = false;
+    bool leavesAfterKey_ = false;
+    int lastDown_ = 0;
 };

@@ -36,22 +36,20 @@ DiagnoseWindow::DiagnoseWindow(MainWindow& main)
     report_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
     copied_ = new QLabel;
-    QPushButton* const copy = button("Command1", "Copy", [this] {
+    copy_ = button("Command1", "Copy", [this] {
         QGuiApplication::clipboard()->setText(report_->toPlainText());
         copied_->setText("Copied to the clipboard.");
     });
-    QPushButton* const close = button("Command2", "Close", frmDiagnose_Command2_Click);
-    for (QPushButton* const one : {copy, close})
-        one->setFocusPolicy(Qt::NoFocus); // keys belong to the diagnosis
+    close_ = button("Command2", "Close", frmDiagnose_Command2_Click);
     auto* const foot = new QHBoxLayout;
     foot->addWidget(copied_, 1);
-    foot->addWidget(copy);
-    foot->addWidget(close);
+    foot->addWidget(copy_);
+    foot->addWidget(close_);
 
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(
-        new QLabel("Press keys: they show here what they send and what they would do, and count nothing. "
-                   "The window closes by the mouse."));
+        new QLabel("Press keys: they show here what they send and what they would do, and count nothing.\n"
+                   "Esc twice in a row hands the keyboard to the buttons."));
     whole->addWidget(key_);
     whole->addWidget(meaning_);
     whole->addWidget(report_, 1);
@@ -80,6 +78,12 @@ void DiagnoseWindow::presentLastKey()
 
 void DiagnoseWindow::presentMore()
 {
+    for (QPushButton* const one : {copy_, close_}) {
+        one->setFocusPolicy(frmDiagnose.takesKeys ? Qt::NoFocus : Qt::StrongFocus);
+        one->setAutoDefault(!frmDiagnose.takesKeys); // for Enter
+    }
+    if (!frmDiagnose.takesKeys && !copy_->hasFocus() && !close_->hasFocus())
+        close_->setFocus(Qt::TabFocusReason); // shows its frame
     if (isVisible() && frmDiagnose.keys == shownKeys_)
         return;
     shownKeys_ = frmDiagnose.keys;

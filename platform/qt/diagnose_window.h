@@ -19,6 +19,8 @@ private:
     QLabel* key_;
     QLabel* meaning_;
     QLabel* copied_;
+    QPushButton* copy_;
+    QPushButton* close_;
     QPlainTextEdit* report_;
     std::vector<SeenKey> shownKeys_;
 };

@@ -108,6 +108,7 @@ SurfaceView* DiagramWindow::picture(const char* name, Surface& surface, const QS
     view->setObjectName(name);
     view->setAccessibleName(accessibleName);
     view->setMouseTracking(true);
+    view->setFocusPolicy(Qt::TabFocus);
     view->installEventFilter(this);
     return view;
 }
@@ -154,8 +155,8 @@ QWidget* DiagramWindow::samplePanel()
     names->setAccessibleName("Choose a sample");
     names->setEditable(true);
     names->lineEdit()->setReadOnly(true);
-    names->lineEdit()->setFocusPolicy(Qt::NoFocus);
-    names->setFocusPolicy(Qt::NoFocus);
+    names->lineEdit()->setAccessibleName("Choose a sample");
+    names->setFocusPolicy(Qt::TabFocus);
     names->setInsertPolicy(QComboBox::NoInsert);
     names->setCompleter(nullptr);
     names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -189,6 +190,8 @@ QWidget* DiagramWindow::corner()
             [this](int value) { onEvent([&] { Slider2_Change(value); }); });
     auto* const zoomLabel = new QLabel("Zoom");
     zoomLabel->setBuddy(zoom_);
+    for (QWidget* const part : {static_cast<QWidget*>(zoomLabel), static_cast<QWidget*>(zoom_)})
+        part->setAutoFillBackground(true); // the paper of the names reaches under it, white in a dark theme
     grid->addWidget(zoomLabel, 0, 0, 1, 2);
     grid->addWidget(zoom_, 1, 0, 1, 2);
     grid->setRowStretch(2, 1);
@@ -291,8 +294,14 @@ void DiagramWindow::presentScales()
     const QSignalBlocker quietZoom(zoom_);
     zoom_->setValue(f.Slider2.value);
     check_->setChecked(f.Check1.checked);
-    if (const QString caption = shownText(f.Check1.caption).replace('&', "&&"); caption != check_->text())
+    const QString sample = shownText(f.Check1.caption);
+    constexpr int besideName = 36; // the tick and the margins
+    const QString name =
+        check_->fontMetrics().elidedText(sample, Qt::ElideRight, pixels(f.frame3Place.width) - besideName);
+    if (const QString caption = QString(name).replace('&', "&&"); caption != check_->text())
         check_->setText(caption);
+    if (const QString said = "Line at sample " + sample; said != check_->accessibleName())
+        check_->setAccessibleName(said);
     if (const QString notice = shownText(f.notice); notice != notice_->text())
         notice_->setText(notice);
 }
@@ -361,6 +370,9 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
         if (target == centralWidget())
             resized();
         return false;
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+        return (isPicture || target == names_) && keyOnPicture(static_cast<SurfaceView*>(target), *event);
     case QEvent::Wheel: // a turn on the way elsewhere must not change the sample
         return qobject_cast<QComboBox*>(target) != nullptr;
     case QEvent::MouseMove:

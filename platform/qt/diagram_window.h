@@ -45,6 +45,7 @@ private:
     void takeSize(QSize wanted);
     void presentScales();
     bool pictureEvent(SurfaceView* view, QMouseEvent& event);
+    bool keyOnPicture(SurfaceView* view, QEvent& event);
     void onEvent(const std::function<void()>& handler);
 
     MainWindow& main_;

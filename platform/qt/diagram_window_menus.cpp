@@ -1,13 +1,17 @@
-// The menus of the diagram window: its bar and the pop-ups of its pictures.
+// The menus of the diagram window: its bar and the pop-ups of its pictures, and the keys that these take.
 
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_window.h"
 #include "diagram/figures.h"
 #include "platform/qt/diagram_window.h"
+#include "platform/qt/menu_key.h"
+#include "platform/qt/surface_view.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
+#include <utility>
 
 namespace {
 
@@ -106,4 +110,28 @@ void DiagramWindow::makePopups()
     eof->addSeparator();
     entry(*eof, "mnuSaveEOF", "&Save This EOF Only", mnuSaveEOF_Click);
     entry(*eof, "mnuSaveAllEOF", "Save &All EOF", mnuSaveAllEOF_Click);
+}
+
+/// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
+bool DiagramWindow::keyOnPicture(SurfaceView* view, QEvent& event)
+{
+    if (asksForMenu(event)) {
+        QMenu* const menu = view == diagram_ ? diagramMenu_ : view == names_ ? namesMenu_ : dendrogramMenu_;
+        menu->popup(view->mapToGlobal(view->rect().center()));
+        return true;
+    }
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    constexpr std::pair<int, QAbstractSlider::SliderAction> scrolls[] = {
+        {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
+        {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+        {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd}};
+    for (const auto& [key, action] : scrolls)
+        if (static_cast<QKeyEvent&>(event).key() == key) {
+            scroll_->triggerAction(action);
+            view->setFocus(Qt::TabFocusReason); // the next arrow scrolls too, and changes no sample
+            return true;
+        }
+    return false;
 }

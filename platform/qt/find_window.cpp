@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr QSize keySize(48, 24);
+constexpr QSize keySize(42, 24);
 
 /// Row and column of a grid position in the key map, from the places of the sheet's cells. A column without
 /// keys lies between the blocks.
@@ -40,7 +40,7 @@ FindWindow::FindWindow(MainWindow& main)
     // No box of the sheet: what is typed here goes into no file, so it keeps to no character rule.
     text_ = new QLineEdit;
     text_->setObjectName("Text1");
-    text_->setMinimumWidth(220);
+    text_->setMinimumWidth(180);
     text_->installEventFilter(this);
     connect(text_, &QLineEdit::textEdited, this, [this](const QString& text) {
         main_.onEvent([&] {
@@ -87,6 +87,7 @@ QWidget* FindWindow::keyMap()
     map->setAccessibleName("Key map");
     keySink_ = new QWidget(map);
     keySink_->setObjectName(indexed("Command1", 0));
+    keySink_->setAccessibleName("Key map");
     keySink_->setFocusPolicy(Qt::ClickFocus);
     keySink_->setGeometry(0, 0, 1, 1);
     for (int place = 1; place <= 51; ++place) {
@@ -161,6 +162,7 @@ void FindWindow::presentKeyMap()
         const bool toTake = record.backColor != frmFind.Command1[0].backColor;
         QFont letters = font();
         letters.setBold(toTake); // colour alone is not enough for every eye
+        key.setAccessibleDescription(toTake ? "Counts what was found" : "");
         const int room = keySize.width() - 8;
         if (const int wide = QFontMetrics(letters).horizontalAdvance(key.text());
             place <= keysPerLayer && wide > room)

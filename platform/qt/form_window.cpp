@@ -3,12 +3,15 @@
 #include "core/character_rule.h"
 #include "core/editing.h"
 #include "core/sheet_state.h"
+#include "platform/qt/capture_box.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
 #include <QApplication>
 #include <QFocusEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -35,6 +38,8 @@ void FormWindow::present()
         return;
     if (!shouldShow_)
         visited_ = nullptr;
+    if (shouldShow_ && (layout() == nullptr || layout()->sizeConstraint() != QLayout::SetFixedSize))
+        resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
     setVisible(shouldShow_);
     if (shouldShow_ && !main_.isVisible())
         move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());
@@ -108,8 +113,10 @@ QPushButton* FormWindow::button(const QString& name, const QString& caption, std
 
 QLabel* FormWindow::label(const QString& name, const std::string& caption)
 {
-    auto* const made = new QLabel(this);
+    auto* const made = new ElidedLabel;
+    made->setParent(this);
     made->setObjectName(name);
+    made->setMaximumWidth(360); // captions of additional info are the user's own
     shows_ += [made, &caption] { made->setText(shownText(caption)); };
     return made;
 }
@@ -145,13 +152,17 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
     const auto handlers = focusHandlers_.constFind(target);
     if (handlers == focusHandlers_.constEnd())
         return false;
-    if (event->type() == QEvent::FocusIn && visited_ != target) {
+    const auto comesBy = [target, event] { // Tab, on its way over boxes that take any key
+        return dynamic_cast<CaptureBox*>(target) != nullptr &&
+               !CaptureBox::beginsVisit(static_cast<QFocusEvent&>(*event).reason());
+    };
+    if (event->type() == QEvent::FocusIn && visited_ != target && !comesBy()) {
         visited_ = target;
         sheet.LastKeyDown = noKeyYet;
         if (handlers->first)
             main_.onEvent(handlers->first);
     }
-    if (event->type() == QEvent::FocusOut) {
+    if (event->type() == QEvent::FocusOut && visited_ == target) {
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
         const bool lasts = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
         if (shouldShow_ && lasts)

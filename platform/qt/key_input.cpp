@@ -79,7 +79,8 @@ static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
 /// The diagnose window is in front: it is shown all keys, and no button of it takes one.
 static bool isForDiagnosis(const QObject* target)
 {
-    return frmDiagnose.visible && target->isWindowType() && QApplication::activePopupWidget() == nullptr;
+    return frmDiagnose.visible && frmDiagnose.takesKeys && target->isWindowType() &&
+           QApplication::activePopupWidget() == nullptr;
 }
 
 /// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.
@@ -107,7 +108,8 @@ bool KeyInput::takesKey(QKeyEvent& event)
 
 static CaptureBox* captureBox()
 {
-    return dynamic_cast<CaptureBox*>(QApplication::focusWidget());
+    auto* const box = dynamic_cast<CaptureBox*>(QApplication::focusWidget());
+    return box != nullptr && box->takesKeys() ? box : nullptr;
 }
 
 /// True if the key is for a capture box, or still that of one.

@@ -23,8 +23,9 @@ private:
         const KeyBox* record;
     };
     QList<Entry> entries_;
-    double pixelsPerTwip_;
+    double across_; ///< pixels per twip
+    double down_;
 };
 
-/// Letters of a box, in red while a commit has found it equal to another.
+/// Letters of a box, red and bold while a commit has found it equal to another.
 void showRed(QWidget& box, bool red);

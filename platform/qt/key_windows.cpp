@@ -30,6 +30,13 @@ QLineEdit* readBox(const QString& name)
     return box;
 }
 
+/// Of a box that takes a key.
+void tellHowToUse(CaptureBox& box)
+{
+    box.setToolTip("Click here, or come by Tab and press Enter; then press the key");
+    box.setAccessibleDescription("Press Enter, then the key");
+}
+
 /// A box in which a number is typed. Enter leaves it and does no more, so that "OK" finds the number tested.
 class NumberBox : public QLineEdit {
 public:
@@ -58,6 +65,7 @@ KeyCodeWindow::KeyCodeWindow(MainWindow& main)
 
     pages_ = new QTabWidget;
     pages_->setObjectName("SSTab1");
+    pages_->setAccessibleName("Key maps");
     pages_->addTab(definitionPage(), "Key definition");
     pages_->addTab(codePage(), "Key code");
     pages_->addTab(numberPage(), "Key number");
@@ -115,10 +123,12 @@ QWidget* KeyCodeWindow::definitionPage()
     for (int key = 1; key <= lastKeyBox; ++key) {
         QLineEdit* box = nullptr;
         if (key <= keysPerLayer) {
-            box = new CaptureBox(mainWindow(),
-                                 {[key](int code) { frmKeyCode_Text1_KeyDown(key, code); },
-                                  [key](char32_t character) { frmKeyCode_Text1_KeyPress(key, character); },
-                                  [key](int code) { frmKeyCode_Text1_KeyUp(key, code); }});
+            auto* const taking = new CaptureBox(
+                mainWindow(), {[key](int code) { frmKeyCode_Text1_KeyDown(key, code); },
+                               [key](char32_t character) { frmKeyCode_Text1_KeyPress(key, character); },
+                               [key](int code) { frmKeyCode_Text1_KeyUp(key, code); }});
+            tellHowToUse(*taking);
+            box = taking;
             box->setObjectName(indexed("Text1", key));
             watchVisits(
                 box, [key] { frmKeyCode_Text1_GotFocus(key); }, [key] { frmKeyCode_Text1_LostFocus(key); });
@@ -153,7 +163,9 @@ QWidget* KeyCodeWindow::codePage()
     auto* const rows = new QGridLayout(page);
     rows->addWidget(fixedText(indexed("Label7", 4), "Place the cursor in the box and press [F1] key: "), 0,
                     0);
-    rows->addWidget(functionBox(4), 0, 1);
+    CaptureBox* const functionRow = functionBox(4);
+    functionRow->setAccessibleName("[F1] key, for the nine function keys from it on");
+    rows->addWidget(functionRow, 0, 1);
     rows->addWidget(fixedText("Label1", "Key code: "), 0, 3);
     rows->addWidget(label("Label2", frmKeyCode.Label2.caption), 0, 4);
     rows->addWidget(framed("Frame2", "Key code map (automatically linked to the definition map)", map), 1, 0,
@@ -201,6 +213,7 @@ CaptureBox* KeyCodeWindow::functionBox(int function)
     watchVisits(
         box, [function] { frmKeyCode_Text4_GotFocus(function); },
         [function] { frmKeyCode_Text4_LostFocus(function); });
+    tellHowToUse(*box);
     functions_[function] = box;
     return box;
 }

@@ -20,7 +20,6 @@
 #include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "platform/qt/text.h"
-#include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
 
@@ -34,9 +33,11 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <QToolTip>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -45,6 +46,7 @@ namespace {
 
 constexpr QSize designSize(1000, 700);
 constexpr int designLetters = 12; // pixels
+constexpr QSize frameRoom(8, 40); // what a window manager puts around the window
 
 /// Text99: takes the focus and no text, so that no input method looks at the keys.
 class FocusSink : public QWidget {
@@ -73,8 +75,12 @@ void keepDisabledTextsLegible(QWidget& widget)
 MainWindow::MainWindow()
 {
     setObjectName("frmMain");
-    setMinimumSize(designSize * 0.85);
-    resize(designSize);
+    setMinimumSize(designSize * 0.65);
+    const QRect free = screen()->availableGeometry();
+    resize(designSize.boundedTo(free.size() - frameRoom));
+    // After a first run other windows have been there before, and a window manager would place it beside
+    // them.
+    move(free.center() - QRect(QPoint(), size() + frameRoom).center());
     setAcceptDrops(true);
     makeMenus();
 
@@ -85,7 +91,7 @@ MainWindow::MainWindow()
     focusSink_ = new FocusSink(surface);
 
     auto* const bottom = new QHBoxLayout;
-    bottom->addWidget(infoPanel(), 5);
+    bottom->addWidget(infoPanel(), 6);
     bottom->addWidget(notePanel(), 4);
     bottom->addWidget(historyPanel(), 5);
     bottom->addWidget(curvePanel(), 5);
@@ -174,12 +180,29 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         }
         return false;
     }
+    case QEvent::ContextMenu:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return keyOnControl(static_cast<QWidget*>(target), *event);
+    case QEvent::ToolTip:
+        return showCutText(target, static_cast<QHelpEvent&>(*event));
     case QEvent::Wheel: // a turn of the wheel on the way elsewhere must not change the sample
         return qobject_cast<QComboBox*>(target) != nullptr;
     default:
         return false;
     }
     return isCell && !sheet.Modifying;
+}
+
+/// A text that its box is too narrow for.
+bool MainWindow::showCutText(const QObject* target, const QHelpEvent& event)
+{
+    const auto* const box = qobject_cast<const QLineEdit*>(target);
+    if (box == nullptr || !box->toolTip().isEmpty())
+        return false;
+    const bool cut = box->fontMetrics().horizontalAdvance(box->text()) > box->contentsRect().width() - 4;
+    QToolTip::showText(event.globalPos(), cut ? box->text() : QString());
+    return true;
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)
@@ -238,8 +261,9 @@ void MainWindow::scaleFont()
     letters.setBold(true);
     for (QLineEdit* const sum : sums_) {
         sum->setFont(letters);
-        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("32767") + 10);
+        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("888888") + 12);
     }
+    location_->setFixedHeight(3 * QFontMetrics(centralWidget()->font()).lineSpacing() + 1);
 }
 
 void MainWindow::present()
@@ -256,10 +280,9 @@ void MainWindow::present()
     showAll(combos_);
     showAll(logs_);
     presentNames();
-    const int framed = frmFind.visible && sheet.FoundSlot != 0 ? sheet.FoundSlot : sheet.HighlightRow;
     for (TaxonPage* const page : pages_) {
         page->placeCells();
-        page->frameCell(framed);
+        page->frameCells();
     }
     if (tabs_->currentIndex() != frmMain.SSTab1)
         tabs_->setCurrentIndex(frmMain.SSTab1);

@@ -14,6 +14,7 @@ struct MainMenuEntry;
 class DiagramWindow;
 class FormWindow;
 class ManualWindow;
+class QHelpEvent;
 class QMenu;
 class QMouseEvent;
 class QTabWidget;
@@ -65,13 +66,13 @@ private:
     QWidget* notePanel();
     QWidget* historyPanel();
     QWidget* curvePanel();
-    QLabel* boundLabel(const QString& name, const Label& record);
+    QLabel* boundLabel(const QString& name, const Label& record, QLabel* label = nullptr);
     /// The user's edits of the box bound last reach `edited`.
     void listen(void (*edited)(int, std::string_view, int), int index);
     QLineEdit* boundBox(const QString& name, const TextBox& record);
     QAbstractButton* boundButton(const QString& name, const Button& record, const QString& caption,
                                  std::function<void()> clicked);
-    QComboBox* boundCombo(const QString& name, const ComboBox& record);
+    QComboBox* boundCombo(const QString& name, const QString& accessibleName, const ComboBox& record);
 
     // main_window_menus.cpp
     void makeMenus();
@@ -81,6 +82,8 @@ private:
 
     // main_window_editing.cpp
     bool boxPressed(QWidget* box, const QMouseEvent& press);
+    /// True if the key press, its release or the wish for a menu goes no further.
+    bool keyOnControl(QWidget* control, const QEvent& event);
     void boxDoubleClicked(const QWidget* box);
     void boxEntered(QWidget* box, Qt::FocusReason reason);
     void presentMode();
@@ -88,12 +91,14 @@ private:
     void presentNames();
     void presentFocusAndPointer();
     void scaleFont();
+    static bool showCutText(const QObject* target, const QHelpEvent& event);
 
     QWidget* focusSink_; ///< Text99
     QTabWidget* tabs_ = nullptr;
     std::array<TaxonPage*, 3> pages_{};
     std::array<QLineEdit*, 3> sums_{};
     QPlainTextEdit* note_ = nullptr;      ///< Text4
+    QPlainTextEdit* location_ = nullptr;  ///< Text6
     QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
     QLineEdit* enteredByMouse_ = nullptr; ///< a box that is selected when the button comes up
     std::array<QLabel*, 3> hundredMarks_{};

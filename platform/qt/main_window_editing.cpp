@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "platform/qt/main_window.h"
+#include "platform/qt/menu_key.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
 #include "sheet/focus_and_pointer.h"
@@ -18,6 +19,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -56,6 +58,7 @@ QPalette modifyColours(QPalette colours, Colour sheet)
     const QColor back(sheet.red, sheet.green, sheet.blue);
     colours.setColor(QPalette::Window, back);
     colours.setColor(QPalette::WindowText, Qt::black); // in a dark theme too
+    colours.setColor(QPalette::Mid, QColor(184, 181, 178));
     return colours;
 }
 
@@ -88,6 +91,25 @@ bool MainWindow::boxPressed(QWidget* box, const QMouseEvent& press)
     if (menuOpens)
         rowMenu_->popup(press.globalPosition().toPoint());
     return menuOpens;
+}
+
+/// The menu key is a right click on what has the focus, and Space on "%" holds it as the mouse does.
+bool MainWindow::keyOnControl(QWidget* control, const QEvent& event)
+{
+    if (asksForMenu(event)) {
+        const QString name = controlOf(control).name;
+        if (control != curve_ && name != "Text1" && name != "Text2")
+            return false;
+        const QPoint middle = control->rect().center();
+        return boxPressed(control, QMouseEvent(QEvent::MouseButtonPress, middle, control->mapToGlobal(middle),
+                                               Qt::RightButton, Qt::RightButton, Qt::NoModifier));
+    }
+    if (control != percent_ || event.type() == QEvent::ContextMenu)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (key.key() == Qt::Key_Space && !key.isAutoRepeat())
+        onEvent(event.type() == QEvent::KeyPress ? Command6_MouseDown : Command6_MouseUp);
+    return false;
 }
 
 void MainWindow::boxDoubleClicked(const QWidget* box)
@@ -131,6 +153,10 @@ void MainWindow::presentMode()
     const QPalette colours = on ? modifyColours(plainColours_, *frmMain.sheetColour) : plainColours_;
     centralWidget()->setPalette(colours);
     centralWidget()->setAutoFillBackground(on);
+    tabs_->tabBar()->setFocusPolicy(on ? Qt::TabFocus : Qt::NoFocus);
+    QPalette tabs; // stand on a ground of their own
+    tabs.setColor(QPalette::WindowText, plainColours_.color(QPalette::WindowText));
+    tabs_->tabBar()->setPalette(tabs);
     for (TaxonPage* const page : pages_)
         page->makeEditable(on);
     for (const LineBinding& line : lines_) {
@@ -139,6 +165,10 @@ void MainWindow::presentMode()
             makeEditable(line.widget, on);
     }
     makeEditable(samples_->lineEdit(), on);
+    samples_->setFocusPolicy(on ? Qt::StrongFocus : Qt::TabFocus);
+    QPalette path = colours; // stands on the window itself
+    path.setColor(QPalette::Text, colours.color(QPalette::WindowText));
+    location_->setPalette(path);
     note_->setReadOnly(!on);
     note_->setUndoRedoEnabled(on);
     note_->setFocusPolicy(on ? Qt::StrongFocus : Qt::NoFocus);

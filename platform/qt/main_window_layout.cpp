@@ -7,6 +7,7 @@
 #include "files/open_sheet.h"
 #include "files/rename_info.h"
 #include "files/save_sheet.h"
+#include "platform/qt/elided_label.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/surface_view.h"
 #include "platform/qt/taxon_page.h"
@@ -47,7 +48,9 @@ QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
     area->setAccessibleName(accessibleName);
     area->setReadOnly(true);
     area->setUndoRedoEnabled(false);
-    area->setFocusPolicy(Qt::NoFocus);
+    area->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard); // shows a caret
+    area->setTabChangesFocus(true);
+    area->setFocusPolicy(Qt::TabFocus);
     area->viewport()->setObjectName(QString(name) + ".text");
     return area;
 }
@@ -94,9 +97,10 @@ QWidget* panel(Layout* layout)
 
 } // namespace
 
-QLabel* MainWindow::boundLabel(const QString& name, const Label& record)
+QLabel* MainWindow::boundLabel(const QString& name, const Label& record, QLabel* label)
 {
-    auto* const label = new QLabel;
+    if (label == nullptr)
+        label = new QLabel;
     label->setObjectName(name);
     labels_.append({label, &record});
     return label;
@@ -135,14 +139,15 @@ QAbstractButton* MainWindow::boundButton(const QString& name, const Button& reco
     return button;
 }
 
-QComboBox* MainWindow::boundCombo(const QString& name, const ComboBox& record)
+QComboBox* MainWindow::boundCombo(const QString& name, const QString& accessibleName, const ComboBox& record)
 {
     auto* const combo = new QComboBox;
     combo->setObjectName(name);
+    combo->setAccessibleName(accessibleName);
     combo->setEditable(true); // its text need not be one of its items
     combo->lineEdit()->setReadOnly(true);
-    combo->lineEdit()->setFocusPolicy(Qt::NoFocus);
-    combo->setFocusPolicy(Qt::NoFocus);
+    combo->lineEdit()->setAccessibleName(accessibleName);
+    combo->setFocusPolicy(Qt::TabFocus);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // never measures its list
     combo->setMinimumContentsLength(12);
@@ -159,8 +164,7 @@ QWidget* MainWindow::sampleStrip()
     listen(Text1_Edited, 0);
     name->setAccessibleName("Sample name");
     row->addWidget(name, 2);
-    QComboBox* const samples = boundCombo("Combo2", frmMain.Combo2);
-    samples->setAccessibleName("Choose a sample");
+    QComboBox* const samples = boundCombo("Combo2", "Choose a sample", frmMain.Combo2);
     connect(samples, &QComboBox::activated, this,
             [this](int index) { onEvent([&] { Combo2_Click(std::string(frmMain.Combo2.items[index])); }); });
     connect(samples->lineEdit(), &QLineEdit::textEdited, this, [this, samples](const QString& text) {
@@ -194,7 +198,12 @@ QWidget* MainWindow::sheetPages()
 {
     tabs_ = new QTabWidget;
     tabs_->setObjectName("SSTab1");
-    tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
+    tabs_->setAccessibleName("Layers");
+    tabs_->tabBar()->setFocusPolicy(Qt::NoFocus); // while counting the shift keys turn the pages
+    connect(tabs_, &QTabWidget::currentChanged, this, [this](int page) { // by the arrow keys
+        if (page != frmMain.SSTab1)
+            onEvent([page] { SSTab1_Click(page); });
+    });
     connect(tabs_->tabBar(), &QTabBar::tabBarClicked, this, [this](int page) {
         if (page >= 0)
             onEvent([page] { SSTab1_Click(page); });
@@ -225,10 +234,12 @@ QWidget* MainWindow::sumStrip()
     row->setSpacing(4);
     const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
     for (int total = 0; total < 3; ++total) {
-        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total]));
+        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total],
+                                  total == 0 ? nullptr : new ElidedLabel)); // groups are named by the user
         QLineEdit* const sum = sums_[total] = boundBox(indexed("Text3", total), frmMain.Text3[total]);
         sum->setAccessibleName(names[total]);
         sum->setAlignment(Qt::AlignRight);
+        sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
         row->addWidget(sum, 2);
         QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
         bell->setObjectName(indexed("hundredMark", total));
@@ -240,7 +251,6 @@ QWidget* MainWindow::sumStrip()
         bell->setSizePolicy(kept);
         bell->hide();
         row->addWidget(bell);
-        row->addSpacing(4);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
@@ -252,12 +262,11 @@ QWidget* MainWindow::sumStrip()
         connect(option, &QRadioButton::clicked, this,
                 [this, total] { onEvent([&] { selectBasis(total); }); });
         options_.append({option, &frmMain.Option1[total]});
-        row->insertWidget(5 * total + 3, option);
+        row->insertWidget(4 * total + 3, option);
     }
     percent_ = boundButton("Command6", frmMain.Command6, "%", [] {}); // works while it is held: boxPressed()
-    percent_->setFocusPolicy(Qt::NoFocus);
     percent_->setAccessibleName("Show percentages while held down");
-    percent_->setToolTip("Percentages while held down");
+    percent_->setToolTip("Percentages while held down, by the mouse or the space bar");
     row->addWidget(percent_);
     row->addWidget(boundButton("Command8", frmMain.Command8, "Alignment", Command8_Click));
     return panel(row);
@@ -268,7 +277,7 @@ QWidget* MainWindow::infoPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     for (int item = 1; item <= infoItems; ++item) {
-        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item]);
+        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item], new ElidedLabel);
         QSizePolicy size = caption->sizePolicy();
         size.setRetainSizeWhenHidden(true); // the boxes stay where they are when counting goes on
         caption->setSizePolicy(size);
@@ -276,6 +285,7 @@ QWidget* MainWindow::infoPanel()
         QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
         listen(Text5_Edited, item);
         box->setAccessibleName(QString("Additional info %1").arg(item));
+        box->setMinimumWidth(72);
         grid->addWidget(box, item, 1);
         QAbstractButton* const rename = boundButton(indexed("Command7", item), frmMain.Command7[item],
                                                     "Rename", [item] { Command7_Click(item); });
@@ -294,7 +304,6 @@ QWidget* MainWindow::notePanel()
     grid->addWidget(fixedLabel("Label7(0)", "Note:"), 0, 0, 1, 2);
     QPlainTextEdit* const note = textArea("Text4", "Note of the sample");
     notes_.append({note, &frmMain.Text4});
-    note->setTabChangesFocus(true);
     connect(note, &QPlainTextEdit::textChanged, this, [this, at = notes_.size() - 1] {
         onEvent([&] {
             const TypedText typed = typedInto(notes_[at]);
@@ -325,8 +334,7 @@ QWidget* MainWindow::historyPanel()
     logs_.append({history, &frmMain.Text7});
     grid->addWidget(history, 1, 0, 1, 2);
     grid->addWidget(fixedLabel("Label5", "Latest:"), 2, 0);
-    QComboBox* const latest = boundCombo("Combo1", frmMain.Combo1);
-    latest->setAccessibleName("Latest action");
+    QComboBox* const latest = boundCombo("Combo1", "Latest action", frmMain.Combo1);
     connect(latest, &QComboBox::activated, this, [this] { onEvent(giveFocusBack); });
     grid->addWidget(latest, 2, 1);
     grid->setColumnStretch(1, 1);
@@ -348,17 +356,18 @@ QWidget* MainWindow::curvePanel()
     curve_->setObjectName("Picture2");
     curve_->setAccessibleName("Taxa diversity vs. total count");
     curve_->setToolTip("Taxa diversity vs. total count");
+    curve_->setFocusPolicy(Qt::TabFocus);
     auto* const inside = new QVBoxLayout(frame);
     inside->setContentsMargins(1, 1, 1, 1);
     inside->addWidget(curve_);
     grid->addWidget(frame, 1, 0, 1, 2);
-    QPlainTextEdit* const location = textArea("Text6", "File location");
-    location->setFrameShape(QFrame::NoFrame);
-    location->viewport()->setAutoFillBackground(false);
-    location->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    location->setMaximumHeight(3 * location->fontMetrics().lineSpacing() + 10);
-    notes_.append({location, &frmMain.Text6});
-    grid->addWidget(location, 2, 0, 1, 2);
+    location_ = textArea("Text6", "File location");
+    location_->setFrameShape(QFrame::NoFrame);
+    location_->viewport()->setAutoFillBackground(false);
+    location_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    location_->document()->setDocumentMargin(0); // whole lines, see scaleFont()
+    notes_.append({location_, &frmMain.Text6});
+    grid->addWidget(location_, 2, 0, 1, 2);
     auto* const progress = new QProgressBar;
     progress->setObjectName("ProgressBar1");
     bars_.append({progress, &frmMain.ProgressBar1});

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
@@ -143,7 +144,8 @@ ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPag
     QToolBar* const bar = addToolBar("Pages");
     bar->setMovable(false);
     bar->toggleViewAction()->setEnabled(false); // a hidden bar would leave no way back
-    bar->addAction("Contents", this, [this] { pages_->setSource(contentsPage()); });
+    QAction* const contents = bar->addAction("Contents", this, [this] { pages_->setSource(contentsPage()); });
+    contents->setShortcut(Qt::ALT | Qt::Key_Home);
     QAction* const back = bar->addAction("Back", pages_, &QTextBrowser::backward);
     back->setShortcut(QKeySequence::Back);
     back->setEnabled(false);
@@ -152,7 +154,7 @@ ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPag
     forward->setShortcut(QKeySequence::Forward);
     forward->setEnabled(false);
     connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    resize(860, 680);
+    resize(QSize(860, 680).boundedTo(screen()->availableGeometry().size() - QSize(8, 40)));
 }
 
 void ManualWindow::present()

@@ -25,7 +25,7 @@ public:
         for (QCheckBox* const box : boxes_)
             box->setParent(this);
         const int row = boxes_.front()->sizeHint().height();
-        setMinimumSize(900, fontMetrics().height() + 16 + 6 * row);
+        setMinimumSize(840, fontMetrics().height() + 16 + 6 * row);
     }
 
     /// By the records of the check boxes.

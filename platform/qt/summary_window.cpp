@@ -13,6 +13,7 @@ SummaryWindow::SummaryWindow(MainWindow& main)
     ranking_->setObjectName("Text1(0)");
     ranking_->setAccessibleName("Taxa ranked by their counts");
     ranking_->setReadOnly(true);
+    ranking_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     ranking_->setLineWrapMode(QPlainTextEdit::NoWrap);
     setFirst(ranking_);
     (new QVBoxLayout(this))->addWidget(ranking_);

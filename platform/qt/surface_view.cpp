@@ -43,4 +43,8 @@ void SurfaceView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.drawPixmap(0, 0, picture_);
     paintDrawing(painter, surface_.layer, surface_.scale, rect(), LineWidth::onePixel);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
 }

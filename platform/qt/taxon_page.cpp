@@ -1,5 +1,6 @@
 #include "platform/qt/taxon_page.h"
 
+#include "core/highlight.h"
 #include "core/main_screen.h"
 #include "sheet/cell_grid.h"
 
@@ -38,7 +39,7 @@ QLineEdit* cellBox(QWidget* page, Qt::Alignment alignment)
 
 TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
 {
-    setMinimumSize(pageWidth / 20, pageHeight / 20);
+    setMinimumSize(pageWidth / 24, pageHeight / 24);
     for (int i = 0; i < keysPerLayer; ++i) {
         names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
         counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
@@ -129,15 +130,17 @@ void TaxonPage::makeEditable(bool editable)
         }
 }
 
-void TaxonPage::frameCell(int slot)
+void TaxonPage::frameCells()
 {
-    const int framed = slot >= firstSlot() && slot <= lastSlot() ? slot : 0;
-    if (framed == framedSlot_)
+    QList<int> framed;
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot)
+        if (frmMain.Text1[slot].backColor != plainRow)
+            framed << slot;
+    if (framed == framed_)
         return;
-    for (const int changed : {framedSlot_, framed})
-        if (changed != 0)
-            update(cellRect(changed).marginsAdded(QMargins() + static_cast<int>(frameWidth() + 1)));
-    framedSlot_ = framed;
+    for (const int changed : framed_ + framed)
+        update(cellRect(changed).marginsAdded(QMargins() + static_cast<int>(frameWidth() + 1)));
+    framed_ = framed;
 }
 
 void TaxonPage::resizeEvent(QResizeEvent*)
@@ -151,7 +154,8 @@ void TaxonPage::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::Antialiasing);
 
     // The six blocks of the keyboard, so that the eye finds a key's place at once.
-    QColor block = palette().color(QPalette::Mid);
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    QColor block = palette().color(dark ? QPalette::Light : QPalette::Mid);
     block.setAlpha(60);
     painter.setPen(Qt::NoPen);
     painter.setBrush(block);
@@ -168,10 +172,8 @@ void TaxonPage::paintEvent(QPaintEvent* event)
             painter.drawRect(cell.adjusted(-0.5, -0.5, 0.5, 0.5));
     }
 
-    if (framedSlot_ != 0) {
-        const double width = frameWidth();
-        painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawRect(
-            QRectF(cellRect(framedSlot_)).adjusted(-width / 2, -width / 2, width / 2, width / 2));
-    }
+    const double width = frameWidth();
+    painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    for (const int slot : framed_)
+        painter.drawRect(QRectF(cellRect(slot)).adjusted(-width / 2, -width / 2, width / 2, width / 2));
 }

@@ -6,8 +6,8 @@ class QLabel;
 class QLineEdit;
 
 /// One page of the sheet: the 45 cells of a layer, each a name, a count and a key index. It places them by
-/// their records and scales them, letters included, with its own size. The row counted last or found gets
-/// a frame, since its colour alone is not enough for every eye.
+/// their records and scales them, letters included, with its own size. A row that is coloured, as the one
+/// counted last or those found, gets a frame, since its colour alone is not enough for every eye.
 class TaxonPage : public QWidget {
 public:
     explicit TaxonPage(int layer);
@@ -24,8 +24,8 @@ public:
     /// Modify template mode: the cells take keys and look so, and Tab goes from name to count to the next
     /// cell, row by row.
     void makeEditable(bool editable);
-    /// Moves the frame to a slot; one of another page takes it away.
-    void frameCell(int slot);
+    /// Brings the frames up to date with the rows' colours.
+    void frameCells();
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -38,7 +38,7 @@ private:
     void sizeLetters(QWidget* widget, int points) const;
 
     int firstSlot_;
-    int framedSlot_ = 0;
+    QList<int> framed_; ///< slots
     double pixelsPerTwip_ = 1.0 / 15;
     int leftMargin_ = 0;
     QList<int> placed_; ///< what the cells were last placed by
