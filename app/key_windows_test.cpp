@@ -22,6 +22,7 @@ protected:
     {
         QWidget* const opened = named<QWidget>(form);
         EXPECT_TRUE(waitFor([&] { return opened->isActiveWindow(); })) << form;
+        settle(200); // the window manager has its own idea of when that is done
         return opened;
     }
     void click(const QWidget* widget)
