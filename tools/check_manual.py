@@ -45,7 +45,7 @@ while waiting:
             reached.add(found)
             waiting.append(found)
 
-for page in (docs / "manual").glob("*.md"):
+for page in (docs / "manual").rglob("*.md"):
     if page not in reached:
         faults.append(f"{page.name} cannot be reached from the contents")
 for picture in (docs / "manual/pictures").glob("*"):

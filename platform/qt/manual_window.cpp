@@ -154,7 +154,9 @@ ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPag
     forward->setShortcut(QKeySequence::Forward);
     forward->setEnabled(false);
     connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    resize(QSize(860, 680).boundedTo(screen()->availableGeometry().size() - QSize(8, 40)));
+    const QRect free = screen()->availableGeometry();
+    resize(QSize(860, 680).boundedTo(free.size() - QSize(8, 40)));
+    move(free.right() - width() - 8, free.top() + (free.height() - height() - 40) / 2); // beside the sheet
 }
 
 void ManualWindow::present()
