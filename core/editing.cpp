@@ -35,6 +35,11 @@ void typeInto(TextBox& box, std::string_view text, int caret)
     keepToCharacterRule(box);
 }
 
+bool hasUnsavedWork()
+{
+    return sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled;
+}
+
 void markUnsavedWork()
 {
     sheet.SheetPristine = false;

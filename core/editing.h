@@ -15,8 +15,8 @@
 /// characters before the caret, 0 to the length of `text`.
 void typeInto(TextBox& box, std::string_view text, int caret);
 
-/// The sheet has work to save. In Modify template mode Save is disabled and comes back with the end of the
-/// mode.
+/// Work to save. In Modify template mode Save is disabled and comes back with the end of the mode.
+bool hasUnsavedWork();
 void markUnsavedWork();
 
 void Text1_Edited(int slot, std::string_view text, int caret); ///< slot 0: the name of the sample

@@ -73,7 +73,7 @@ void Form_Unload(bool& cancel)
 {
     sheet.SaveResult = 1;
     const VisitInterrupted interrupted; // after a Cancel the user types on in the same box
-    if (sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled) {
+    if (hasUnsavedWork()) {
         const Answer answer = askToSave();
         if (answer == Answer::cancel) {
             cancel = true;

@@ -1,7 +1,7 @@
 #include "extras/above_main.h"
 
 #include "core/main_screen.h"
-#include "core/sheet_state.h"
+#include "core/return_to_main.h"
 
 void openAboveMain(bool& visible)
 {
@@ -12,7 +12,5 @@ void openAboveMain(bool& visible)
 void closeAboveMain(bool& visible)
 {
     visible = false;
-    frmMain.enabled = true;
-    if (!sheet.Modifying)
-        frmMain.focus = MainFocus::Text99;
+    returnToMain();
 }

@@ -4,6 +4,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/reset_sheet.h"
+#include "core/return_to_main.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
@@ -38,8 +39,7 @@ void showSiteName()
 static void closeSiteName()
 {
     frmSiteName.visible = false;
-    frmMain.enabled = true;
-    frmMain.focus = MainFocus::Text99;
+    returnToMain();
     frmMain.Text99.text.clear();
 }
 

@@ -3,6 +3,7 @@
 #include "core/action_log.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
@@ -38,8 +39,7 @@ void close()
     for (Button& rename : frmNext.Command5)
         rename.visible = true;
     frmNext.visible = false;
-    frmMain.enabled = true;
-    frmMain.focus = MainFocus::Text99;
+    returnToMain();
 }
 
 bool isNameTaken()

@@ -1,6 +1,7 @@
 #include "files/recovery.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/fields.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -21,11 +22,6 @@ namespace {
 constexpr int delay = 5000; // milliseconds
 constexpr int places = 9;   // programs that may run at once
 constexpr std::size_t sheetLimit = 256u << 20;
-
-bool hasUnsavedWork()
-{
-    return sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled;
-}
 
 /// A sheet begun from a template is not the template.
 std::string pathOfSheet()
@@ -78,8 +74,8 @@ void takeUp(const std::string& text)
     showSheetName(baseName(path).value_or("Untitled"));
     frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
     WrapFileLocation();
-    sheet.SheetPristine = sheet.FreshSheet = false;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+    sheet.FreshSheet = false;
+    markUnsavedWork();
     recoveryCopy.onDisk = true;
     logAction("(Recovery copy taken up)");
 }

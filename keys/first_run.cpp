@@ -3,10 +3,10 @@
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "core/start_up.h"
 #include "keys/key_settings.h"
-#include "keys/return_to_main.h"
 #include "platform/ports.h"
 
 InitialForm frmInitial;

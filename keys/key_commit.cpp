@@ -71,10 +71,13 @@ KeySettingTable settingsOfBoxes()
 void frmKeyCode_Command4_Click()
 {
     frmKeyCode.ProgressBar1 = {true, 0, keySettingRows - 1};
-    const bool twice = isAnyKeyTwice();
+    if (isAnyKeyTwice()) {
+        frmKeyCode.ProgressBar1 = ProgressBar();
+        return;
+    }
     const KeySettingTable table = settingsOfBoxes();
     frmKeyCode.ProgressBar1 = ProgressBar();
-    if (!twice && WriteKeySettings(table, true))
+    if (WriteKeySettings(table, true))
         closeKeyEditor();
 }
 

@@ -3,10 +3,10 @@
 #include "core/character_rule.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "keys/key_grid.h"
 #include "keys/key_settings.h"
-#include "keys/return_to_main.h"
 #include "platform/ports.h"
 
 #include <algorithm>

@@ -5,6 +5,7 @@
 #include "core/highlight.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "platform/key_names.h"
 #include "sheet/cell_grid.h"
@@ -141,8 +142,7 @@ void unload()
     frmFind.visible = false;
     sheet.Layer = 0;
     frmMain.SSTab1 = 0;
-    frmMain.enabled = true;
-    frmMain.focus = MainFocus::Text99;
+    returnToMain();
 }
 
 } // namespace

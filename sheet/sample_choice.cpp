@@ -8,6 +8,12 @@
 #include "core/show_sample.h"
 #include "sheet/percent_view.h"
 
+static void leaveShownSample()
+{
+    Command6_MouseUp(); // what it would put back belongs to that sample
+    leaveEditedBox();
+}
+
 static void choose(int sample)
 {
     showSample(sample);
@@ -17,8 +23,7 @@ static void choose(int sample)
 
 void Combo2_Click(std::string_view name)
 {
-    Command6_MouseUp(); // what it would put back belongs to the sample that was on show
-    leaveEditedBox();
+    leaveShownSample();
     sheet.SampleChangeFlag = true;
     int chosen = 0;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
@@ -30,8 +35,7 @@ void Combo2_Click(std::string_view name)
 
 void Command9_Click()
 {
-    Command6_MouseUp(); // what it would put back belongs to the sample that was on show
-    leaveEditedBox();
+    leaveShownSample();
     int latest = 1;
     for (int sample = 2; sample <= sheet.SampleCount; ++sample)
         if (leadingNumber(sheet.SampleField(sample, 1)) >= leadingNumber(sheet.SampleField(latest, 1)))

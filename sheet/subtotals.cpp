@@ -5,8 +5,8 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
+#include "core/return_to_main.h"
 #include "core/sheet_state.h"
-#include "sheet/focus_and_pointer.h"
 
 SubtotalForm frmSubtotal;
 
@@ -55,8 +55,7 @@ bool membersChanged()
 void close()
 {
     frmSubtotal.visible = false;
-    frmMain.enabled = true;
-    giveFocusBack();
+    returnToMain();
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "sheet/focus_and_pointer.h"
+#include "core/return_to_main.h"
 
 #include <algorithm>
 
@@ -30,6 +30,5 @@ void LaunchSummary()
 void frmSummary_Unload()
 {
     frmSummary.visible = false;
-    frmMain.enabled = true;
-    giveFocusBack();
+    returnToMain();
 }

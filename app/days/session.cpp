@@ -40,11 +40,6 @@ namespace {
 
 bool ended = false;
 
-bool needsSave()
-{
-    return sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled;
-}
-
 bool isAnyCountAtLimit()
 {
     for (int slot = 1; slot <= taxonSlots; ++slot)
@@ -351,7 +346,7 @@ void Session::check(Effect effect, UndoEntry newest)
 
 void Session::checkUnsavedWork(bool replaced, std::size_t linesBefore)
 {
-    if (needsSave() || frmSubtotal.visible) // that form's changes are told at its end
+    if (hasUnsavedWork() || frmSubtotal.visible) // that form's changes are told at its end
         return;
     const auto& log = sheet.ActionText;
     const bool saved =
@@ -407,7 +402,7 @@ void Session::saveAndReopen()
         const std::string bytes = files.contents["/home/round.csv"];
         fromMenu(mnuOpen_Click);
         requireSameSheet(saved, sheet);
-        require(!needsSave(), "an opened sheet needs no save");
+        require(!hasUnsavedWork(), "an opened sheet needs no save");
         fromMenu(mnuSaveAs_Click);
         require(files.contents["/home/round.csv"] == bytes, "an opened sheet is saved as it was");
     }

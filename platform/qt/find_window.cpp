@@ -1,8 +1,8 @@
 #include "platform/qt/find_window.h"
 
+#include "keys/key_grid.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
-#include "sheet/cell_grid.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -16,21 +16,6 @@
 namespace {
 
 constexpr QSize keySize(42, 24);
-
-/// Row and column of a grid position in the key map, from the places of the sheet's cells. A column without
-/// keys lies between the blocks.
-std::pair<int, int> mapPlace(int position)
-{
-    const CellGrid& grid = cellGrid();
-    const auto rank = [](const std::array<int, 46>& places, int of) {
-        std::vector<int> sorted(places.begin() + 1, places.end());
-        std::sort(sorted.begin(), sorted.end());
-        sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
-        return static_cast<int>(std::lower_bound(sorted.begin(), sorted.end(), of) - sorted.begin());
-    };
-    const int column = rank(grid.CellLeft, grid.CellLeft[position]);
-    return {rank(grid.CellTop, grid.CellTop[position]), column + column / 3};
-}
 
 } // namespace
 
@@ -106,10 +91,10 @@ QWidget* FindWindow::keyMap()
     grid->setSpacing(3);
     for (const int gap : {3, 7})
         grid->setColumnMinimumWidth(gap, 8);
-    for (int position = 1; position <= keysPerLayer; ++position) {
-        const auto [row, column] = mapPlace(position);
-        grid->addWidget(keys_[position], row, column);
-    }
+    for (int row = 0; row < keyGridRows; ++row)
+        for (int column = 0; column < keyGridColumns; ++column)
+            grid->addWidget(keys_[keyGrid[row][column]], row,
+                            column + column / 3); // a gap between the blocks
     grid->setRowMinimumHeight(5, 4);
     constexpr int shiftKeys[] = {46, 47, 48, 51};
     auto* const shifts = new QHBoxLayout;

@@ -1,4 +1,4 @@
-#include "keys/return_to_main.h"
+#include "core/return_to_main.h"
 
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
