@@ -21,13 +21,15 @@ protected:
     QWidget* waitForWindow(const char* form)
     {
         QWidget* const opened = named<QWidget>(form);
-        EXPECT_TRUE(waitFor([&] { return opened->isActiveWindow(); })) << form;
-        settle(200); // the window manager has its own idea of when that is done
+        waitUntilInFront(opened);
         return opened;
     }
     void click(const QWidget* widget)
     {
-        keyboard.click(widget->mapToGlobal(widget->rect().center()));
+        const QPoint middle = widget->mapToGlobal(widget->rect().center());
+        keyboard.moveTo(middle.x(), middle.y());
+        for (const bool down : {true, false})
+            keyboard.button(1, down);
         settle(40);
     }
     /// Clicks into a box of frmKeyCode, presses a key there and leaves it. `result` tells what came of it.

@@ -3,11 +3,11 @@
 // Real key events of an X server, as they come from a keyboard. Needs a display of its own.
 
 #include "app/window_fixture_test.h"
+#include "app/x_hand.h"
 
 #include "core/number_text.h"
 
 #include <cstdlib>
-#include <xcb/xtest.h>
 
 /// X keycodes: places on the keyboard, whatever the layout.
 enum Place : std::uint8_t {
@@ -38,51 +38,9 @@ enum Place : std::uint8_t {
     deleteKey = 119
 };
 
-/// The keyboard and the mouse beside it.
-class Keyboard {
-public:
-    Keyboard() : connection_(xcb_connect(nullptr, nullptr)) {}
-    ~Keyboard() { xcb_disconnect(connection_); }
-    void press(Place place) { send(XCB_KEY_PRESS, place); }
-    void release(Place place) { send(XCB_KEY_RELEASE, place); }
-    void click(QPoint place)
-    {
-        const xcb_window_t screen = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-        constexpr std::uint8_t leftButton = 1;
-        send(XCB_MOTION_NOTIFY, 0, screen, place);
-        send(XCB_BUTTON_PRESS, leftButton);
-        send(XCB_BUTTON_RELEASE, leftButton);
-    }
-
-    /// A window of another program takes the keyboard.
-    void takeFocusAway()
-    {
-        const xcb_screen_t* const screen = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
-        const xcb_window_t other = xcb_generate_id(connection_);
-        const std::uint32_t unmanaged = 1;
-        xcb_create_window(connection_, XCB_COPY_FROM_PARENT, other, screen->root, 0, 0, 10, 10, 0,
-                          XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual, XCB_CW_OVERRIDE_REDIRECT,
-                          &unmanaged);
-        xcb_map_window(connection_, other);
-        xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_PARENT, other, XCB_CURRENT_TIME);
-        xcb_flush(connection_);
-    }
-
-private:
-    void send(std::uint8_t type, std::uint8_t detail, xcb_window_t screen = XCB_NONE, QPoint place = {})
-    {
-        xcb_test_fake_input(connection_, type, detail, 0, screen, static_cast<std::int16_t>(place.x()),
-                            static_cast<std::int16_t>(place.y()), 0);
-        // The server has it, and so has the program, however busy the machine is.
-        free(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
-        QGuiApplication::sync();
-    }
-    xcb_connection_t* connection_;
-};
-
 class RealKeys : public WindowTest {
 protected:
-    Keyboard keyboard;
+    XHand keyboard;
 
     void SetUp() override
     {
@@ -91,6 +49,12 @@ protected:
         sheet.SoundOn = false;
     }
 
+    /// Waits until a window has the keyboard.
+    static void waitUntilInFront(const QWidget* wanted)
+    {
+        ASSERT_TRUE(waitFor([&] { return wanted->isActiveWindow(); })) << wanted->objectName().toStdString();
+        settle(200); // the window manager has its own idea of when that is done
+    }
     static void layout(const std::string& name)
     {
         ASSERT_EQ(std::system(("setxkbmap " + name).c_str()), 0);

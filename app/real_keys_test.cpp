@@ -173,8 +173,7 @@ TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
     keyboard.release(placeSemicolon);
     EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down && sheet.KeysActive);
     window->activateWindow();
-    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
-    settle(200); // the window manager has its own idea of when that is done
+    waitUntilInFront(window);
     tap(placeQ);
     EXPECT_EQ(shown(1), 2);
 }
@@ -195,8 +194,7 @@ TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
         EXPECT_FALSE(sheet.Shift1Down);
         EXPECT_EQ(frmMain.SSTab1, 0);
     }
-    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
-    settle(200); // the window manager has its own idea of when that is done
+    waitUntilInFront(window);
     tap(placeQ);
     EXPECT_EQ(shown(1), 1) << "the window counts on";
 }
@@ -216,8 +214,7 @@ TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
     EXPECT_TRUE(report.contains("down  27   [Esc]"));
     EXPECT_TRUE(report.contains("down  87   w              layer 1")) << report.toStdString();
     diagnose->findChild<QPushButton*>("Command2")->click();
-    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
-    settle(200); // the window manager has its own idea of when that is done
+    waitUntilInFront(window);
     tap(placeQ);
     EXPECT_EQ(shown(1), 1);
 }

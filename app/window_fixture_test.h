@@ -32,6 +32,7 @@ protected:
     template <class Condition>
     static bool waitFor(Condition done)
     {
+        QGuiApplication::sync(); // what a real X server has sent
         const QDeadlineTimer deadline(10000);
         while (!done() && !deadline.hasExpired())
             QApplication::processEvents(QEventLoop::AllEvents, 5);
@@ -41,6 +42,7 @@ protected:
     /// Runs the event loop for a while, to see that nothing happens.
     static void settle(int milliseconds = 60)
     {
+        QGuiApplication::sync();
         const QDeadlineTimer deadline(milliseconds);
         while (!deadline.hasExpired())
             QApplication::processEvents(QEventLoop::AllEvents, 5);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/fire/trial.h"
-#include "app/fire/x_hand.h"
+#include "app/x_hand.h"
 
 #include <chrono>
 #include <random>

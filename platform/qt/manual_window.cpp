@@ -46,7 +46,7 @@ public:
         connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
             layOutHeadings();
             layOutTables();
-            showLinks();
+            underlineLinks();
             scrollToAnchor(page.fragment());
         });
     }
@@ -94,15 +94,11 @@ private:
         }
     }
 
-    /// Many dark themes leave links dark blue.
-    void showLinks()
+    /// A colour alone is not enough for every eye.
+    void underlineLinks()
     {
-        QColor colour = palette().color(QPalette::Link);
-        if (palette().color(QPalette::Base).lightness() < 128 && colour.lightness() < 160)
-            colour.setHsl(colour.hslHue(), colour.hslSaturation(), 190);
-        QTextCharFormat shown;
-        shown.setForeground(colour);
-        shown.setFontUnderline(true);           // a colour alone is not enough for every eye
+        QTextCharFormat underlined;
+        underlined.setFontUnderline(true);
         std::vector<std::pair<int, int>> links; // found first: a change may join one to what stands beside it
         for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
             for (auto part = block.begin(); !part.atEnd(); ++part)
@@ -112,7 +108,7 @@ private:
             QTextCursor link(document());
             link.setPosition(begin);
             link.setPosition(end, QTextCursor::KeepAnchor);
-            link.mergeCharFormat(shown);
+            link.mergeCharFormat(underlined);
         }
     }
 
