@@ -72,14 +72,11 @@ AboutWindow::AboutWindow(MainWindow& main, const char* name, const QString& titl
     QPushButton* const ok = button("Command1", "OK", closeIt);
     ok->setDefault(true);
     setFirst(ok);
-    auto* const foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(ok);
     auto* const whole = new QVBoxLayout(this);
     whole->setContentsMargins(20, 16, 20, 14);
     whole->setSpacing(12);
     whole->addWidget(text_);
-    whole->addLayout(foot);
+    whole->addLayout(buttonRow({ok}));
     whole->setSizeConstraint(QLayout::SetFixedSize);
 }
 

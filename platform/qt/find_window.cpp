@@ -1,6 +1,7 @@
 #include "platform/qt/find_window.h"
 
 #include "keys/key_grid.h"
+#include "platform/qt/fitted_letters.h"
 #include "platform/qt/main_window.h"
 #include "platform/qt/text.h"
 
@@ -11,7 +12,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <algorithm>
 
 namespace {
 
@@ -49,16 +49,12 @@ FindWindow::FindWindow(MainWindow& main)
     connect(list_, &QListWidget::itemDoubleClicked, this, [this] { main_.onEvent(frmFind_List1_DblClick); });
 
     count_ = button("Command3", "Count", frmFind_Command3_Click);
-    auto* const buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(count_);
-    buttons->addWidget(button("Command2", "Close", frmFind_Command2_Click));
 
     auto* const search = new QGridLayout;
     search->addWidget(what, 0, 0);
     search->addWidget(text_, 0, 1);
     search->addWidget(list_, 1, 0, 1, 2);
-    search->addLayout(buttons, 2, 0, 1, 2);
+    search->addLayout(buttonRow({count_, button("Command2", "Close", frmFind_Command2_Click)}), 2, 0, 1, 2);
     auto* const whole = new QHBoxLayout(this);
     whole->addLayout(search);
     whole->addSpacing(8);
@@ -148,10 +144,8 @@ void FindWindow::presentKeyMap()
         QFont letters = font();
         letters.setBold(toTake); // colour alone is not enough for every eye
         key.setAccessibleDescription(toTake ? "Counts what was found" : "");
-        const int room = keySize.width() - 8;
-        if (const int wide = QFontMetrics(letters).horizontalAdvance(key.text());
-            place <= keysPerLayer && wide > room)
-            letters.setPixelSize(std::max(7, QFontInfo(letters).pixelSize() * room / wide));
+        if (place <= keysPerLayer)
+            letters = fittedLetters(letters, key.text(), keySize.width() - 8);
         if (letters == key.font())
             continue;
         key.setFont(letters);

@@ -10,8 +10,8 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -109,6 +109,15 @@ QPushButton* FormWindow::button(const QString& name, const QString& caption, std
     if (record != nullptr)
         shows_ += [made, record] { made->setVisible(record->visible); };
     return made;
+}
+
+QLayout* FormWindow::buttonRow(std::initializer_list<QWidget*> buttons)
+{
+    auto* const row = new QHBoxLayout;
+    row->addStretch(1);
+    for (QWidget* const one : buttons)
+        row->addWidget(one);
+    return row;
 }
 
 QLabel* FormWindow::label(const QString& name, const std::string& caption)

@@ -38,6 +38,8 @@ protected:
     QPlainTextEdit* area(const QString& name, TextBox& record);
     QPushButton* button(const QString& name, const QString& caption, std::function<void()> clicked,
                         const Button* record = nullptr);
+    /// Buttons at the right end of a row.
+    static QLayout* buttonRow(std::initializer_list<QWidget*> buttons);
     QLabel* label(const QString& name, const std::string& caption);
     /// A label that never changes.
     QLabel* fixedText(const QString& name, const QString& text);

@@ -32,10 +32,7 @@ InitialWindow::InitialWindow(MainWindow& main)
     ok_ = button("Command1", "OK", frmInitial_Command1_Click);
     ok_->setDefault(true);
     watchVisits(ok_, [] { frmInitial.focus = referenceKeys; }, {});
-    auto* const foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(ok_);
-    whole->addLayout(foot);
+    whole->addLayout(buttonRow({ok_}));
     whole->setSpacing(10);
     whole->setContentsMargins(20, 16, 20, 16);
     whole->setSizeConstraint(QLayout::SetFixedSize);

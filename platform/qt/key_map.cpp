@@ -1,5 +1,6 @@
 #include "platform/qt/key_map.h"
 
+#include "platform/qt/fitted_letters.h"
 #include "platform/qt/legible_style.h"
 #include "platform/qt/text.h"
 
@@ -12,10 +13,7 @@ static void fitLetters(QLineEdit& box, bool bold)
 {
     QFont letters = box.parentWidget()->font();
     letters.setBold(bold);
-    const int wanted = QFontMetrics(letters).horizontalAdvance(box.text());
-    const int room = box.width() - 8;
-    if (wanted > room)
-        letters.setPointSizeF(letters.pointSizeF() * room / wanted);
+    letters = fittedLetters(letters, box.text(), box.width() - 8);
     if (letters != box.font())
         box.setFont(letters);
 }

@@ -281,10 +281,7 @@ KeyNoteWindow::KeyNoteWindow(MainWindow& main)
     QPushButton* const ok = button("Command1", "OK", frmNote_Command1_Click);
     ok->setDefault(true);
     setFirst(ok);
-    auto* const foot = new QHBoxLayout;
-    foot->addStretch(1);
-    foot->addWidget(ok);
-    whole->addLayout(foot);
+    whole->addLayout(buttonRow({ok}));
     whole->setSpacing(12);
     whole->setContentsMargins(20, 16, 20, 16);
     whole->setSizeConstraint(QLayout::SetFixedSize);

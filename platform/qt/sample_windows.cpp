@@ -12,19 +12,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-namespace {
-
-QHBoxLayout* buttonRow(std::initializer_list<QWidget*> buttons)
-{
-    auto* const row = new QHBoxLayout;
-    row->addStretch(1);
-    for (QWidget* const one : buttons)
-        row->addWidget(one);
-    return row;
-}
-
-} // namespace
-
 QWidget* SampleWindow::entryBoxes(SampleForm& form, const std::function<QWidget*(int item)>& beside)
 {
     auto* const frame = new QWidget;

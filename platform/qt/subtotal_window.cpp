@@ -123,11 +123,7 @@ SubtotalWindow::SubtotalWindow(MainWindow& main)
     }
     QPushButton* const ok = button("Command1", "OK", frmSubtotal_Command1_Click);
     ok->setDefault(true);
-    auto* const ends = new QHBoxLayout;
-    ends->addStretch(1);
-    ends->addWidget(ok);
-    ends->addWidget(button("Command3", "Cancel", frmSubtotal_Command3_Click));
-    whole->addLayout(ends);
+    whole->addLayout(buttonRow({ok, button("Command3", "Cancel", frmSubtotal_Command3_Click)}));
     resize(std::min(1280, screen()->availableGeometry().width() - 24), 520); // wide: names are long
 }
 
