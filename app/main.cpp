@@ -1,7 +1,7 @@
 #include "app/program.h"
 #include "core/version.h"
-#include "platform/qt/legible_style.h"
 #include "platform/qt/program_folder.h"
+#include "window/legible_style.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "platform/qt/figures.h"
-#include "platform/qt/key_input.h"
-#include "platform/qt/main_window.h"
-#include "platform/qt/message_boxes.h"
 #include "platform/qt/real_files.h"
 #include "platform/qt/sdl_sound.h"
 #include "platform/qt/system_clock.h"
+#include "window/key_input.h"
+#include "window/main_window.h"
+#include "window/message_boxes.h"
 
 /// The whole program on the real ports, started and on show. Needs a QApplication.
 class Program {

@@ -3,7 +3,6 @@
 // repainted windows, with and without a dendrogram to dismiss, beside a key press without a diagram (limit:
 // 33 milliseconds above it). In turn, in one run; medians.
 
-#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/full_sheet.h"
 #include "bench/report.h"
@@ -15,6 +14,7 @@
 #include "diagram/diagram_window.h"
 #include "files/open_sheet.h"
 #include "platform/qt/drawing_painter.h"
+#include "trials/delivered_copy.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

@@ -2,7 +2,6 @@
 // ms, a backup far below the 70 ms that a key press has, a new sample 50 ms from its window's opening to
 // ready.
 
-#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/full_sheet.h"
 #include "bench/report.h"
@@ -12,6 +11,7 @@
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
 #include "files/save_sheet.h"
+#include "trials/delivered_copy.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,11 +1,11 @@
 // The program with the fullest sheet and its diagram, all columns in view.
 
-#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/full_sheet.h"
 #include "bench/memory.h"
 #include "diagram/diagram_window.h"
 #include "files/open_sheet.h"
+#include "trials/delivered_copy.h"
 
 int main(int argc, char* argv[])
 {

@@ -1,6 +1,6 @@
-#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/start_time.h"
+#include "trials/delivered_copy.h"
 
 #include <optional>
 

@@ -2,7 +2,6 @@
 // keys; in turn, in one run, after a day of 20000 actions. Limit: 3 milliseconds above the bare window
 // (median). And the same with the longest saturation curve. Limit: a frame of 16 milliseconds.
 
-#include "app/delivered_copy.h"
 #include "app/program.h"
 #include "bench/report.h"
 #include "core/action_log.h"
@@ -10,6 +9,7 @@
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/text_changes.h"
+#include "trials/delivered_copy.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>

@@ -48,11 +48,11 @@ for name in computing:
             if included in instances or included == "core/hooks.h":
                 faults.append(f"{source.relative_to(root)}: computing code may not include {included}")
 
-# The tests of a room are found by their names; those of app/ stand in its list.
-listed = (root / "app/CMakeLists.txt").read_text()
-for test in root.glob("app/*_test.cpp"):
+# The tests of a room are found by their names; those of trials/ stand in its list.
+listed = (root / "trials/CMakeLists.txt").read_text()
+for test in root.glob("trials/*_test.cpp"):
     if test.name not in listed:
-        faults.append(f"app/{test.name}: no test program runs it")
+        faults.append(f"trials/{test.name}: no test program runs it")
 
 for fault in faults:
     print(fault)

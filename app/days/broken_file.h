@@ -1,8 +1,0 @@
-#pragma once
-
-#include "app/days/chance.h"
-
-#include <string>
-
-/// A sheet's file after an accident: cut short, edited by hand, saved by a spreadsheet or of another layout.
-std::string brokenFile(std::string text, Chance& chance);

@@ -1,0 +1,187 @@
+// The windows that take keys by their being pressed, by real key events.
+
+#include "trials/real_keys_fixture_test.h"
+
+#include "files/next_sample.h"
+#include "keys/first_run.h"
+#include "keys/key_editor.h"
+
+#include <QAction>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+class KeyWindows : public RealKeys {
+protected:
+    QWidget* open(const char* entry, const char* form)
+    {
+        named<QAction>(entry)->trigger();
+        return waitForWindow(form);
+    }
+    QWidget* waitForWindow(const char* form)
+    {
+        QWidget* const opened = named<QWidget>(form);
+        waitUntilInFront(opened);
+        return opened;
+    }
+    void click(const QWidget* widget)
+    {
+        const QPoint middle = widget->mapToGlobal(widget->rect().center());
+        keyboard.moveTo(middle.x(), middle.y());
+        for (const bool down : {true, false})
+            keyboard.button(1, down);
+        settle(40);
+    }
+    /// Clicks into a box of frmKeyCode, presses a key there and leaves it. `result` tells what came of it.
+    template <class Result>
+    void capture(QWidget* form, const QString& name, Place place, std::initializer_list<Place> held,
+                 Result result, const std::string& expected)
+    {
+        const QWidget* const box = form->findChild<QWidget*>(name);
+        click(box);
+        ASSERT_TRUE(waitFor([&] { return box->hasFocus(); }));
+        tapWith(held, place);
+        waitFor([&] { return result() == expected; });
+        EXPECT_EQ(result(), expected);
+        EXPECT_TRUE(form->isActiveWindow() && box->hasFocus()) << expected;
+        form->findChild<QWidget*>("Command4")->setFocus();
+    }
+    void expectKey27(QWidget* form, const std::string& expected, Place place,
+                     std::initializer_list<Place> held = {})
+    {
+        capture(form, "Text1(27)", place, held, key27, expected);
+        EXPECT_EQ(key27(), expected) << "after the visit";
+    }
+    static std::string key27() { return frmKeyCode.Text1[27].text + " " + frmKeyCode.Text2[27].text; }
+};
+
+TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
+{
+    QWidget* const form = open("mnuKeyCodeReader", "frmKeyCode");
+    const std::pair<Place, const char*> keys[] = {
+        {leftShift, "[Shift] 16"}, {leftCtrl, "[Ctrl] 17"},   {deleteKey, "[Delete] 46"},
+        {backspace, "[BkSp] 8"},   {escape, "[Esc] 27"},      {enter, "[Enter] 13"},
+        {space, "[Space] 32"},     {f1, "[F1] 112"},          {left, "[Left] 37"},
+        {right, "[Right] 39"},     {down, "[Down] 40"},       {f10, "[F10] 121"},
+        {placeW, "w 87"},          {placeSemicolon, "; 186"}, {tab, "[Tab] 9"},
+        {leftAlt, "[Alt] 18"}};
+    for (const auto& [place, expected] : keys)
+        expectKey27(form, expected, place);
+    expectKey27(form, "f 70", placeF, {leftAlt}); // opens no menu
+    expectKey27(form, "Q 81", placeQ, {leftShift});
+    expectKey27(form, "q 81", placeQ, {leftCtrl}); // sets off no shortcut
+    tap(numLock);
+    expectKey27(form, "1 97", keypad1);
+    tap(numLock);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(total(), 0);
+
+    layout("fr");
+    bool told = false;
+    QTimer answering;
+    QObject::connect(&answering, &QTimer::timeout, window, [&told] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told = box->windowTitle() == "Are you an AZERTY keyboard user?";
+            box->button(QMessageBox::Ok)->click();
+        }
+    });
+    answering.start(50);
+    click(form->findChild<QWidget*>("Text1(27)"));
+    tap(digit3);
+    EXPECT_TRUE(waitFor([&] { return told && form->isActiveWindow(); }));
+    EXPECT_EQ(key27(), "1 97");
+    layout("us");
+
+    expectKey27(form, "[Left] 37", left);
+    const auto shift1 = [] {
+        return frmKeyCode.Text4[0].text + " " + frmKeyCode.Text2[46].text + " " + frmKeyCode.Text2[48].text;
+    };
+    capture(form, "Text4(0)", up, {}, shift1, "[Up] 38 38");
+    click(form->findChild<QWidget*>("Command4"));
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmKeyCode.visible; }));
+    tapWith({up}, left);
+    EXPECT_TRUE(waitFor([] { return shown(45 + 27) == 1; }));
+    QFile file(delivered.keySettings());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("\"[Left]\",\"37\",\"27\"\r\n"));
+}
+
+TEST_F(KeyWindows, aCaptureBoxIsEnteredAndLeftWithoutAMouse)
+{
+    QWidget* const form = open("mnuKeyCodeReader", "frmKeyCode");
+    QWidget* const box = form->findChild<QWidget*>("Text1(27)");
+    box->setFocus(Qt::TabFocusReason);
+    const std::string before = key27();
+    EXPECT_EQ(before, ". 190") << "Tab coming by empties nothing";
+    tap(tab);
+    ASSERT_TRUE(waitFor([&] { return !box->hasFocus(); }));
+    box->setFocus(Qt::TabFocusReason);
+    tap(enter);
+    ASSERT_TRUE(waitFor([] { return frmKeyCode.Text1[27].text.empty(); }));
+    tapWith({leftShift}, tab); // both are taken, and the last one holds
+    ASSERT_TRUE(waitFor([] { return key27() == "[Tab] 9"; }));
+    ASSERT_TRUE(box->hasFocus() && form->isActiveWindow());
+    settle(40);
+    tap(tab);
+    EXPECT_TRUE(waitFor([&] { return !box->hasFocus(); })) << "one key was all";
+    EXPECT_EQ(key27(), "[Tab] 9");
+    tap(escape);
+    EXPECT_TRUE(waitFor([] { return !frmKeyCode.visible; }));
+}
+
+/// The program as it is started for the first time.
+class FirstStart : public KeyWindows {
+protected:
+    void SetUp() override
+    {
+        layout("us");
+        QFile::remove(delivered.keySettings());
+        QFile::copy(DELIVERED_FOLDER "/References/KeySetting.csv", delivered.keySettings());
+        sheet = SheetState();
+        frmMain = MainScreen();
+        program = std::make_unique<Program>(delivered.path());
+        window = &program->window();
+    }
+};
+
+TEST_F(FirstStart, goesFromKeyToKeyToTheFirstSheet)
+{
+    waitForWindow("frmInitial");
+    EXPECT_FALSE(window->isVisible());
+    const auto walk = [this](std::initializer_list<Place> places) {
+        for (const Place place : places) {
+            const int next = frmInitial.focus + 1;
+            tap(place);
+            EXPECT_TRUE(waitFor([&] { return frmInitial.focus == next; })) << next;
+        }
+    };
+    walk({leftShift, leftCtrl, deleteKey, backspace, escape});
+    keyboard.press(enter); // a held key fills one box, and presses no button
+    settle(900);
+    keyboard.release(enter);
+    settle(60);
+    EXPECT_EQ(frmInitial.focus, 6);
+    walk({space, f1, left, up, right});
+    EXPECT_FALSE(named<QWidget>("frmInitial")->findChild<QWidget*>("Command1")->isEnabled());
+    walk({down});
+    ASSERT_TRUE(frmInitial.visible);
+    tap(enter);
+    QWidget* const next = waitForWindow("frmNext");
+    EXPECT_TRUE(window->isVisible() && !frmInitial.visible && sheet.KeySetting[62].Code == "40");
+    click(next->findChild<QWidget*>("Command4"));
+    ASSERT_TRUE(waitFor([] { return frmNext.entryBoxes; }));
+    tap(digit1);
+    tap(enter);
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmNext.visible; }));
+    tap(placeQ);
+    EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
+    EXPECT_EQ(frmMain.Combo2.text, "1");
+}
+
+TEST_F(FirstStart, goesOnWhenItsWindowIsClosed)
+{
+    waitForWindow("frmInitial")->close();
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+    tap(placeQ);
+    EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
+}

@@ -1,0 +1,245 @@
+// Counting by real key events.
+
+#include "trials/real_keys_fixture_test.h"
+
+#include "sheet/percent_view.h"
+
+#include "core/main_keys.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+TEST_F(RealKeys, lettersFollowTheLayoutAndDigitsTheirPlace)
+{
+    tap(placeQ);
+    tapWith({leftShift}, digit1);
+    EXPECT_EQ(shown(1), 1);
+    EXPECT_EQ(shown(31), 1) << "the key of the digit 1, though Shift gives another sign";
+    layout("fr");
+    tap(placeQ); // types "a"
+    tap(digit1); // types "&"
+    tap(placeA); // types "q"
+    EXPECT_EQ(shown(4), 1);
+    EXPECT_EQ(shown(31), 2);
+    EXPECT_EQ(shown(1), 2);
+    layout("ru");
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 3) << "a script without Latin letters goes by place";
+    layout("us");
+}
+
+TEST_F(RealKeys, bothLayersAndReverseCounting)
+{
+    tapWith({placeSemicolon}, placeQ);
+    tapWith({placeP}, placeQ);
+    tapWith({placeP, placeSemicolon}, placeQ);
+    EXPECT_EQ(shown(46), 2);
+    EXPECT_EQ(shown(91), 1);
+    EXPECT_EQ(frmMain.SSTab1, 0);
+    tapWith({placeSemicolon, placeP, backspace}, placeQ);
+    EXPECT_EQ(shown(91), 0);
+    tap(backspace);
+    EXPECT_EQ(shown(91), 1);
+}
+
+TEST_F(RealKeys, theKeypadGoesByNumLockAndNotByShift)
+{
+    bind(1, 97);
+    bind(2, 35); // End
+    tap(numLock);
+    tap(keypad1);
+    tapWith({leftShift}, keypad1);
+    EXPECT_EQ(shown(1), 2);
+    tap(numLock);
+    tap(keypad1);
+    EXPECT_EQ(shown(2), 1);
+}
+
+TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
+{
+    const std::pair<Place, int> keys[] = {{tab, 9},   {space, 32},   {enter, 13},
+                                          {f10, 121}, {leftAlt, 18}, {down, 40}};
+    int row = 0;
+    for (const auto& [place, code] : keys)
+        bind(++row, code);
+    for (const auto& [place, code] : keys)
+        tap(place);
+    for (int slot = 1; slot <= row; ++slot)
+        EXPECT_EQ(shown(slot), 1) << "row " << slot;
+    tapWith({leftAlt}, placeF); // two more counts, and no File menu
+    EXPECT_EQ(total(), row + 2);
+    EXPECT_TRUE(named<QWidget>("Text99")->hasFocus());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(window->menuBar()->activeAction(), nullptr);
+}
+
+TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
+{
+    tapWith({leftAlt}, placeF);
+    const QWidget* const menu = QApplication::activePopupWidget();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), "mnuFile");
+    tap(placeQ); // a letter of an open menu counts nothing
+    EXPECT_EQ(total(), 0);
+    tap(escape);
+    tap(escape);
+    tap(placeQ);
+    EXPECT_EQ(total(), 1);
+}
+
+TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
+{
+    tapWith({leftCtrl}, placeQ);
+    EXPECT_EQ(total(), 0);
+
+    sheet.SampleCount = 2;
+    sheet.WarnNotLatest = false;
+    window->onEvent([] { frmMain.mnuCurve.enabled = true; });
+    named<QAction>("mnuCurve")->trigger();
+    const auto isActive = [](const char* name) {
+        return QApplication::activeWindow() != nullptr && QApplication::activeWindow()->objectName() == name;
+    };
+    ASSERT_TRUE(waitFor([&] { return isActive("frmDiagram"); }));
+    tapWith({leftCtrl}, placeQ);
+    EXPECT_EQ(total(), 0) << "there neither";
+    QApplication::activeWindow()->close();
+    ASSERT_TRUE(waitFor([&] { return isActive("frmMain"); }));
+
+    sheet.Modifying = true;
+    frmMain.focus = MainFocus::elsewhere;
+    QLineEdit box("abc", window->centralWidget());
+    box.show();
+    box.setFocus();
+    tapWith({leftCtrl}, placeA);
+    EXPECT_EQ(box.selectedText(), "abc");
+    tap(placeQ);
+    EXPECT_EQ(box.text(), "q");
+    EXPECT_EQ(total(), 0);
+}
+
+TEST_F(RealKeys, aHeldKeyRepeatsWithoutComingUp)
+{
+    for (int i = 0; i < 6; ++i)
+        tap(placeQ);
+    keyboard.press(backspace); // every key-up in between would take a count back
+    settle(1200);
+    keyboard.release(backspace);
+    settle(60);
+    EXPECT_EQ(shown(1), 5);
+    keyboard.press(placeW);
+    settle(1200);
+    keyboard.release(placeW);
+    settle(60);
+    EXPECT_GT(shown(2), 3) << "after the guard a held key counts again";
+}
+
+TEST_F(RealKeys, losingTheKeyboardLetsGoOfAllKeysAndTakesNothingBack)
+{
+    tap(placeQ);
+    keyboard.press(placeSemicolon);
+    keyboard.press(backspace);
+    ASSERT_TRUE(waitFor([] { return sheet.Layer == 1 && sheet.MinusState == 1; }));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitFor([&] { return other.isActiveWindow(); }));
+    keyboard.release(backspace);
+    keyboard.release(placeSemicolon);
+    settle();
+    EXPECT_EQ(sheet.Layer, 0);
+    EXPECT_EQ(sheet.MinusState, 0);
+    EXPECT_FALSE(sheet.Shift1Down);
+    EXPECT_EQ(frmMain.SSTab1, 0);
+    EXPECT_EQ(shown(1), 1);
+}
+
+TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
+{
+    tap(placeQ);
+    keyboard.press(placeSemicolon);
+    settle(60);
+    EXPECT_EQ(sheet.Layer, 1);
+    window->onEvent(Command6_MouseDown);
+    EXPECT_FALSE(sheet.KeysActive);
+    keyboard.takeFocusAway();
+    ASSERT_TRUE(waitFor([] { return QGuiApplication::focusWindow() == nullptr; }));
+    settle(60);
+    keyboard.release(placeSemicolon);
+    EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down && sheet.KeysActive);
+    window->activateWindow();
+    waitUntilInFront(window);
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 2);
+}
+
+TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
+{
+    sheet.SampleCount = 2;
+    for (const bool yes : {false, true}) {
+        QTimer::singleShot(300, this->window, [yes] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            box->button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
+        });
+        tapWith({placeSemicolon}, placeQ);
+        settle(500);
+        EXPECT_EQ(shown(46), yes ? 1 : 0);
+        EXPECT_EQ(sheet.Layer, 0);
+        EXPECT_FALSE(sheet.Shift1Down);
+        EXPECT_EQ(frmMain.SSTab1, 0);
+    }
+    waitUntilInFront(window);
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 1) << "the window counts on";
+}
+
+TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
+{
+    named<QAction>("mnuDiagnose")->trigger();
+    QWidget* const diagnose = window->findChild<QWidget*>("frmDiagnose");
+    ASSERT_TRUE(waitFor([&] { return diagnose->isActiveWindow(); }));
+    for (const Place place : {placeQ, tab, space, enter, escape, backspace})
+        tap(place);
+    tapWith({placeSemicolon}, placeW);
+    EXPECT_TRUE(diagnose->isVisible());
+    EXPECT_EQ(total(), 0);
+    EXPECT_EQ(sheet.UndoStack[0].slot, 0);
+    const QString report = diagnose->findChild<QPlainTextEdit*>("Text1")->toPlainText();
+    EXPECT_TRUE(report.contains("down  27   [Esc]"));
+    EXPECT_TRUE(report.contains("down  87   w              layer 1")) << report.toStdString();
+    diagnose->findChild<QPushButton*>("Command2")->click();
+    waitUntilInFront(window);
+    tap(placeQ);
+    EXPECT_EQ(shown(1), 1);
+}
+
+TEST_F(RealKeys, aWarningThatFindRaisesIsAnsweredAboveIt)
+{
+    sheet.SampleCount = 2;
+    frmMain.Text1[50].text = "Betula";
+    named<QAction>("mnuFind")->trigger();
+    QWidget* const find = window->findChild<QWidget*>("frmFind");
+    ASSERT_TRUE(waitFor([&] { return find->isActiveWindow(); }));
+    for (const char letter : {'B', 'e', 't'}) {
+        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(letter)));
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    }
+    QTimer::singleShot(300, this->window, [] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_TRUE(box->isActiveWindow());
+        box->button(QMessageBox::Yes)->click();
+    });
+    tap(enter);
+    settle(500);
+    EXPECT_EQ(shown(50), 1);
+    EXPECT_FALSE(find->isVisible());
+    EXPECT_EQ(sheet.Layer, 0);
+    ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/program.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "trials/delivered_copy.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <gtest/gtest.h>
+#include <memory>
+
+/// The real program with its real window and the delivered files, on a known keyboard and fresh records.
+class WindowTest : public ::testing::Test {
+protected:
+    DeliveredCopy delivered{DELIVERED_FOLDER};
+    std::unique_ptr<Program> program;
+    MainWindow* window = nullptr;
+
+    void SetUp() override
+    {
+        sheet = SheetState();
+        frmMain = MainScreen();
+        program = std::make_unique<Program>(delivered.path());
+        window = &program->window();
+        window->activateWindow();
+        waitFor([this] { return window->isActiveWindow(); });
+        ASSERT_TRUE(window->isActiveWindow());
+    }
+
+    /// Runs the event loop until `done` holds, for ten seconds at most: the machine may be busy.
+    template <class Condition>
+    static bool waitFor(Condition done)
+    {
+        QGuiApplication::sync(); // what a real X server has sent
+        const QDeadlineTimer deadline(10000);
+        while (!done() && !deadline.hasExpired())
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+        return done();
+    }
+
+    /// Runs the event loop for a while, to see that nothing happens.
+    static void settle(int milliseconds = 60)
+    {
+        QGuiApplication::sync();
+        const QDeadlineTimer deadline(milliseconds);
+        while (!deadline.hasExpired())
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+
+    template <class Widget>
+    Widget* named(const char* name)
+    {
+        Widget* const widget = window->findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+};

@@ -1,0 +1,87 @@
+#include "window/capture_box.h"
+
+#include "window/main_window.h"
+
+#include <QKeyEvent>
+
+CaptureBox::CaptureBox(MainWindow& main, Handlers handlers) : main_(main), handlers_(std::move(handlers))
+{
+    setReadOnly(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setAlignment(Qt::AlignCenter);
+}
+
+bool CaptureBox::beginsVisit(Qt::FocusReason reason)
+{
+    return reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason;
+}
+
+void CaptureBox::focusInEvent(QFocusEvent* event)
+{
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        comesBy_ = !beginsVisit(reason);
+    QLineEdit::focusInEvent(event);
+}
+
+/// A visit ends and begins with the focus, so what changes between coming by and taking keys gives it up
+/// first.
+void CaptureBox::comeAnew(Qt::FocusReason reason)
+{
+    clearFocus();
+    setFocus(reason);
+}
+
+void CaptureBox::mousePressEvent(QMouseEvent* event)
+{
+    leavesAfterKey_ = false;
+    if (comesBy_)
+        comeAnew(Qt::MouseFocusReason);
+    QLineEdit::mousePressEvent(event);
+}
+
+void CaptureBox::keyWentDown(int keyCode, const QString& typed)
+{
+    lastDown_ = keyCode;
+    main_.onEvent([&] {
+        if (handlers_.keyDown)
+            handlers_.keyDown(keyCode);
+        if (handlers_.keyPress && !typed.isEmpty())
+            handlers_.keyPress(typed.toUcs4().front());
+    });
+}
+
+void CaptureBox::keyCameUp(int keyCode)
+{
+    if (handlers_.keyUp)
+        main_.onEvent([&] { handlers_.keyUp(keyCode); });
+    if (!leavesAfterKey_ || keyCode != lastDown_)
+        return;
+    leavesAfterKey_ = false;
+    comeAnew(Qt::TabFocusReason);
+}
+
+/// Else a dead key would wait for the letter that it belongs to.
+QVariant CaptureBox::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return query == Qt::ImEnabled ? QVariant(false) : QLineEdit::inputMethodQuery(query);
+}
+
+/// Keys that are taken have come already. Enter and Space act when they come up: pressed in a box that takes
+/// keys they would fill it.
+bool CaptureBox::event(QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return QLineEdit::event(event);
+    if (takesKeys())
+        return true;
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter && key.key() != Qt::Key_Space)
+        return QLineEdit::event(event);
+    if (event->type() == QEvent::KeyRelease && !key.isAutoRepeat()) {
+        leavesAfterKey_ = true;
+        comeAnew(Qt::OtherFocusReason);
+    }
+    return true;
+}

@@ -1,0 +1,215 @@
+#include "window/key_input.h"
+
+#include "core/dispatch_key.h"
+#include "core/main_keys.h"
+#include "core/main_screen.h"
+#include "core/sheet_state.h"
+#include "diagram/diagram_window.h"
+#include "extras/diagnose.h"
+#include "platform/key_codes.h"
+#include "sheet/percent_view.h"
+#include "window/capture_box.h"
+#include "window/diagram_window.h"
+#include "window/main_window.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWindow>
+
+/// Milliseconds. The two halves of a repeat carry the same time, but on a busy machine the second one has
+/// been seen to arrive some 10 ms after the first.
+constexpr int releaseWaits = 15;
+
+KeyInput::KeyInput(MainWindow& window) : window_(window)
+{
+    heldRelease_.setSingleShot(true);
+    connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
+    qApp->installEventFilter(this);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
+        if (focused == nullptr ||
+            (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle()))
+            keyboardLost();
+    });
+}
+
+void KeyInput::keyboardLost()
+{
+    deliver(repeats_.flush(), 0); // that key did come up
+    repeats_.forget();
+    captured_.clear();
+    window_.onEvent([] {
+        Form_Deactivate();
+        Command6_MouseUp(); // percentages are looked at in passing
+    });
+}
+
+bool KeyInput::isForCounting(const QObject* target) const
+{
+    return (target == window_.windowHandle() || target == window_.diagramWindow().windowHandle()) &&
+           frmMain.enabled && QApplication::activePopupWidget() == nullptr &&
+           QApplication::activeModalWidget() == nullptr;
+}
+
+int KeyInput::virtualKey(const QKeyEvent& event)
+{
+#if defined(Q_OS_WIN)
+    return keycodes::virtualKeyFromWindows(event.nativeVirtualKey());
+#elif defined(Q_OS_MACOS)
+    const int key = event.key(); // what the key types without modifiers, as a capital letter
+    const char32_t letter = key >= Qt::Key_A && key <= Qt::Key_Z ? static_cast<char32_t>(key + 'a' - 'A') : 0;
+    return keycodes::virtualKeyFromMac(event.nativeVirtualKey(), letter);
+#else
+    const bool numLock = keycodes::numLockIn(event.nativeModifiers());
+    if (const keycodes::Layout* const layout = layout_.layoutFor(event.nativeModifiers()))
+        return layout->virtualKey(event.nativeScanCode(), numLock);
+    return keycodes::virtualKeyFromEventAlone(event.nativeScanCode(), event.nativeVirtualKey(), numLock);
+#endif
+}
+
+static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
+{
+#if defined(Q_OS_MACOS)
+    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
+#else
+    const quint32 physicalKey = event.nativeScanCode();
+#endif
+    return {physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+}
+
+/// The diagnose window is in front: it is shown all keys, and no button of it takes one.
+static bool isForDiagnosis(const QObject* target)
+{
+    return frmDiagnose.visible && frmDiagnose.takesKeys && target->isWindowType() &&
+           QApplication::activePopupWidget() == nullptr;
+}
+
+/// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.
+bool KeyInput::takesKey(QKeyEvent& event)
+{
+    const int code = virtualKey(event);
+    const keycodes::RawKey key = rawKey(event, code);
+    if (code == 0) {
+        if (frmDiagnose.visible && event.type() == QEvent::KeyPress)
+            window_.onEvent([&] { frmDiagnose_KeyWithoutCode(key.physicalKey); });
+        return frmDiagnose.visible;
+    }
+    const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
+    // Asked before the key is handled: what is bound may change through it.
+    const bool taken = frmDiagnose.visible || (!sheet.Modifying && isBoundKey(code));
+    if (event.type() == QEvent::KeyPress) {
+        deliver(repeats_.down(key), shift);
+    } else {
+        deliver(repeats_.up(key), shift);
+        if (repeats_.hasPending())
+            heldRelease_.start(releaseWaits);
+    }
+    return taken;
+}
+
+static CaptureBox* captureBox()
+{
+    auto* const box = dynamic_cast<CaptureBox*>(QApplication::focusWidget());
+    return box != nullptr && box->takesKeys() ? box : nullptr;
+}
+
+/// True if the key is for a capture box, or still that of one.
+bool KeyInput::isCaptured(QKeyEvent& event)
+{
+    const int code = virtualKey(event);
+    if (captureBox() == nullptr && !captured_.contains(code))
+        return false;
+    if (code == 0)
+        return true;
+    const keycodes::RawKey key = rawKey(event, code);
+    if (event.type() == QEvent::KeyRelease) {
+        deliver(repeats_.up(key), 0);
+        if (repeats_.hasPending())
+            heldRelease_.start(releaseWaits);
+        return true;
+    }
+    for (const keycodes::KeyEvent& one : repeats_.down(key)) {
+        if (!one.isDown) {
+            deliver(one, 0);
+        } else if (!captured_.contains(one.code)) { // else it repeats
+            captured_.insert(one.code);
+            if (CaptureBox* const box = captureBox())
+                box->keyWentDown(one.code, event.text());
+        }
+    }
+    return true;
+}
+
+void KeyInput::deliver(const keycodes::KeyRepeatFilter::Events& events, int shift)
+{
+    for (const keycodes::KeyEvent& key : events)
+        deliver(key, shift);
+}
+
+void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
+{
+    if (!key.isDown && captured_.remove(key.code)) {
+        if (CaptureBox* const box = captureBox())
+            box->keyCameUp(key.code);
+        return;
+    }
+    window_.onEvent([&] {
+        if (frmDiagnose.visible)
+            key.isDown ? frmDiagnose_KeyDown(key.code) : frmDiagnose_KeyUp(key.code);
+        else if (inDiagram_)
+            key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
+        else
+            key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
+    });
+}
+
+/// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
+/// counts.
+static bool isForShortcuts(const QKeyEvent& event, int code)
+{
+    constexpr int alt = 18;
+    return (event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z') ||
+           (event.modifiers().testFlag(Qt::AltModifier) && !isBoundKey(alt));
+}
+
+bool KeyInput::eventFilter(QObject* target, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (isForCounting(target) || isForDiagnosis(target)) {
+            inDiagram_ = target == window_.diagramWindow().windowHandle();
+            return takesKey(static_cast<QKeyEvent&>(*event));
+        }
+        if (target->isWindowType() && isCaptured(static_cast<QKeyEvent&>(*event)))
+            return true;
+        if (target->isWindowType() &&
+            event->type() == QEvent::KeyPress) // a box of another window takes it next
+            sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
+        return false;
+    case QEvent::ShortcutOverride: {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (captureBox() != nullptr) {
+            key.accept();
+            return true;
+        }
+        const QWidget* const active = QApplication::activeWindow();
+        const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
+                              QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
+        const int code = inWindow ? virtualKey(key) : 0;
+        if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))
+            return false;
+        key.accept(); // no menu and no shortcut takes a key that counts
+        return true;
+    }
+    case QEvent::MouseButtonPress: // before it takes the focus from a capture box whose key has come up
+        if (!captured_.isEmpty())
+            deliver(repeats_.flush(), 0);
+        return false;
+    case QEvent::Show: // an opened menu or list takes the keyboard, key-ups included
+        if (target->isWidgetType() && static_cast<QWidget*>(target)->windowType() == Qt::Popup)
+            keyboardLost();
+        return false;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,79 @@
+#include "window/legible_style.h"
+
+#include <QPalette>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double enough = 4.6; // styles shade what a text stands on a little
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+QColor mixed(const QColor& from, const QColor& to, double share)
+{
+    const auto part = [share](int a, int b) { return static_cast<int>(std::lround(a + share * (b - a))); };
+    return {part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
+}
+
+struct TextOnGround {
+    QPalette::ColorRole text;
+    QList<QPalette::ColorRole> grounds;
+};
+
+const QList<TextOnGround>& texts()
+{
+    static const QList<TextOnGround> all = {{QPalette::WindowText, {QPalette::Window, QPalette::Base}},
+                                            {QPalette::Text, {QPalette::Base, QPalette::Window}},
+                                            {QPalette::ButtonText, {QPalette::Button, QPalette::Window}},
+                                            {QPalette::HighlightedText, {QPalette::Highlight}},
+                                            {QPalette::ToolTipText, {QPalette::ToolTipBase}},
+                                            {QPalette::Link, {QPalette::Base, QPalette::Window}},
+                                            {QPalette::LinkVisited, {QPalette::Base, QPalette::Window}}};
+    return all;
+}
+
+} // namespace
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+QColor legible(const QColor& text, const QColor& strong, const QList<QColor>& grounds)
+{
+    const auto reads = [&grounds](const QColor& colour) {
+        return std::all_of(grounds.begin(), grounds.end(),
+                           [&colour](const QColor& ground) { return contrast(colour, ground) >= enough; });
+    };
+    constexpr int steps = 16;
+    for (int step = 0; step < steps; ++step)
+        if (const QColor colour = mixed(text, strong, step / double(steps)); reads(colour))
+            return colour;
+    return strong;
+}
+
+void LegibleStyle::polish(QPalette& colours)
+{
+    QProxyStyle::polish(colours);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (const TextOnGround& pair : texts()) {
+            QList<QColor> grounds;
+            for (const QPalette::ColorRole ground : pair.grounds)
+                grounds += colours.color(group, ground);
+            if (pair.text == QPalette::ButtonText)
+                grounds += grounds.front().lighter(145); // buttons are shaded
+            const bool onDark = contrast(Qt::white, grounds.front()) > contrast(Qt::black, grounds.front());
+            colours.setColor(
+                group, pair.text,
+                legible(colours.color(group, pair.text), onDark ? Qt::white : Qt::black, grounds));
+        }
+}

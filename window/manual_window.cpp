@@ -1,0 +1,186 @@
+#include "window/manual_window.h"
+
+#include "extras/manual.h"
+#include "platform/ports.h"
+#include "window/bring_forward.h"
+#include "window/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextTable>
+#include <QToolBar>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+/// The page with the list of all others, or an empty address.
+static QUrl contentsPage()
+{
+    const QString executable = QCoreApplication::applicationDirPath();
+    for (const QString& folder : {QString::fromStdString(ports.programFolder), executable,
+                                  executable + "/../share/doc/tallystrata"}) // of an installed package
+        if (const QFileInfo page(folder + "/docs/manual/index.md"); page.isFile())
+            return QUrl::fromLocalFile(page.canonicalFilePath());
+    return {};
+}
+
+/// Shows Markdown with what the toolkit leaves out: places to jump to, lines in tables, pictures that fit.
+class ManualPages : public QTextBrowser {
+public:
+    ManualPages()
+    {
+        setObjectName("pages");
+        setAccessibleName("Manual");
+        setFrameShape(QFrame::NoFrame);
+        setOpenLinks(true);
+        document()->setDocumentMargin(24);
+        // Told of each page, also of those that Back and Forward bring.
+        connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
+            layOutHeadings();
+            layOutTables();
+            underlineLinks();
+            scrollToAnchor(page.fragment());
+        });
+    }
+
+protected:
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        QVariant found = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource || found.typeId() != QMetaType::QByteArray)
+            return found;
+        constexpr double widest = 780;
+        constexpr double dotsPerMetre = 96 / 0.0254;
+        const QImage picture =
+            QImage::fromData(found.toByteArray()).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        if (picture.isNull())
+            return picture;
+        // Pictures may have more pixels than they are to be wide; their density tells. Each gets as many as
+        // the screen has for it, so that the screen need not stretch it.
+        const double width = std::min(widest, picture.width() * dotsPerMetre / picture.dotsPerMeterX());
+        QImage shown = picture.scaledToWidth(qRound(width * devicePixelRatioF()), Qt::SmoothTransformation);
+        shown.setDevicePixelRatio(devicePixelRatioF());
+        return shown;
+    }
+
+private:
+    /// Room above each; and a name as links name it: "Number pads, keypads" is "number-pads-keypads".
+    void layOutHeadings()
+    {
+        constexpr int room[] = {0, 0, 22, 14}; // by level; the first one stands at the top
+        static const QRegularExpression signs("[^\\w -]", QRegularExpression::UseUnicodePropertiesOption);
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+            const int level = block.blockFormat().headingLevel();
+            if (level == 0)
+                continue;
+            QTextCharFormat named;
+            named.setAnchor(true);
+            named.setAnchorNames({block.text().toLower().remove(signs).replace(' ', '-')});
+            QTextCursor whole(block);
+            whole.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            whole.mergeCharFormat(named);
+            QTextBlockFormat apart;
+            apart.setTopMargin(room[std::min(level, 3)]);
+            apart.setBottomMargin(6);
+            whole.mergeBlockFormat(apart);
+        }
+    }
+
+    /// A colour alone is not enough for every eye.
+    void underlineLinks()
+    {
+        QTextCharFormat underlined;
+        underlined.setFontUnderline(true);
+        std::vector<std::pair<int, int>> links; // found first: a change may join one to what stands beside it
+        for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part)
+                if (const QTextFragment text = part.fragment(); !text.charFormat().anchorHref().isEmpty())
+                    links.emplace_back(text.position(), text.position() + text.length());
+        for (const auto& [begin, end] : links) {
+            QTextCursor link(document());
+            link.setPosition(begin);
+            link.setPosition(end, QTextCursor::KeepAnchor);
+            link.mergeCharFormat(underlined);
+        }
+    }
+
+    void layOutTables()
+    {
+        for (QTextFrame* const frame : document()->rootFrame()->childFrames()) {
+            auto* const table = qobject_cast<QTextTable*>(frame);
+            if (table == nullptr)
+                continue;
+            QTextTableFormat format = table->format();
+            format.setBorder(1);
+            format.setBorderCollapse(true);
+            format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            format.setBorderBrush(palette().mid());
+            format.setCellSpacing(0);
+            format.setCellPadding(4);
+            format.setTopMargin(6);
+            format.setBottomMargin(10);
+            table->setFormat(format);
+        }
+    }
+};
+
+ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPages)
+{
+    setObjectName("frmManual");
+    setWindowTitle("TallyStrata manual");
+    setCentralWidget(pages_);
+    QToolBar* const bar = addToolBar("Pages");
+    bar->setMovable(false);
+    bar->toggleViewAction()->setEnabled(false); // a hidden bar would leave no way back
+    QAction* const contents = bar->addAction("Contents", this, [this] { pages_->setSource(contentsPage()); });
+    contents->setShortcut(Qt::ALT | Qt::Key_Home);
+    QAction* const back = bar->addAction("Back", pages_, &QTextBrowser::backward);
+    back->setShortcut(QKeySequence::Back);
+    back->setEnabled(false);
+    connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    QAction* const forward = bar->addAction("Forward", pages_, &QTextBrowser::forward);
+    forward->setShortcut(QKeySequence::Forward);
+    forward->setEnabled(false);
+    connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    const QRect free = screen()->availableGeometry();
+    resize(QSize(860, 680).boundedTo(free.size() - QSize(8, 40)));
+    move(free.right() - width() - 8, free.top() + (free.height() - height() - 40) / 2); // beside the sheet
+}
+
+void ManualWindow::present()
+{
+    if (frmManual.visible && pages_->source().isEmpty()) {
+        if (const QUrl contents = contentsPage(); contents.isValid())
+            pages_->setSource(contents);
+        else
+            pages_->setPlainText("The manual (the folder docs) is not beside the program.");
+    }
+    if (isVisible() != frmManual.visible)
+        setVisible(frmManual.visible);
+    if (frmManual.forwardRevision != forwardShown_) {
+        forwardShown_ = frmManual.forwardRevision;
+        bringForward(*this);
+    }
+}
+
+void ManualWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the record says whether it is open
+    main_.onEvent(closeManual);
+}
+
+void ManualWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QMainWindow::keyPressEvent(event);
+}

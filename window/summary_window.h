@@ -1,0 +1,14 @@
+#pragma once
+
+#include "window/form_window.h"
+
+class SummaryWindow : public FormWindow {
+public:
+    explicit SummaryWindow(MainWindow& main);
+
+protected:
+    void presentMore() override;
+
+private:
+    QPlainTextEdit* ranking_; ///< fills the window
+};

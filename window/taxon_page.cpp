@@ -1,0 +1,179 @@
+#include "window/taxon_page.h"
+
+#include "core/highlight.h"
+#include "core/main_screen.h"
+#include "sheet/cell_grid.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+
+namespace {
+
+constexpr int pageWidth = 12945; // twips: the grid and its margins
+constexpr int pageHeight = 4860;
+constexpr int indexHeight = 225;
+constexpr int twipsPerPoint = 20;
+constexpr int indexLetters = 7; // points
+
+QLineEdit* cellBox(QWidget* page, Qt::Alignment alignment)
+{
+    auto* const box = new QLineEdit(page);
+    box->setFrame(false);
+    box->setReadOnly(true);
+    box->unsetCursor(); // the sheet's pointer holds here too
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setContextMenuPolicy(Qt::NoContextMenu);
+    box->setAlignment(alignment);
+    // The cells keep their told colours in a dark theme too, so their letters are dark in any.
+    QPalette colours = box->palette();
+    colours.setColor(QPalette::Text, Qt::black);
+    colours.setColor(QPalette::Base, Qt::white);
+    box->setPalette(colours);
+    return box;
+}
+
+} // namespace
+
+TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
+{
+    setMinimumSize(pageWidth / 24, pageHeight / 24);
+    for (int i = 0; i < keysPerLayer; ++i) {
+        names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
+        counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
+        indexes_ += new QLabel(this);
+        indexes_.back()->setAlignment(Qt::AlignCenter);
+    }
+}
+
+QRect TaxonPage::scaled(int left, int top, int width, int height) const
+{
+    const auto pixels = [this](int twips) { return qRound(twips * pixelsPerTwip_); };
+    return {QPoint(leftMargin_ + pixels(left), pixels(top)),
+            QPoint(leftMargin_ + pixels(left + width) - 1, pixels(top + height) - 1)};
+}
+
+QRect TaxonPage::cellRect(int slot) const
+{
+    return names_[slot - firstSlot_]->geometry().united(counts_[slot - firstSlot_]->geometry());
+}
+
+double TaxonPage::frameWidth() const
+{
+    return std::max(2.0, 45 * pixelsPerTwip_);
+}
+
+void TaxonPage::placeCells()
+{
+    QList<int> wanted = {width(), height()};
+    wanted.reserve(2 + 3 * keysPerLayer);
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot)
+        wanted << frmMain.Text1[slot].top << frmMain.Text1[slot].left << frmMain.Text1[slot].fontSize;
+    if (wanted == placed_)
+        return;
+    placed_ = wanted;
+
+    pixelsPerTwip_ = std::min(width() / double(pageWidth), height() / double(pageHeight));
+    leftMargin_ = static_cast<int>((width() - pageWidth * pixelsPerTwip_) / 2);
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        const TextBox& name = frmMain.Text1[slot];
+        const TextBox& count = frmMain.Text2[slot];
+        const Label& index = frmMain.Label1[slot];
+        nameBox(slot)->setGeometry(scaled(name.left, name.top, cellNameWidth, cellCountBelow));
+        countBox(slot)->setGeometry(scaled(count.left, count.top, cellNameWidth, cellCountHeight));
+        indexLabel(slot)->setGeometry(
+            scaled(index.left, index.top, cellNameWidth - 2 * cellIndexInset, indexHeight));
+        sizeLetters(nameBox(slot), name.fontSize);
+        sizeLetters(countBox(slot), count.fontSize);
+        sizeLetters(indexLabel(slot), indexLetters);
+    }
+    update();
+}
+
+void TaxonPage::sizeLetters(QWidget* widget, int points) const
+{
+    QFont letters = widget->font();
+    letters.setPixelSize(std::max(1, qRound(points * twipsPerPoint * pixelsPerTwip_)));
+    if (letters != widget->font())
+        widget->setFont(letters);
+}
+
+void TaxonPage::makeEditable(bool editable)
+{
+    setAutoFillBackground(editable);
+    QList<int> order;
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        order << slot;
+        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
+            box->setReadOnly(!editable);
+            box->setFrame(editable);
+            box->setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
+            box->unsetCursor(); // the sheet's pointer holds here
+            if (!editable)
+                box->deselect();
+        }
+    }
+    std::sort(order.begin(), order.end(), [](int one, int other) {
+        const auto place = [](int slot) {
+            return std::pair(frmMain.Text1[slot].top, frmMain.Text1[slot].left);
+        };
+        return place(one) < place(other);
+    });
+    QWidget* last = nullptr;
+    for (const int slot : order)
+        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
+            if (last != nullptr)
+                setTabOrder(last, box);
+            last = box;
+        }
+}
+
+void TaxonPage::frameCells()
+{
+    QList<int> framed;
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot)
+        if (frmMain.Text1[slot].backColor != plainRow)
+            framed << slot;
+    if (framed == framed_)
+        return;
+    for (const int changed : framed_ + framed)
+        update(cellRect(changed).marginsAdded(QMargins() + static_cast<int>(frameWidth() + 1)));
+    framed_ = framed;
+}
+
+void TaxonPage::resizeEvent(QResizeEvent*)
+{
+    placeCells();
+}
+
+void TaxonPage::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    // The six blocks of the keyboard, so that the eye finds a key's place at once.
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    QColor block = palette().color(dark ? QPalette::Light : QPalette::Mid);
+    block.setAlpha(60);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(block);
+    for (const int left : {240, 4560, 8880}) {
+        painter.drawRoundedRect(scaled(left - 105, 225, 4035, 1740), 6, 6);
+        painter.drawRoundedRect(scaled(left - 105, 2025, 4035, 2685), 6, 6);
+    }
+
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        const QRectF cell = cellRect(slot);
+        if (event->rect().intersects(cell.toAlignedRect().adjusted(-2, -2, 2, 2)))
+            painter.drawRect(cell.adjusted(-0.5, -0.5, 0.5, 0.5));
+    }
+
+    const double width = frameWidth();
+    painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    for (const int slot : framed_)
+        painter.drawRect(QRectF(cellRect(slot)).adjusted(-width / 2, -width / 2, width / 2, width / 2));
+}
