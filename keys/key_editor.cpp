@@ -2,11 +2,11 @@
 
 #include "core/character_rule.h"
 #include "core/forms.h"
+#include "core/key_grid.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "keys/key_commit.h"
-#include "keys/key_grid.h"
 #include "keys/key_settings.h"
 #include "platform/ports.h"
 
