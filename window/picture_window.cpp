@@ -8,8 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-PictureWindow::PictureWindow(MainWindow& main)
-    : FormWindow(main, "frmPicture", "Are you tired?", frmPicture.visible, closePicture)
+PictureWindow::PictureWindow(MainWindow& main) : FormWindow(main, "frmPicture", "Are you tired?", {})
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     resize(864, 540);
