@@ -53,4 +53,5 @@ void connectRooms()
     hooks.DrawDiversity = DrawDiversity;
     hooks.RefreshDiagram = refreshDiagram;
     hooks.RedrawDiagram = redrawDiagram;
+    hooks.SampleRenamed = followSampleNames;
 }

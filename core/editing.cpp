@@ -35,17 +35,38 @@ void typeInto(TextBox& box, std::string_view text, int caret)
     keepToCharacterRule(box);
 }
 
+void tellOfName(std::string_view name)
+{
+    const std::size_t comma = name.find(',');
+    const bool signedName = name.starts_with('-');
+    std::string digits(name.substr(signedName ? 1 : 0));
+    std::replace(digits.begin(), digits.end(), ',', '0');
+    if (comma == std::string_view::npos || comma == (signedName ? 1U : 0U) || comma + 1 == name.size() ||
+        name.find(',', comma + 1) != std::string_view::npos ||
+        digits.find_first_not_of("0123456789") != std::string::npos)
+        return;
+    std::string number(name);
+    number[comma] = '.';
+    frmMain.notice =
+        "'" + std::string(name) + "' is no number, so the diagram has no depth scale: write " + number + ".";
+}
+
 bool hasUnsavedWork()
 {
     return sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled;
 }
 
+void touchSheet()
+{
+    sheet.UnsavedEdits = true;
+    frmMain.readingNotice.clear();
+}
+
 void markUnsavedWork()
 {
+    touchSheet();
     sheet.SheetPristine = false;
-    if (sheet.Modifying)
-        sheet.UnsavedEdits = true;
-    else
+    if (!sheet.Modifying)
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
 }
 
@@ -55,7 +76,9 @@ void Text1_Edited(int slot, std::string_view text, int caret)
     typeInto(frmMain.Text1[slot], text, caret);
     if (frmMain.Text1[slot].text == before)
         return;
-    sheet.UnsavedEdits = true;
+    touchSheet();
+    if (slot == 0)
+        tellOfName(frmMain.Text1[0].text);
     Text1_Change(slot);
 }
 
@@ -67,7 +90,7 @@ void Text2_Edited(int slot, std::string_view text, int caret)
     box.caret = caret;
     Text2_Change(slot);
     if (box.text != before)
-        sheet.UnsavedEdits = true;
+        touchSheet();
     box.caret = std::min(caret, static_cast<int>(box.text.size())); // a refused number has gone
 }
 
@@ -78,7 +101,7 @@ void Text4_Edited(std::string_view text, int caret)
     if (frmMain.Text4.text == before)
         return;
     sheet.SampleNote(sheet.CurrentSample, 0) = frmMain.Text4.text;
-    sheet.UnsavedEdits = true;
+    touchSheet();
     sheet.SheetPristine = false;
 }
 
@@ -94,7 +117,7 @@ void Text5_Edited(int item, std::string_view text, int caret)
     if (frmMain.Text5[item].text == before)
         return;
     storeText5(item);
-    sheet.UnsavedEdits = true;
+    touchSheet();
     sheet.SheetPristine = false;
     frmMain.mnuNew.enabled = true;
 }
@@ -151,7 +174,8 @@ void renameShownSample(std::string_view name, int caret)
         frmMain.Combo2.text = frmMain.Text1[0].text;
         return;
     }
-    sheet.UnsavedEdits = true;
+    touchSheet();
+    tellOfName(typed.text);
     setText1(0, typed.text);
     frmMain.Combo2.text = typed.text;
     listSampleNames();

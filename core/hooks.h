@@ -15,6 +15,7 @@ struct Hooks {
     void (*DrawDiversity)() = [] {};  ///< the all total has changed
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
     void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
+    void (*SampleRenamed)() = [] {};  ///< the sample on show, while the diagram is open
 };
 
 extern Hooks hooks;

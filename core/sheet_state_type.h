@@ -89,6 +89,7 @@ struct SheetState {
     std::array<std::array<std::string, 5>, 4> DateHeader;                   ///< rows 1 to 3
     int FileGeneration = 3;      ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
     bool TemplateOpened = false; ///< the sheet came from a template and has not been saved since
+    bool ReadInPart = false;     ///< its file could not be read whole: it is not that file until it is saved
     std::array<std::int16_t, sampleColumns> SampleSerial{}; ///< column -> serial number, as last read
     std::array<std::int16_t, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
     std::string SheetPath;                                  ///< UTF-8; shorter than 4 characters: no file yet
@@ -135,7 +136,7 @@ struct SheetState {
 
     // Modes and marks.
     bool Modifying = false;        ///< "Modify template": keys edit and do not count
-    bool UnsavedEdits = false;     ///< in that mode: there is work to save, from before it or of it
+    bool UnsavedEdits = false;     ///< something was counted or edited; in that mode also before it
     bool SheetPristine = true;     ///< no count and no edit since the last reset of the sheet
     bool FreshSheet = true;        ///< no accepted key yet: nothing is logged
     bool WarnNotLatest = true;     ///< counting in another than the latest sample asks first

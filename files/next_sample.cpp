@@ -1,6 +1,7 @@
 #include "files/next_sample.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/return_to_main.h"
@@ -141,8 +142,9 @@ bool AddSample()
     reloadDiagram();
     // 15.
     TakeSnapshot();
-    sheet.SheetPristine = false;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = frmMain.mnuNew.enabled = true;
+    markUnsavedWork();
+    frmMain.mnuNew.enabled = true;
+    tellOfName(name);
     return true;
 }
 

@@ -35,7 +35,8 @@ enum Place : std::uint8_t {
     left = 113,
     right = 114,
     down = 116,
-    deleteKey = 119
+    deleteKey = 119,
+    leftSuper = 133
 };
 
 class RealKeys : public WindowTest {

@@ -128,7 +128,7 @@ void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)
     if (!sheet.Modifying || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
         return;
     const auto [name, index] = controlOf(box);
-    onEvent([&, name = name, index = index] {
+    onPassing([&, name = name, index = index] {
         if (name == "Text1")
             Text1_GotFocus(index);
         else if (name == "Text2")
