@@ -33,8 +33,6 @@
 
 namespace {
 
-constexpr std::size_t sheetLimit = 256u << 20; // the fullest sheet takes less than a megabyte
-
 /// Steps 1 to 4. True if the sheet in memory may go.
 bool mayGo(bool dropped)
 {
@@ -240,7 +238,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     sheet.FreshSheet = true;
     if (const auto path = choose()) {
         if (const auto bytes = ports.files->read(*path, sheetLimit))
-            openSheetText(fileTextInCodePage(*bytes), *path);
+            openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
         else
             frmMain.notice = "The file could not be read.";
     }
@@ -251,7 +249,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
 
 } // namespace
 
-void openSheetText(const std::string& text, const std::string& path)
+void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
     const auto name = baseName(path);
     if (!name || !FieldReader(text).next()) {
@@ -264,6 +262,7 @@ void openSheetText(const std::string& text, const std::string& path)
     const std::string_view readable = readablePart(text, fault);
     if (readable.size() < text.size() && fault->line <= 3)
         emptySheet();
+    sheet.KnownFile = file;
     DataSheetReader reader(readable, sheet);
     const Reading reading = readSheet(reader, path, *name);
     if (reading == Reading::complete || reading == Reading::percentages) {

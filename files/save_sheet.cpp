@@ -87,7 +87,11 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
     if (mode == plain && !sheet.FreshSheet)
         modified = dateStamp(now);
     fillEmptyCells(sheet, shownCaptions());
-    if (!ports.files->write(path, fileText(mode, totals))) {
+    const std::string text = fileText(mode, totals);
+    const bool written = ports.files->write(path, text);
+    if (path == sheetPath && (written || path == sheet.SheetPath))
+        sheet.KnownFile = written ? fingerprintOf(text) : fingerprintOfFile(path);
+    if (!written) {
         sheet.SheetHeader[1] = headBefore;
         modified = modifiedBefore;
         if (path == sheet.SheetPath)
