@@ -1,6 +1,7 @@
 #include "diagram/diagram_window.h"
 
 #include "core/program_test.h"
+#include "core/text_changes.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"

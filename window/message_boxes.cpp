@@ -63,8 +63,10 @@ QString MessageBoxes::startFolder() const
     const QFileInfo sheetFile(QString::fromStdString(sheet.SheetPath));
     if (!sheet.SheetPath.empty() && sheetFile.isAbsolute() && sheetFile.dir().exists())
         return sheetFile.path();
-    return lastFolder_.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                 : lastFolder_;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return !lastFolder_.isEmpty()    ? lastFolder_
+           : QDir(documents).exists() ? documents
+                                      : QDir::homePath();
 }
 
 std::optional<std::string> MessageBoxes::run(QFileDialog& dialog)
