@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
+#include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/text_changes.h"
@@ -37,18 +38,11 @@ void typeInto(TextBox& box, std::string_view text, int caret)
 
 void tellOfName(std::string_view name)
 {
-    const std::size_t comma = name.find(',');
-    const bool signedName = name.starts_with('-');
-    std::string digits(name.substr(signedName ? 1 : 0));
-    std::replace(digits.begin(), digits.end(), ',', '0');
-    if (comma == std::string_view::npos || comma == (signedName ? 1U : 0U) || comma + 1 == name.size() ||
-        name.find(',', comma + 1) != std::string_view::npos ||
-        digits.find_first_not_of("0123456789") != std::string::npos)
-        return;
     std::string number(name);
-    number[comma] = '.';
-    frmMain.notice =
-        "'" + std::string(name) + "' is no number, so the diagram has no depth scale: write " + number + ".";
+    std::replace(number.begin(), number.end(), ',', '.');
+    if (number != name && isDepth(number))
+        frmMain.notice = "'" + std::string(name) +
+                         "' is no number, so the diagram has no depth scale: write " + number + ".";
 }
 
 bool hasUnsavedWork()

@@ -1,13 +1,13 @@
 #include "diagram/diagram_window.h"
 
 #include "core/program_test.h"
+#include "core/sample_move.h"
 #include "core/text_changes.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_view.h"
 #include "diagram/figures.h"
-#include "diagram/sample_move.h"
 #include "sheet/basis.h"
 
 #include <cmath>
@@ -22,6 +22,7 @@ protected:
     Diagram()
     {
         frmDiagram = DiagramForm();
+        hooks.ReorderDiagram = reorderDiagram;
         hooks.RefreshDiagram = refreshDiagram;
         hooks.RedrawDiagram = redrawDiagram;
         addSamples(5);

@@ -3,17 +3,17 @@
 #include "core/action_log.h"
 #include "core/fields.h"
 #include "core/highlight.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/reset_sheet.h"
+#include "core/sample_names.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
-#include "diagram/diagram_window.h"
-#include "diagram/sample_names.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
 #include "files/new_sheet.h"
@@ -57,7 +57,7 @@ bool mayGo(bool dropped)
         return false;
     }
     RestoreSnapshot();
-    closeDiagram(); // also if the dialog is cancelled then
+    hooks.CloseDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
         sheet.UndoStack[i].slot = 0;
     return true;
@@ -256,7 +256,7 @@ void openSheetText(const std::string& text, const std::string& path, const std::
         frmMain.notice = name ? "The file is empty." : "A data sheet's name has an ending: .csv.";
         return;
     }
-    closeDiagram(); // it shows the sheet that goes
+    hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
     const auto fault = firstLineFault(text);
     const std::string_view readable = readablePart(text, fault);
