@@ -52,15 +52,22 @@ bool hasUnsavedWork()
 
 void touchSheet()
 {
-    sheet.UnsavedEdits = true;
     frmMain.readingNotice.clear();
+}
+
+void markEdited()
+{
+    touchSheet();
+    sheet.UnsavedEdits = true;
 }
 
 void markUnsavedWork()
 {
     touchSheet();
     sheet.SheetPristine = false;
-    if (!sheet.Modifying)
+    if (sheet.Modifying)
+        sheet.UnsavedEdits = true;
+    else
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
 }
 
@@ -70,7 +77,7 @@ void Text1_Edited(int slot, std::string_view text, int caret)
     typeInto(frmMain.Text1[slot], text, caret);
     if (frmMain.Text1[slot].text == before)
         return;
-    touchSheet();
+    markEdited();
     if (slot == 0)
         tellOfName(frmMain.Text1[0].text);
     Text1_Change(slot);
@@ -84,7 +91,7 @@ void Text2_Edited(int slot, std::string_view text, int caret)
     box.caret = caret;
     Text2_Change(slot);
     if (box.text != before)
-        touchSheet();
+        markEdited();
     box.caret = std::min(caret, static_cast<int>(box.text.size())); // a refused number has gone
 }
 
@@ -95,7 +102,7 @@ void Text4_Edited(std::string_view text, int caret)
     if (frmMain.Text4.text == before)
         return;
     sheet.SampleNote(sheet.CurrentSample, 0) = frmMain.Text4.text;
-    touchSheet();
+    markEdited();
     sheet.SheetPristine = false;
 }
 
@@ -111,7 +118,7 @@ void Text5_Edited(int item, std::string_view text, int caret)
     if (frmMain.Text5[item].text == before)
         return;
     storeText5(item);
-    touchSheet();
+    markEdited();
     sheet.SheetPristine = false;
     frmMain.mnuNew.enabled = true;
 }
@@ -168,7 +175,7 @@ void renameShownSample(std::string_view name, int caret)
         frmMain.Combo2.text = frmMain.Text1[0].text;
         return;
     }
-    touchSheet();
+    markEdited();
     tellOfName(typed.text);
     setText1(0, typed.text);
     frmMain.Combo2.text = typed.text;

@@ -138,12 +138,12 @@ struct SheetState {
     bool KeysActive = true;   ///< false while the % button is held: nothing counts, nothing is stored
 
     // Modes and marks.
-    bool Modifying = false;        ///< "Modify template": keys edit and do not count
-    bool UnsavedEdits = false;     ///< something was counted or edited; in that mode also before it
-    bool SheetPristine = true;     ///< no count and no edit since the last reset of the sheet
-    bool FreshSheet = true;        ///< no accepted key yet: nothing is logged
-    bool WarnNotLatest = true;     ///< counting in another than the latest sample asks first
-    bool AlarmArmed = true;        ///< the next hundred rings
+    bool Modifying = false;    ///< "Modify template": keys edit and do not count
+    bool UnsavedEdits = false; ///< something was edited or taken back; in that mode also work from before it
+    bool SheetPristine = true; ///< no count and no edit since the last reset of the sheet
+    bool FreshSheet = true;    ///< no accepted key yet: nothing is logged
+    bool WarnNotLatest = true; ///< counting in another than the latest sample asks first
+    bool AlarmArmed = true;    ///< the next hundred rings
     std::int16_t HighlightRow = 0; ///< slot of the pale row, 0 for none
     std::int16_t FoundSlot = 0;    ///< slot of the taxon that frmFind shows or showed last, 0 for none
     std::int16_t MoveSource = 0;   ///< slot that a move would start from

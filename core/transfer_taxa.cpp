@@ -82,7 +82,7 @@ void TransferTaxa(int target)
     RecountTotals(sheet.CurrentSample);
     underlineBasis();
     // 8.
-    touchSheet();
+    markEdited();
     sheet.SheetPristine = false;
     frmMain.mnuNew.enabled = true;
 }

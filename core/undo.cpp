@@ -50,7 +50,7 @@ static void takeBack(UndoEntry entry)
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
               frmMain.Text1[slot].text);
     frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true; // taking back is work to save too
-    touchSheet();
+    markEdited();
 }
 
 void Undo()

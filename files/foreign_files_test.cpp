@@ -212,8 +212,8 @@ TEST_F(ForeignFiles, aFileThatWasReadInPartIsNotTheSheetsAndIsKeptBeforeItIsWrit
     EXPECT_EQ(files.contents.count(folder + "Before_core_(2).csv"), 0U);
 
     // Another sheet, or a copy, saved over such a file keeps it too, each under a name of its own.
-    openAs("/home/Lake1.csv", whole);
     for (const char* table : {"a,b\n1,2\n", "c,d\n3,4\n", "a,b\n1,2\n"}) {
+        openAs("/home/Lake1.csv", whole);
         files.contents["/home/core.csv"] = table;
         saveAs("/home/core.csv");
     }
@@ -224,6 +224,7 @@ TEST_F(ForeignFiles, aFileThatWasReadInPartIsNotTheSheetsAndIsKeptBeforeItIsWrit
 
 TEST_F(ForeignFiles, aPercentageTableIsRecognised)
 {
+    sheet.Count(1, 2) = 5;
     dialogs.paths.push_back("/home/percent.csv");
     mnuPercentAll_Click();
     EXPECT_EQ(dialogs.saveTitle, "Save percentage table");
@@ -241,7 +242,7 @@ TEST_F(ForeignFiles, aFileThatAnotherProgramHasChangedIsNotWrittenOverUnasked)
 {
     const std::string question =
         "'Lake1.csv' has been changed by another program. Do you want to write over it?";
-    const std::string theirs = replaced("note 1", "their note");
+    const std::string theirs = replaced("note 2", "their note");
     for (const bool opened : {false, true}) {
         if (opened)
             openAs("/home/Lake1.csv", whole);

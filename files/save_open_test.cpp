@@ -234,6 +234,8 @@ TEST_F(SheetFiles, aSheetWithDisorderedKeyIndexesCanBeSavedAndOpenedAgain)
         open(path);
         tap('Q', 2);
         const int counted = stored(1);
+        if (sheet.ReadInPart)
+            dialogs.paths.push_back(path);
         mnuSave_Click();
         sheet.SheetPristine = true;
         open(path);

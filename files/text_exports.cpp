@@ -16,7 +16,7 @@ static std::optional<std::string> chooseExport(const char* title, const char* pr
 void mnuSaveHistory_Click()
 {
     beginProgress(sheet.ActionCount);
-    if (const auto path = chooseExport("Save saturation curve", "Save history", "History.csv")) {
+    if (const auto path = chooseExport("Save history", "History.csv")) {
         if (ports.files->write(*path, historyText(sheet, logTime(ports.clock->now())))) {
             if (sheet.SoundOn)
                 ports.sound->play(Cue::SoundSave);
@@ -32,7 +32,7 @@ void mnuSaveHistory_Click()
 void SaveDiversity()
 {
     beginProgress(sheet.DiversityTotal);
-    if (const auto path = chooseExport("Saturation.csv"))
+    if (const auto path = chooseExport("Save saturation curve", "Saturation.csv"))
         if (ports.files->write(*path, saturationText(sheet, frmMain.Combo2.text)))
             giveFocusBack();
     endProgress();
