@@ -72,7 +72,7 @@ std::optional<LineFault> firstLineFault(std::string_view text)
 
 Contents contentsOf(std::string_view text)
 {
-    SheetState tables;
+    SheetTables tables;
     DataSheetReader reader(text, tables);
     if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
         return Contents::other;
