@@ -26,4 +26,5 @@ void connectRooms()
     hooks.ReorderDiagram = reorderDiagram;
     hooks.RefreshDiagram = refreshDiagram;
     hooks.RedrawDiagram = redrawDiagram;
+    hooks.SampleRenamed = followSampleNames;
 }

@@ -17,6 +17,7 @@ struct Hooks {
     void (*ReorderDiagram)() = [] {}; ///< its samples stand in another order
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
     void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
+    void (*SampleRenamed)() = [] {};  ///< the sample on show, while the diagram is open
 };
 
 extern Hooks hooks;

@@ -1,6 +1,7 @@
 #include "core/undo.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
@@ -49,6 +50,7 @@ static void takeBack(UndoEntry entry)
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
               frmMain.Text1[slot].text);
     frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true; // taking back is work to save too
+    markEdited();
 }
 
 void Undo()

@@ -1,6 +1,7 @@
 #include "files/open_sheet.h"
 
 #include "core/action_log.h"
+#include "core/fields.h"
 #include "core/forms.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
@@ -17,6 +18,7 @@
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
 #include "files/new_sheet.h"
+#include "files/reading_check.h"
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
@@ -35,9 +37,10 @@ namespace {
 /// Steps 1 to 4. True if the sheet in memory may go.
 bool mayGo(bool dropped)
 {
-    // No dialog follows a drop, so it asks wherever there is unsaved work.
+    // No dialog follows a drop, so it asks wherever there is unsaved work. Names that were edited leave the
+    // sheet pristine, and are work all the same.
     const bool unsaved = frmMain.Command5[0].enabled;
-    if (sheet.SheetPristine && !(dropped && unsaved))
+    if (sheet.SheetPristine && !(unsaved && (dropped || sheet.UnsavedEdits)))
         return true;
     if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
         ports.sound->play(Cue::SoundError);
@@ -50,6 +53,7 @@ bool mayGo(bool dropped)
                            Icon::question) != Answer::yes) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
+        sheet.UnsavedEdits = false;
         sheet.FreshSheet = false;
         return false;
     }
@@ -69,10 +73,8 @@ void showHeads()
     showSubtotalNames();
 
     listSampleNames();
-    if (last > 0) {
-        setText1(0, sheet.SampleField(last, 2));
-        frmMain.Combo2.text = sheet.SampleField(last, 2);
-    }
+    setText1(0, sheet.SampleField(last, 2)); // without samples that of column 0: no name yet
+    frmMain.Combo2.text = sheet.SampleField(last, 2);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     sheet.SampleTotal = 0;
     for (int total = 0; total < 3; ++total)
@@ -91,23 +93,39 @@ void showTaxon(int row)
 
 enum class Reading {
     complete,
-    failed,  ///< ended early
-    refused, ///< a key index stands twice
-    nothing  ///< not even a first field, or a path without a name: the sheet in memory stays
+    percentages, ///< complete, but no counts
+    failed,      ///< ended early
+    refused      ///< a key index stands twice
 };
 
+/// The part of a text that is read: behind a line with other than the expected fields every count would be
+/// another taxon's. Only if the fields come out even all the same is all of it read.
+std::string_view readablePart(std::string_view text, const std::optional<LineFault>& fault)
+{
+    if (!fault || fault->ends || contentsOf(text) != Contents::other)
+        return text;
+    if (fault->line > 1)
+        return text.substr(0, fault->begin);
+    FieldReader fields(text);
+    fields.next();
+    return text.substr(0, text.size() - fields.left()); // no more than what the sheet is called by
+}
+
+/// Nothing of the sheet before stands among what little is read of such a file.
+void emptySheet()
+{
+    const bool unnamed = sheet.SheetUnnamed;
+    resetSheet();
+    sheet.SheetUnnamed = unnamed;
+}
+
 /// Steps 8 to 15.
-Reading readSheet(std::string_view text, const std::string& path, const std::optional<Fingerprint>& file)
+Reading readSheet(DataSheetReader& reader, const std::string& path, const std::string& name)
 {
     const ShowingSample showing;
-    DataSheetReader reader(text, sheet);
-    const auto name = baseName(path);
-    if (!name || !reader.readPath())
-        return Reading::nothing;
     sheet.SheetPath = path;
-    sheet.KnownFile = file;
-    showSheetName(*name);
-    if (!reader.readSerials() || !reader.readNames())
+    showSheetName(name);
+    if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
         return Reading::failed;
     showHeads();
     for (int row = 1; row <= taxonSlots; ++row) {
@@ -127,7 +145,9 @@ Reading readSheet(std::string_view text, const std::string& path, const std::opt
         setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
     }
     RecountTotals(sheet.CurrentSample);
-    return reader.readTexts() ? Reading::complete : Reading::failed;
+    return !reader.readTexts()        ? Reading::failed
+           : isPercentageTable(sheet) ? Reading::percentages
+                                      : Reading::complete;
 }
 
 /// What can be taken back and the row counted last belong to the sheet before.
@@ -148,6 +168,7 @@ void endEarly()
     if (sheet.SampleCount == 0) { // a column to count in
         sheet.SampleCount = sheet.CurrentSample = 1;
         sheet.SampleField(1, 1) = "1";
+        sheet.SampleField(1, 2) = sheet.SampleField(0, 2);
     }
     forgetCounts();
     {
@@ -195,7 +216,7 @@ void settle()
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
     frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = sheet.UnsavedEdits = false;
     selectBasis(0);
     AutoBackup();
     ApplyItalics();
@@ -215,9 +236,12 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     if (!mayGo(dropped))
         return;
     sheet.FreshSheet = true;
-    if (const auto path = choose())
+    if (const auto path = choose()) {
         if (const auto bytes = ports.files->read(*path, sheetLimit))
             openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
+        else
+            frmMain.notice = "The file could not be read.";
+    }
     endProgress();
     ApplyItalics();
     TestSampleNames();
@@ -227,18 +251,37 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
 
 void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
+    const auto name = baseName(path);
+    if (!name || !FieldReader(text).next()) {
+        frmMain.notice = name ? "The file is empty." : "A data sheet's name has an ending: .csv.";
+        return;
+    }
     hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
-    const Reading reading = readSheet(text, path, file);
-    if (reading == Reading::complete) {
+    const auto fault = firstLineFault(text);
+    const std::string_view readable = readablePart(text, fault);
+    if (readable.size() < text.size() && fault->line <= 3)
+        emptySheet();
+    sheet.KnownFile = file;
+    DataSheetReader reader(readable, sheet);
+    const Reading reading = readSheet(reader, path, *name);
+    if (reading == Reading::complete || reading == Reading::percentages) {
         settle();
     } else if (reading == Reading::refused) {
         resetSheet();
         sheet.SheetPristine = true;
         sheet.FreshSheet = false;
-    } else if (reading == Reading::failed) {
+    } else {
         endEarly();
     }
+    sheet.ReadInPart = reading == Reading::percentages || reading == Reading::failed;
+    frmMain.readingNotice = reading == Reading::percentages
+                                ? "This is a percentage table: what stands in the "
+                                  "cells are rounded percentages, not counts."
+                            : reading == Reading::complete ? ""
+                            : fault                        ? tellFault(text, *fault)
+                            : reading == Reading::failed   ? tellUnreadLine(reader.line())
+                                                           : "";
     endProgress();
 }
 

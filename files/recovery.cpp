@@ -24,10 +24,10 @@ namespace {
 constexpr int delay = 5000; // milliseconds
 constexpr int places = 9;   // programs that may run at once
 
-/// A sheet begun from a template is not the template.
+/// A sheet begun from a template is not the template, nor is one that was read in part the whole file.
 std::string pathOfSheet()
 {
-    return sheet.TemplateOpened ? std::string() : sheet.SheetPath;
+    return sheet.TemplateOpened || sheet.ReadInPart ? std::string() : sheet.SheetPath;
 }
 
 /// False if the counts are not all on disk.

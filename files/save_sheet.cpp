@@ -7,6 +7,7 @@
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
 #include "files/fingerprint.h"
+#include "files/former_bytes.h"
 #include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
@@ -22,6 +23,13 @@ enum Mode { plain = 0, copy = 55, saveAs = 77, untouched = 99, percentageTable =
 bool isPercentageTable(int mode)
 {
     return mode >= percentageTable;
+}
+
+const char* dialogTitle(int mode)
+{
+    return mode == copy              ? "Save copy of data sheet"
+           : isPercentageTable(mode) ? "Save percentage table"
+                                     : "Save data sheet";
 }
 
 std::string proposedName(int mode)
@@ -45,6 +53,14 @@ void endFailed()
     ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
                        "Error", Buttons::ok, Icon::exclamation);
     endProgress();
+}
+
+/// Another program has been at the sheet's file.
+bool mayWriteOver(const std::string& path)
+{
+    return ports.dialogs->ask("'" + toCodePageFromUtf8(path.substr(path.find_last_of("\\/") + 1)) +
+                                  "' has been changed by another program. Do you want to write over it?",
+                              "Caution!", Buttons::yesNo, Icon::question) == Answer::yes;
 }
 
 std::string fileText(int mode, const std::vector<SampleTotals>& totals)
@@ -113,12 +129,12 @@ void SaveSheet(int mode)
         return;
     }
     const bool isTable = isPercentageTable(mode);
-    if (!isTable && (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != copy)))
+    if (!isTable && (sheet.SheetPath.empty() || ((sheet.TemplateOpened || sheet.ReadInPart) && mode != copy)))
         mode = saveAs;
 
     std::string path = sheet.SheetPath;
     if (mode == saveAs || mode == copy || isTable) {
-        const auto chosen = ports.dialogs->chooseFileToSave(proposedName(mode));
+        const auto chosen = ports.dialogs->chooseFileToSave(dialogTitle(mode), proposedName(mode));
         if (!chosen) {
             endCancelled();
             return;
@@ -130,6 +146,18 @@ void SaveSheet(int mode)
     if (namesSheet &&
         !name) { // a name without a point: the file is there, empty, and the sheet stays unnamed
         ports.files->create(path);
+        endFailed();
+        return;
+    }
+    const bool isOwn = path == sheet.SheetPath;
+    const bool changed = isOwn && !sheet.ReadInPart && sheetFileHasChanged();
+    if (changed && !mayWriteOver(path)) {
+        endCancelled();
+        return;
+    }
+    const bool unknown = changed || (isOwn && sheet.ReadInPart);
+    if ((unknown || (!isOwn && !isTable)) && !keepFormerBytes(path, unknown)) {
+        frmMain.notice = "What the file holds could not be kept among the backups: save under another name.";
         endFailed();
         return;
     }
@@ -147,7 +175,7 @@ void SaveSheet(int mode)
             markUnsavedWork(); // the sheet's own file holds no counts now
     } else if (mode != copy || path == sheet.SheetPath) {
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
-        sheet.TemplateOpened = false;
+        sheet.TemplateOpened = sheet.ReadInPart = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
     }
     if (sheet.SoundOn)

@@ -42,9 +42,10 @@ public:
     /// A message. Closing it by its frame or by Esc answers Cancel, else No, else OK: the
     /// last of them that it has.
     virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
-    /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists;
-    /// adds nothing to a name. `proposed` may be empty.
-    virtual std::optional<std::string> chooseFileToSave(const std::string& proposed) = 0;
+    /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists.
+    /// `title`: what is saved. `proposed`: a path, or a name for the folder of the sheet; may be empty.
+    virtual std::optional<std::string> chooseFileToSave(std::string_view title,
+                                                        const std::string& proposed) = 0;
     /// Path of a data file to read, or nothing if the user cancels.
     virtual std::optional<std::string> chooseFileToOpen() = 0;
     /// Path of a picture to write, with one of the endings .svg, .pdf and .png, or nothing if the user

@@ -5,6 +5,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "platform/ports.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/name_display.h"
 
@@ -73,6 +74,9 @@ static void endEditing()
     AmendingOnOff(1);
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false;
+    frmMain.notice = "Counting again"; // what is typed next would count
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
 }
 
 void Text1_DblClick()

@@ -93,6 +93,27 @@ TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
     EXPECT_EQ(total(), 1);
 }
 
+TEST_F(RealKeys, aKeyHeldWithAltCtrlOrSuperCountsNothingUnlessThatKeyIsBound)
+{
+    bind(1, 49); // 1
+    tap(placeQ);
+    tap(backspace);
+    EXPECT_EQ(total(), 0);
+    for (const Place held : {leftAlt, leftCtrl, leftSuper})
+        for (const Place key : {placeQ, digit1, backspace}) {
+            tapWith({held}, key);
+            EXPECT_EQ(total(), 0) << "place " << int(held) << ", " << int(key);
+            if (QApplication::activePopupWidget() != nullptr)
+                tap(escape);
+        }
+    tap(escape); // out of the menu bar
+    tap(digit1);
+    EXPECT_EQ(total(), 1);
+    bind(2, 91);
+    tapWith({leftSuper}, digit1);
+    EXPECT_EQ(total(), 3) << "both of them count";
+}
+
 TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
 {
     tapWith({place::ctrl}, place::q);

@@ -130,7 +130,7 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
     const bool isCell = control.kind != nullptr && control.kind->hovered != nullptr;
     switch (event->type()) {
     case QEvent::MouseMove:
-        onEvent(isCell ? control.kind->hovered : Form_MouseMove);
+        onPassing(isCell ? control.kind->hovered : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
@@ -156,12 +156,12 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         return false;
     case QEvent::FocusOut: {
         if (!sheet.KeysActive)
-            onEvent(Command6_MouseUp);
+            onPassing(Command6_MouseUp);
         // A message or a menu in front is no reason to think that the user is done with the box.
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
         if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
             frmMain.focus = MainFocus::elsewhere; // or the note would call it back
-            onEvent(leaveEditedBox);
+            onPassing(leaveEditedBox);
         }
         return false;
     }
@@ -265,7 +265,8 @@ void MainWindow::present()
         tabs_->setCurrentIndex(frmMain.SSTab1);
     if (const QString title = shownText(frmMain.caption); title != windowTitle())
         setWindowTitle(title);
-    if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
+    const QString notice = shownText(frmMain.notice.empty() ? frmMain.readingNotice : frmMain.notice);
+    if (notice != statusBar()->currentMessage())
         statusBar()->showMessage(notice);
     for (int total = 0; total < 3; ++total)
         hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);

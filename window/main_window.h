@@ -36,6 +36,14 @@ public:
     void onEvent(Handler&& handler)
     {
         beginEvent();
+        onPassing(handler);
+    }
+
+    /// The same where the mouse only passes or the focus follows a press or a key: what the line at the foot
+    /// says was not read yet.
+    template <class Handler>
+    void onPassing(Handler&& handler)
+    {
         {
             const UserEvent event;
             handler();
