@@ -15,6 +15,7 @@
 #include "extras/about.h"
 #include "extras/diagnose.h"
 #include "extras/pictures.h"
+#include "files/left_work.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -140,7 +141,8 @@ void Session::start()
     hooks = Hooks();
     connectRooms();
     hooks.EndProgram = [] { ended = true; };
-    ports = {&files, &dialogs, &sound_, &clock_, &timer_, &recoveryTimer_, &pictures_, "/program", 15360};
+    ports = {&files,     &dialogs,   &sound_, &clock_,        &timer_,      &recoveryTimer_,
+             &pictures_, "/program", 15360,   &journalTimer_, &pauseTimer_, &deadlineTimer_};
     ended = false;
     hands_.letGoOfAll();
     hands_.guardEnds();
@@ -159,6 +161,7 @@ void Session::event(const std::function<void()>& handler)
         handler();
     }
     watchUnsavedWork();
+    JournalTimer_Timer();
 }
 
 void Session::fromMenu(const std::function<void()>& handler)
