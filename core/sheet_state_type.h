@@ -95,7 +95,7 @@ struct SheetState {
     std::array<std::int16_t, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
     std::string SheetPath;                                  ///< UTF-8; shorter than 4 characters: no file yet
     std::optional<Fingerprint> KnownFile; ///< of the file at SheetPath as last read or written; none: no file
-    std::string ProposedPath;                               ///< UTF-8; name for the first save; empty: none
+    std::string ProposedPath;             ///< UTF-8; name for the first save; empty: none
     bool SheetUnnamed = true;             ///< no dialog has named the sheet yet
 
     std::int16_t SampleCount = 1;   ///< samples in the sheet, 1 to 250
