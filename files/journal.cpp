@@ -50,7 +50,7 @@ std::optional<JournalLine> readLine(std::string_view text, std::uint64_t number)
 }
 
 /// Column of a sample; 0 if the sheet has none and no room for one more.
-int columnOf(const JournalLine& line, SheetState& sheet)
+int columnOf(const JournalLine& line, SheetTables& sheet)
 {
     int sameSerial = 0;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
@@ -107,7 +107,7 @@ std::optional<Journal> readJournal(std::string_view text, std::optional<std::uin
     return journal;
 }
 
-std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetState& sheet)
+std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet)
 {
     SampleTable<std::int32_t, taxonSlots + 1> before = sheet.Count;
     const int columnsBefore = sheet.SampleCount;

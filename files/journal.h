@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 #include "files/recovery_label.h"
 
 #include <optional>
@@ -42,4 +42,4 @@ std::optional<Journal> readJournal(std::string_view text, std::optional<std::uin
 /// Puts the counts into a sheet. A sample is found by its serial number and name, else by its serial number;
 /// one that the sheet lacks becomes a column of it as long as there is room. Returns how many individuals
 /// the counts differ by, more and fewer added up.
-std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetState& sheet);
+std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet);

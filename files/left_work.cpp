@@ -46,16 +46,16 @@ bool removeFiles(const LeftFiles& left)
 }
 
 /// The sheet's own file, if it is as it was when the journal began.
-std::unique_ptr<SheetState> tablesOfFile(const RecoveryLabel& label)
+std::unique_ptr<SheetTables> tablesOfFile(const RecoveryLabel& label)
 {
     const auto bytes = label.path.empty() ? std::nullopt : ports.files->read(label.path, sheetLimit);
     if (!bytes || fingerprintOf(*bytes) != label.file)
         return nullptr;
-    auto tables = std::make_unique<SheetState>();
+    auto tables = std::make_unique<SheetTables>();
     return readDataSheet(fileTextInCodePage(*bytes), *tables) ? std::move(tables) : nullptr;
 }
 
-std::int64_t individualsIn(const SheetState& tables)
+std::int64_t individualsIn(const SheetTables& tables)
 {
     std::int64_t sum = 0;
     for (int sample = 1; sample <= tables.SampleCount; ++sample)
@@ -64,7 +64,7 @@ std::int64_t individualsIn(const SheetState& tables)
     return sum;
 }
 
-std::string sheetTextOf(SheetState& tables)
+std::string sheetTextOf(SheetTables& tables)
 {
     tables.SheetHeader[1][2] = "Last modified (dd/mm/yyyy):";
     tables.SheetHeader[1][4] = "Serial No.";
@@ -182,7 +182,7 @@ std::optional<LeftWork> understandLeftWork(const std::optional<std::string>& cop
     std::optional<Journal> lines;
     if (copy) {
         const auto proved = readRecoveryCopy(*copy);
-        work.tables = std::make_unique<SheetState>();
+        work.tables = std::make_unique<SheetTables>();
         if (!proved || !readDataSheet(proved->sheetText, *work.tables))
             return std::nullopt;
         work.label = proved->label;
@@ -196,7 +196,7 @@ std::optional<LeftWork> understandLeftWork(const std::optional<std::string>& cop
         if (!lines->head.overCopy)
             work.tables = tablesOfFile(work.label);
         if (!work.tables) { // the counts alone
-            work.tables = std::make_unique<SheetState>();
+            work.tables = std::make_unique<SheetTables>();
             work.fileIsAnother = !work.label.path.empty();
         }
     }
@@ -221,5 +221,5 @@ void findRecoveryCopies()
         ports.files->release(recoveryCopyPath(place));
     }
     takeRecoveryPlace();
-    recoveryCopy.recorded = recordOf(sheet);
+    recoveryCopy.recorded = recordOf(sheet, sheet);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 #include "files/recovery_label.h"
 
 #include <cstdint>
@@ -10,11 +10,11 @@
 
 /// What a crash has left at one place, put together from copy and journal.
 struct LeftWork {
-    std::unique_ptr<SheetState> tables; ///< the sheet with all its counts
-    RecoveryLabel label;                ///< of the copy, or of a journal without one; lastCounted of both
-    std::int64_t individuals = 0;       ///< of all samples
-    std::int64_t fromJournal = 0;       ///< individuals that were only in the journal
-    bool fileIsAnother = false;         ///< the sheet's file is gone or holds something else by now
+    std::unique_ptr<SheetTables> tables; ///< the sheet with all its counts
+    RecoveryLabel label;                 ///< of the copy, or of a journal without one; lastCounted of both
+    std::int64_t individuals = 0;        ///< of all samples
+    std::int64_t fromJournal = 0;        ///< individuals that were only in the journal
+    bool fileIsAnother = false;          ///< the sheet's file is gone or holds something else by now
 };
 
 /// `copy`, `journal`: the bytes of the files, if they are there. Nothing if what is there does not prove

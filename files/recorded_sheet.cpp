@@ -16,7 +16,7 @@ private:
     std::uint64_t sum_ = 0;
 };
 
-std::uint64_t textsOf(const SheetState& sheet)
+std::uint64_t textsOf(const SheetTables& sheet)
 {
     TextSum sum;
     sum.add(static_cast<std::uint64_t>(sheet.SampleCount));
@@ -41,7 +41,7 @@ std::uint64_t textsOf(const SheetState& sheet)
     return sum.take();
 }
 
-std::uint64_t stampsOf(const SheetState& sheet)
+std::uint64_t stampsOf(const SheetTables& sheet)
 {
     TextSum sum;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
@@ -51,20 +51,21 @@ std::uint64_t stampsOf(const SheetState& sheet)
 }
 
 /// A sheet begun from a template is not the template.
-const std::string& pathOf(const SheetState& sheet)
+const std::string& pathOf(const SheetTables& sheet, const SheetFile& file)
 {
     static const std::string none;
-    return sheet.TemplateOpened ? none : sheet.SheetPath;
+    return sheet.TemplateOpened ? none : file.SheetPath;
 }
 
 } // namespace
 
-RecordedSheet recordOf(const SheetState& sheet)
+RecordedSheet recordOf(const SheetTables& sheet, const SheetFile& file)
 {
-    return {sheet.Count, sheet.SampleCount, textsOf(sheet), stampsOf(sheet), pathOf(sheet), sheet.KnownFile};
+    return {sheet.Count,     sheet.SampleCount,   textsOf(sheet),
+            stampsOf(sheet), pathOf(sheet, file), file.KnownFile};
 }
 
-std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetState& sheet)
+std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetTables& sheet)
 {
     std::vector<ChangedCount> changed;
     for (int slot = 1; slot <= taxonSlots; ++slot) {
@@ -79,20 +80,20 @@ std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const She
     return changed;
 }
 
-bool isEdited(const RecordedSheet& recorded, const SheetState& sheet)
+bool isEdited(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file)
 {
-    return recorded.path != pathOf(sheet) || recorded.file != sheet.KnownFile ||
+    return recorded.path != pathOf(sheet, file) || recorded.file != file.KnownFile ||
            recorded.samples != sheet.SampleCount || recorded.texts != textsOf(sheet);
 }
 
-bool isSame(const RecordedSheet& recorded, const SheetState& sheet)
+bool isSame(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file)
 {
-    return !isEdited(recorded, sheet) && recorded.stamps == stampsOf(sheet) &&
+    return !isEdited(recorded, sheet, file) && recorded.stamps == stampsOf(sheet) &&
            changedCounts(recorded, sheet).empty();
 }
 
 bool isEmptySheet(const RecordedSheet& recorded)
 {
-    const SheetState empty;
-    return recorded.path.empty() && !isEdited(recorded, empty) && changedCounts(recorded, empty).empty();
+    const SheetTables empty;
+    return recorded.path.empty() && !isEdited(recorded, empty, {}) && changedCounts(recorded, empty).empty();
 }

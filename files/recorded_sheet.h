@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_file.h"
+#include "core/sheet_tables.h"
 
 #include <vector>
 
@@ -14,17 +15,17 @@ struct RecordedSheet {
     std::optional<Fingerprint> file;
 };
 
-RecordedSheet recordOf(const SheetState& sheet);
+RecordedSheet recordOf(const SheetTables& sheet, const SheetFile& file);
 
 /// A count that is another one now.
 struct ChangedCount {
     int sample = 0; ///< column
     int slot = 0;
 };
-std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetState& sheet);
+std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetTables& sheet);
 /// Names, texts, samples, taxa, or the file that the sheet belongs to.
-bool isEdited(const RecordedSheet& recorded, const SheetState& sheet);
+bool isEdited(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file);
 /// The one that the program begins with.
 bool isEmptySheet(const RecordedSheet& recorded);
 /// Nothing is another one now.
-bool isSame(const RecordedSheet& recorded, const SheetState& sheet);
+bool isSame(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file);

@@ -40,7 +40,7 @@ void tell(bool kept)
 
 bool isRecorded()
 {
-    return recoveryCopy.recorded && isSame(*recoveryCopy.recorded, sheet);
+    return recoveryCopy.recorded && isSame(*recoveryCopy.recorded, sheet, sheet);
 }
 
 RecoveryLabel nextLabel()
@@ -79,7 +79,7 @@ bool writeCopy()
         return false;
     recoveryCopy.label = label;
     recoveryCopy.onDisk = true;
-    recoveryCopy.recorded = recordOf(sheet);
+    recoveryCopy.recorded = recordOf(sheet, sheet);
     removeJournal();
     return true;
 }
@@ -98,7 +98,7 @@ bool hasBase()
 {
     if (recoveryCopy.onDisk || recoveryCopy.journalBegun)
         return true;
-    return !isEdited(*recoveryCopy.recorded, sheet) &&
+    return !isEdited(*recoveryCopy.recorded, sheet, sheet) &&
            (!pathOfSheet().empty() || isEmptySheet(*recoveryCopy.recorded));
 }
 
@@ -169,7 +169,7 @@ void goOnFromCopy(int place, const RecoveryLabel& label, bool copyThere, bool jo
     recoveryCopy.label = label;
     recoveryCopy.onDisk = copyThere;
     recoveryCopy.journalOnDisk = recoveryCopy.journalBegun = journalThere;
-    recoveryCopy.recorded = recordOf(sheet);
+    recoveryCopy.recorded = recordOf(sheet, sheet);
 }
 
 void watchUnsavedWork()
@@ -192,7 +192,7 @@ void JournalTimer_Timer()
         return;
     if (!hasUnsavedWork()) {
         if (!isRecorded())
-            recoveryCopy.recorded = recordOf(sheet);
+            recoveryCopy.recorded = recordOf(sheet, sheet);
         return;
     }
     if (!recoveryCopy.recorded) { // nothing to go on from
@@ -203,7 +203,7 @@ void JournalTimer_Timer()
     const bool based = hasBase();
     if (!changes.empty() && changes.size() <= mostLines)
         tell(appendChanges(changes));
-    if (!based || isEdited(*recoveryCopy.recorded, sheet) || changes.size() > mostLines) {
+    if (!based || isEdited(*recoveryCopy.recorded, sheet, sheet) || changes.size() > mostLines) {
         if (!recoveryCopy.editWaiting && !recoveryCopy.settling)
             ports.deadlineTimer->start(longestWithoutPause);
         recoveryCopy.editWaiting = true;

@@ -195,7 +195,7 @@ TEST_F(Recovery, declinedCopiesGoToTheBackupsAndNeverOverOneAnother)
     ASSERT_EQ(declined.size(), 2U);
     EXPECT_EQ(declined[0], "Declined_recovery_copy_1_(15.11.2026 14.05.09 2).csv");
     for (const std::string& name : declined) {
-        SheetState tables;
+        SheetTables tables;
         EXPECT_TRUE(readDataSheet(files.contents["/program/References/Back up files/" + name], tables));
         EXPECT_EQ(tables.Count(1, 1), 5);
     }

@@ -30,7 +30,7 @@ protected:
     }
     int keptCount(int slot)
     {
-        SheetState tables;
+        SheetTables tables;
         return readDataSheet(kept(), tables) ? tables.Count(1, slot) : -1;
     }
 };

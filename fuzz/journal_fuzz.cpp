@@ -78,7 +78,7 @@ void damageOneByte(Source source)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static SheetState sheet;
+    static SheetTables sheet;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     if (const auto copy = readRecoveryCopy(bytes))
         if (!readRecoveryCopy(recoveryCopyText(copy->sheetText, copy->label)))

@@ -242,7 +242,7 @@ protected:
         findRecoveryCopies();
     }
 
-    static int countIn(const SheetState& tables) { return tables.Count(1, 1); }
+    static int countIn(const SheetTables& tables) { return tables.Count(1, 1); }
 
     /// What a program finds after the cut. The files stand where the program knows them.
     void look(const std::map<std::string, std::string>& files)
@@ -270,7 +270,7 @@ protected:
         }
         for (const auto& [name, bytes] : files)
             if (name.ends_with(".csv") && name.find("Recovery_copy") == std::string::npos) {
-                SheetState tables;
+                SheetTables tables;
                 bool whole = readDataSheet(bytes, tables);
                 if (name.find("_back_up") != std::string::npos) // ends with its notes
                     whole = std::count(bytes.begin(), bytes.end(), '\n') == 144 && bytes.back() == '\n';
