@@ -120,7 +120,7 @@ void takeUp(LeftWork& work, const LeftFiles& left)
     sheet.FreshSheet = false;
     markUnsavedWork();
     logAction("(Recovery copy taken up: " + std::to_string(work.fromJournal) + " counts from the journal)");
-    goOnFromCopy(left.place, label, left.copy.has_value(), left.journal.has_value());
+    goOnFromCopy(left.place, label, left.copy.has_value(), left.journal.has_value(), work.journalGoesOn);
     copyBeforeOverwriting(); // one copy that holds what came from the journal
 }
 
@@ -200,6 +200,7 @@ std::optional<LeftWork> understandLeftWork(const std::optional<std::string>& cop
             work.fileIsAnother = !work.label.path.empty();
         }
     }
+    work.journalGoesOn = lines.has_value();
     if (lines && !lines->lines.empty()) {
         work.fromJournal = bringCounts(lines->lines, *work.tables);
         work.label.lastCounted = lines->lines.back().clock;

@@ -14,6 +14,7 @@ struct LeftWork {
     RecoveryLabel label;                 ///< of the copy, or of a journal without one; lastCounted of both
     std::int64_t individuals = 0;        ///< of all samples
     std::int64_t fromJournal = 0;        ///< individuals that were only in the journal
+    bool journalGoesOn = false;          ///< the journal is that of the copy, or there is only the journal
     bool fileIsAnother = false;          ///< the sheet's file is gone or holds something else by now
 };
 

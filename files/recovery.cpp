@@ -163,12 +163,14 @@ bool takeRecoveryPlace()
     return false;
 }
 
-void goOnFromCopy(int place, const RecoveryLabel& label, bool copyThere, bool journalThere)
+void goOnFromCopy(int place, const RecoveryLabel& label, bool copyThere, bool journalThere,
+                  bool journalGoesOn)
 {
     recoveryCopy.place = place;
     recoveryCopy.label = label;
     recoveryCopy.onDisk = copyThere;
-    recoveryCopy.journalOnDisk = recoveryCopy.journalBegun = journalThere;
+    recoveryCopy.journalOnDisk = recoveryCopy.journalTorn = journalThere;
+    recoveryCopy.journalBegun = journalGoesOn;
     recoveryCopy.recorded = recordOf(sheet, sheet);
 }
 

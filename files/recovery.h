@@ -40,8 +40,10 @@ constexpr int recoveryPlaces = 9; ///< programs that may run at once
 
 /// Takes a free place, if the program has none.
 bool takeRecoveryPlace();
-/// The sheet on show was just read from the copy at `place`, which is this program's now.
-void goOnFromCopy(int place, const RecoveryLabel& label, bool copyThere, bool journalThere);
+/// The sheet on show was just read from what a crash has left at `place`, which is this program's now.
+/// `journalGoesOn`: the journal that is there has the label.
+void goOnFromCopy(int place, const RecoveryLabel& label, bool copyThere, bool journalThere,
+                  bool journalGoesOn);
 
 /// After an event of the user: sees to it that unsaved work is copied before long, and that nothing is kept
 /// of work that is saved or given up.
