@@ -9,7 +9,6 @@ struct Hooks {
     void (*ShowFirstRunChoice)() = [] {};       ///< after a first run: begins the first sheet
     void (*SaveSheet)(int) = [](int) {};        ///< argument: the save mode, 0 plain, 99 plain and untouched
     bool (*AutoBackup)() = [] { return true; }; ///< false: not written
-    void (*UnloadForms)() = [] {};              ///< takes down all windows but the main one
     /// What becomes of the recovery copy. False if unsaved work could not be written.
     bool (*EndRecovery)(bool lossConfirmed) = [](bool) { return true; };
     void (*EndProgram)() = [] {};
