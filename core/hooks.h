@@ -5,11 +5,12 @@
 struct Hooks {
     bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
     void (*ArrangeTaxonCells)() = [] {};
-    void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
-    void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
-    void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
-    void (*AutoBackup)() = [] {};
-    void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
+    void (*ShowInitial)() = [] {};              ///< brings up the window that identifies the keyboard
+    void (*ShowFirstRunChoice)() = [] {};       ///< after a first run: begins the first sheet
+    void (*SaveSheet)(int) = [](int) {};        ///< argument: the save mode, 0 plain, 99 plain and untouched
+    bool (*AutoBackup)() = [] { return true; }; ///< false: not written
+    /// What becomes of the recovery copy. False if unsaved work could not be written.
+    bool (*EndRecovery)(bool lossConfirmed) = [](bool) { return true; };
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed
     void (*CloseDiagram)() = [] {};

@@ -9,6 +9,7 @@
 struct SheetFile {
     std::string SheetPath;                ///< UTF-8; shorter than 4 characters: no file yet
     std::optional<Fingerprint> KnownFile; ///< of the file at SheetPath as last read or written; none: no file
+    std::string ProposedPath;             ///< UTF-8; name for the first save; empty: none
     bool SheetUnnamed = true;             ///< no dialog has named the sheet yet
     bool ReadInPart = false; ///< its file could not be read whole: it is not that file until it is saved
     int SaveResult = 0;      ///< 1: closing began, 2: the save did not complete

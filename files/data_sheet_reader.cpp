@@ -283,3 +283,26 @@ bool DataSheetReader::readDates()
             return false;
     return true;
 }
+
+static bool readWhole(DataSheetReader& reader, SheetTables& tables)
+{
+    if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
+        return false;
+    for (int row = 1; row <= taxonSlots; ++row)
+        if (!reader.readTaxon(row))
+            return false;
+    if (reader.repeatedKeyIndex())
+        return false;
+    completeKeyIndexes(tables);
+    if (tables.SampleCount == 0)
+        reader.beginFromTemplate("-9999");
+    return reader.readTexts();
+}
+
+bool readDataSheet(std::string_view text, SheetTables& tables)
+{
+    DataSheetReader reader(text, tables);
+    const bool whole = readWhole(reader, tables);
+    completeKeyIndexes(tables);
+    return whole;
+}

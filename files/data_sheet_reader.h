@@ -64,3 +64,7 @@ private:
     SheetTables& sheet_;
     int line_ = 0;
 };
+
+/// A data sheet, an older layout of one, or a template, in the code page, into fresh tables. False if it ends
+/// early or a key index stands twice in it; the tables agree with one another then too.
+bool readDataSheet(std::string_view text, SheetTables& tables);

@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/fields.h"
+#include "core/editing.h"
 #include "core/forms.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
@@ -17,8 +18,10 @@
 #include "core/text_changes.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
+#include "files/kept_work.h"
 #include "files/new_sheet.h"
 #include "files/reading_check.h"
+#include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
@@ -34,29 +37,51 @@
 
 namespace {
 
+/// What becomes of unsaved work when another sheet takes its place.
+struct UnsavedWork {
+    bool givenUp = false;            ///< the user has said so
+    std::optional<std::string> kept; ///< name of the file among the backups that holds it all the same
+};
+
+bool askToAbort()
+{
+    return ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!",
+                              Buttons::yesNo, Icon::question) == Answer::yes;
+}
+
+/// Before a sheet goes that nothing has been asked about. What can be kept nowhere is asked about after all.
+bool keepOrAsk(UnsavedWork& work)
+{
+    if (hasUnsavedWork() && !(work.kept = keepUnsavedWork()))
+        work.givenUp = askToAbort();
+    return !hasUnsavedWork() || work.kept || work.givenUp;
+}
+
 /// Steps 1 to 4. True if the sheet in memory may go.
-bool mayGo(bool dropped)
+bool mayGo(bool dropped, UnsavedWork& work)
 {
     // No dialog follows a drop, so it asks wherever there is unsaved work. Names that were edited leave the
     // sheet pristine, and are work all the same.
     const bool unsaved = frmMain.Command5[0].enabled;
     if (sheet.SheetPristine && !(unsaved && (dropped || sheet.UnsavedEdits)))
-        return true;
+        return keepOrAsk(work);
     if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
         ports.sound->play(Cue::SoundError);
     const bool begun = frmMain.Label4.caption != "1/0";
     if (sheet.SoundOn && begun)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
-        return true;
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes) {
+        return keepOrAsk(work);
+    if (!askToAbort()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
         sheet.UnsavedEdits = false;
         sheet.FreshSheet = false;
         return false;
     }
+    work.givenUp = true;
+    if (hasUnsavedWork()) // the dialog may be cancelled yet
+        work.kept = keepUnsavedWork();
     RestoreSnapshot();
     hooks.CloseDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
@@ -124,6 +149,7 @@ Reading readSheet(DataSheetReader& reader, const std::string& path, const std::s
 {
     const ShowingSample showing;
     sheet.SheetPath = path;
+    sheet.ProposedPath.clear();
     showSheetName(name);
     if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
         return Reading::failed;
@@ -231,30 +257,47 @@ void settle()
         showSiteName();
 }
 
+/// Kept is what went without having been given up for the sheet that came. A file can be dropped by accident.
+void settleUnsavedWork(const UnsavedWork& work, bool replaced, bool dropped)
+{
+    if (!work.kept)
+        return;
+    if (replaced ? work.givenUp && !dropped : !work.givenUp) {
+        dropUnsavedWork(*work.kept);
+        return;
+    }
+    pruneUnsavedWork();
+    frmMain.notice = "What was not saved is kept among the back up files: " + *work.kept;
+}
+
 void open(const std::function<std::optional<std::string>()>& choose, bool dropped)
 {
-    if (!mayGo(dropped))
+    const RecoveryHeld held;
+    UnsavedWork work;
+    if (!mayGo(dropped, work))
         return;
     sheet.FreshSheet = true;
+    bool replaced = false;
     if (const auto path = choose()) {
         if (const auto bytes = ports.files->read(*path, sheetLimit))
-            openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
+            replaced = openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
         else
             frmMain.notice = "The file could not be read.";
     }
     endProgress();
     ApplyItalics();
     TestSampleNames();
+    settleUnsavedWork(work, replaced, dropped);
 }
 
 } // namespace
 
-void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
+bool openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
     const auto name = baseName(path);
     if (!name || !FieldReader(text).next()) {
         frmMain.notice = name ? "The file is empty." : "A data sheet's name has an ending: .csv.";
-        return;
+        return false;
     }
     hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
@@ -283,6 +326,7 @@ void openSheetText(const std::string& text, const std::string& path, const std::
                             : reading == Reading::failed   ? tellUnreadLine(reader.line())
                                                            : "";
     endProgress();
+    return true;
 }
 
 void mnuOpen_Click()

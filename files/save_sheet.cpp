@@ -36,7 +36,9 @@ std::string proposedName(int mode)
 {
     if (mode == copy)
         return proposedCopyName(sheet.SheetPath, ports.clock->now().date);
-    return isPercentageTable(mode) ? proposedTableName(sheet.SheetPath) : sheet.SheetPath;
+    if (isPercentageTable(mode))
+        return proposedTableName(sheet.SheetPath);
+    return sheet.SheetPath.empty() ? sheet.ProposedPath : sheet.SheetPath;
 }
 
 /// Path A: the dialog was cancelled.
@@ -106,6 +108,7 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
 void takeName(const std::string& path, const std::string& name)
 {
     sheet.SheetPath = path;
+    sheet.ProposedPath.clear();
     sheet.SheetUnnamed = false;
     showSheetName(name);
     frmMain.Text6.text = toCodePageFromUtf8(path);

@@ -265,9 +265,7 @@ void MainWindow::present()
         tabs_->setCurrentIndex(frmMain.SSTab1);
     if (const QString title = shownText(frmMain.caption); title != windowTitle())
         setWindowTitle(title);
-    const QString notice = shownText(frmMain.notice.empty() ? frmMain.readingNotice : frmMain.notice);
-    if (notice != statusBar()->currentMessage())
-        statusBar()->showMessage(notice);
+    presentNotice();
     for (int total = 0; total < 3; ++total)
         hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
     curve_->present();
@@ -281,6 +279,15 @@ void MainWindow::present()
         forwardShown_ = frmMain.forwardRevision;
         bringForward(*this);
     }
+}
+
+void MainWindow::presentNotice()
+{
+    const QString notice = shownText(!frmMain.notice.empty()       ? frmMain.notice
+                                     : !frmMain.diskNotice.empty() ? frmMain.diskNotice
+                                                                   : frmMain.readingNotice);
+    if (notice != statusBar()->currentMessage())
+        statusBar()->showMessage(notice);
 }
 
 /// What a screen reader says of a cell.

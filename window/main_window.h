@@ -55,6 +55,8 @@ public:
     /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds
     /// and does not grow with the sheet.
     void present();
+    /// Of all that, only the line at the foot.
+    void presentNotice();
 
     /// The window of the diagram, where keys count too.
     const DiagramWindow& diagramWindow() const { return *diagram_; }
