@@ -84,8 +84,8 @@ struct DiagramForm {
     int forwardRevision = 0;        ///< goes up whenever the window is to come in front
     bool MovingSample = false;      ///< the sample line is dragged with the right button: the sample moves
     bool LineDragging = false;      ///< it is dragged with the left button: the selection moves
-    std::int16_t DiagramSample = 1; ///< where the step buttons start from
-    std::int16_t PanelSample = 1;   ///< the sample that Frame3 last went to
+    int DiagramSample = 1; ///< where the step buttons start from
+    int PanelSample = 1;   ///< the sample that Frame3 last went to
     float DiagramScaleTop = 0;
     float DiagramScaleHeight = 1;
 

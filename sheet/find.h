@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sample_table.h"
 #include "platform/controls.h"
 
 #include <array>

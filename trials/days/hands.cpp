@@ -96,7 +96,7 @@ UndoEntry Hands::press(int key, bool inDiagram, const OneEvent& event, const boo
         const int number = numberOf(key);
         const int slot = number == 0 ? 0 : number + keysPerLayer * layer();
         newest = {sheet.CurrentSample,
-                  static_cast<std::int16_t>(held_.count(sheet.MinusKey) != 0 ? -slot : slot)};
+                  held_.count(sheet.MinusKey) != 0 ? -slot : slot};
     }
     if (dispatched && !isShift(key))
         guarded_ = key;
