@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/sheet_size.h"
+
 #include <array>
 #include <string>
 

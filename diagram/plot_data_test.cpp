@@ -10,9 +10,9 @@
 namespace {
 
 /// A sheet of samples by name, with their places on the depth axis.
-SheetState sheetOf(std::initializer_list<const char*> names)
+SheetTables sheetOf(std::initializer_list<const char*> names)
 {
-    SheetState made;
+    SheetTables made;
     made.SampleCount = 0;
     for (const char* name : names) {
         ++made.SampleCount;
@@ -40,7 +40,7 @@ constexpr Colour green = RGB(0, 128, 0);
 
 /// Four samples; taxon 1 has 50, 0, 100 and 25 percent, the second sample is empty.
 struct SmallDiagram {
-    SheetState sheet = sheetOf({"0", "10", "20", "40"});
+    SheetTables sheet = sheetOf({"0", "10", "20", "40"});
     PlotData plot;
     DiagramView view;
 
@@ -85,7 +85,7 @@ TEST(PlotData, ranksByDepthAndKeepsWhatItCannotRank)
 
 TEST(PlotData, sharesAreByFileRowAndRankAndColumnsAsWideAsTheirLargest)
 {
-    SheetState sheet = sheetOf({"20", "10"});
+    SheetTables sheet = sheetOf({"20", "10"});
     std::swap(sheet.RowOfKeyIndex[1], sheet.RowOfKeyIndex[3]); // key 1 counts file row 3
     sheet.TaxonRecord[1].Name = "Alnus";
     sheet.Count(1, 1) = 6;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sample_table.h"
+#include "core/sheet_size.h"
 #include "platform/controls.h"
 
 #include <array>

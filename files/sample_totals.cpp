@@ -30,8 +30,7 @@ std::optional<std::vector<SampleTotals>> sampleTotals(const SheetTables& sheet)
         const auto& [sum1, sum2, all] = sums[sample];
         if (!fits(sum1) || !fits(sum2) || !fits(all))
             return std::nullopt;
-        totals[sample] = {sum1, sum2,
-                          all};
+        totals[sample] = {static_cast<int>(sum1), static_cast<int>(sum2), static_cast<int>(all)};
     }
     return totals;
 }
