@@ -31,8 +31,6 @@
 
 namespace {
 
-constexpr std::size_t sheetLimit = 256u << 20; // the fullest sheet takes less than a megabyte
-
 /// Steps 1 to 4. True if the sheet in memory may go.
 bool mayGo(bool dropped)
 {
@@ -98,7 +96,7 @@ enum class Reading {
 };
 
 /// Steps 8 to 15.
-Reading readSheet(std::string_view text, const std::string& path)
+Reading readSheet(std::string_view text, const std::string& path, const std::optional<Fingerprint>& file)
 {
     const ShowingSample showing;
     DataSheetReader reader(text, sheet);
@@ -106,6 +104,7 @@ Reading readSheet(std::string_view text, const std::string& path)
     if (!name || !reader.readPath())
         return Reading::nothing;
     sheet.SheetPath = path;
+    sheet.KnownFile = file;
     showSheetName(*name);
     if (!reader.readSerials() || !reader.readNames())
         return Reading::failed;
@@ -218,7 +217,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     sheet.FreshSheet = true;
     if (const auto path = choose())
         if (const auto bytes = ports.files->read(*path, sheetLimit))
-            openSheetText(fileTextInCodePage(*bytes), *path);
+            openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
     endProgress();
     ApplyItalics();
     TestSampleNames();
@@ -226,11 +225,11 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
 
 } // namespace
 
-void openSheetText(const std::string& text, const std::string& path)
+void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
     hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
-    const Reading reading = readSheet(text, path);
+    const Reading reading = readSheet(text, path, file);
     if (reading == Reading::complete) {
         settle();
     } else if (reading == Reading::refused) {
