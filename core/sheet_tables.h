@@ -20,22 +20,22 @@ struct TaxonFields {
 /// Share of each taxon in the % basis of each sample, as a fraction. Index (sample, slot).
 using ShareTable = SampleTable<float, taxonSlots + 1>;
 
-/// What a file keeps of a sheet. Index (sample, slot) or (sample, row); sample 1 to SampleCount is a column of
-/// the sheet. The member initialisers are an empty sheet with one sample.
+/// What a file keeps of a sheet. Index (sample, slot) or (sample, row); sample 1 to SampleCount is a column
+/// of the sheet. The member initialisers are an empty sheet with one sample.
 struct SheetTables {
     SheetTables();
 
     // By sample. A table more has its line in forEachSampleTable() too (core/sheet_state_type.h).
     SampleTable<std::int32_t, taxonSlots + 1> Count; ///< may be negative; slot 0 is scratch of the % basis
-    SampleTable<std::string, 3> SampleField;         ///< row 0 place on the depth axis, 1 serial number, 2 name
-    SampleTable<std::string, 1> SampleNote;          ///< row 0: the note, "---" if there is none
-    SampleTable<std::string, 4> SampleStamp;         ///< rows 1 created, 2 count start, 3 last modified
+    SampleTable<std::string, 3> SampleField; ///< row 0 place on the depth axis, 1 serial number, 2 name
+    SampleTable<std::string, 1> SampleNote;  ///< row 0: the note, "---" if there is none
+    SampleTable<std::string, 4> SampleStamp; ///< rows 1 created, 2 count start, 3 last modified
     SampleTable<std::string, infoItems + 1> AdditionalInfo; ///< row = item 1 to 6; column 0: the captions
 
     // By taxon.
     std::array<TaxonFields, taxonSlots + 1> TaxonRecord; ///< 0: the running subtotals of the sample on show
-    std::array<int, taxonSlots + 1> KeyIndexOfRow; ///< file row 1 to 135 -> key index
-    std::array<int, taxonSlots + 1> RowOfKeyIndex; ///< the inverse
+    std::array<int, taxonSlots + 1> KeyIndexOfRow;       ///< file row 1 to 135 -> key index
+    std::array<int, taxonSlots + 1> RowOfKeyIndex;       ///< the inverse
 
     // Heads of the file's lines.
     std::array<std::array<std::string, 5>, 3> SheetHeader;                  ///< rows 1, 2, columns 1 to 4
@@ -45,9 +45,9 @@ struct SheetTables {
 
     std::array<int, sampleColumns> SampleSerial{}; ///< column -> serial number, as last read
     std::array<int, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
-    int FileGeneration = 3;         ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
-    bool TemplateOpened = false;    ///< the sheet came from a template and has not been saved since
-    int SampleCount = 1;   ///< samples in the sheet, 1 to 250
-    int CurrentSample = 1; ///< column on show and being counted
-    int LatestSerial = 1;  ///< highest serial number in the sheet
+    int FileGeneration = 3;      ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
+    bool TemplateOpened = false; ///< the sheet came from a template and has not been saved since
+    int SampleCount = 1;         ///< samples in the sheet, 1 to 250
+    int CurrentSample = 1;       ///< column on show and being counted
+    int LatestSerial = 1;        ///< highest serial number in the sheet
 };

@@ -38,7 +38,8 @@ void rankSamples(PlotData& plot, const SheetTables& sheet, bool byDepth)
     }
 }
 
-void fillShares(PlotData& plot, const SheetTables& sheet, const std::array<std::int32_t, taxonSlots + 1>& weights)
+void fillShares(PlotData& plot, const SheetTables& sheet,
+                const std::array<std::int32_t, taxonSlots + 1>& weights)
 {
     const int samples = sheet.SampleCount;
     std::vector<std::int64_t> sums(static_cast<std::size_t>(samples) + 1);

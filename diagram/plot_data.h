@@ -15,7 +15,7 @@ struct PlotData {
     std::array<std::string, taxonSlots + 1> ColumnName; ///< taxon name of each column, 1 to 135, by file row
     std::array<float, taxonSlots + 2> ColumnLeft{}; ///< left edge of each column; 136: where the last ends
     float LastColumnWidth = 0;                      ///< of column 135: its largest share
-    int ColumnGap = 10;                    ///< between columns
+    int ColumnGap = 10;                             ///< between columns
     std::vector<int> DepthRank;  ///< sample 1 to N -> its rank in the diagram; 0 holds nothing
     std::vector<int> RankSample; ///< the inverse
 };
@@ -30,7 +30,8 @@ void rankSamples(PlotData& plot, const SheetTables& sheet, bool byDepth);
 
 /// Fills the shares, the row by file row and the column by rank.
 /// Counts are not weighted: a taxon outside the basis has a share too, which may pass 1.
-void fillShares(PlotData& plot, const SheetTables& sheet, const std::array<std::int32_t, taxonSlots + 1>& weights);
+void fillShares(PlotData& plot, const SheetTables& sheet,
+                const std::array<std::int32_t, taxonSlots + 1>& weights);
 
 /// Places the columns one after the other, each as wide as its largest share.
 void layOutColumns(PlotData& plot, const SheetTables& sheet);

@@ -10,8 +10,8 @@
 /// They are composed whole before a file is touched. Empty cells are to be filled first.
 
 std::string dataSheetText(const SheetTables& sheet, const std::vector<SampleTotals>& totals);
-/// `basis`: the sum that the percentages go by, 0 all total, 1 and 2 the subtotals; `shares` are filled by it.
-/// Notes are left out.
+/// `basis`: the sum that the percentages go by, 0 all total, 1 and 2 the subtotals; `shares` are filled by
+/// it. Notes are left out.
 std::string percentageTableText(const SheetTables& sheet, const ShareTable& shares,
                                 const std::vector<SampleTotals>& totals, int basis);
 /// All fields are text, and the file ends with the notes.
