@@ -56,7 +56,7 @@ int main(int argc, char* argv[])
         QApplication::processEvents();
     });
     std::printf("samples %d, total of the last %s\n", sheet.SampleCount, frmMain.Text3[0].text.c_str());
-    measure("save the fullest sheet", 10, [] { SaveSheet(0); });
+    measure("save the fullest sheet", 10, [] { SaveSheet(SaveMode::plain); });
     measure("backup inside a key press", 70, AutoBackup);
 
     const std::string almost = folder.filePath("almost.csv").toStdString();

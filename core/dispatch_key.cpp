@@ -1,5 +1,7 @@
 #include "core/dispatch_key.h"
 
+#include "core/offers.h"
+#include "core/cue.h"
 #include "core/built_in_keys.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
@@ -63,8 +65,7 @@ void giveFeedback()
 
 Answer askAboutStaleSample()
 {
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+    playCue(Cue::SoundError);
     else
         ports.sound->beep();
     return ports.dialogs->ask(
@@ -96,7 +97,7 @@ void DispatchKey(int keyCode, int shift)
     frmMain.enabled = true;
     // 6. The Save key goes on: it may count something as well.
     if (isSaveKey(keyCode))
-        hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+        hooks.SaveSheet(plainOrUntouched());
     // 7.
     if (!sheet.KeysActive || !isAccepted(keyCode))
         return;
@@ -110,8 +111,8 @@ void DispatchKey(int keyCode, int shift)
     // 10.
     const bool counts = !isShiftKey(keyCode) && keyCode != sheet.MinusKey;
     if (counts && !sheet.Modifying) {
-        frmMain.Command2[0].enabled = frmMain.mnuReset.enabled = true;
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        offerReset(true);
+        offerSave(true);
         frmMain.mnuSaveHistory.enabled = true;
     }
     // 11.

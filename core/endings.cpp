@@ -1,5 +1,7 @@
 #include "core/endings.h"
 
+#include "core/cue.h"
+#include "core/messages.h"
 #include "core/action_log.h"
 #include "core/editing.h"
 #include "core/hooks.h"
@@ -10,16 +12,10 @@
 #include "platform/code_page.h"
 #include "platform/ports.h"
 
-static void playCaution()
-{
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
-}
-
 void AbortCount()
 {
     // 1.
-    playCaution();
+    playCue(Cue::SoundError);
     // 2 to 5.
     if (sheet.SampleTotal != 0) {
         if (ports.dialogs->ask("This action will abort all inputs after last saving. Do you proceed?",
@@ -51,9 +47,8 @@ static void endProgram(bool lossConfirmed)
 
 void mnuQuit_Click()
 {
-    playCaution();
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes)
+    playCue(Cue::SoundError);
+    if (!mayLoseCounts())
         return;
     RestoreSnapshot();
     sheet.SoundOn = false;
@@ -80,7 +75,7 @@ void Form_Unload(bool& cancel)
             return;
         }
         if (answer == Answer::yes)
-            hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+            hooks.SaveSheet(plainOrUntouched());
         if (answer == Answer::yes && sheet.SaveResult == 2) {
             cancel = true;
             hooks.AutoBackup(); // the program ends, the counts do not
@@ -107,5 +102,5 @@ void Form_Terminate()
 void CheckIfReallyEnd()
 {
     TakeSnapshot();
-    hooks.SaveSheet(0);
+    hooks.SaveSheet(SaveMode::plain);
 }

@@ -1,5 +1,6 @@
 #include "core/recount_totals.h"
 
+#include "core/taxon_name.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
@@ -29,7 +30,7 @@ void RecountTotals(int sample)
 
         frmMain.Text2[slot].bold = frmMain.Text1[slot].bold = sheet.Count(sample, slot) != 0;
         if (isBlankName(frmMain.Text1[slot].text))
-            setText1(slot, "---");
+            setText1(slot, noText);
     }
     sheet.SampleTotal = within32Bits(all);
     sheet.TaxonRecord[0].Subtotal1 = decimalText(within32Bits(subtotal1));

@@ -1,5 +1,6 @@
 #include "core/snapshot.h"
 
+#include "core/taxon_name.h"
 #include "core/basis_members.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -39,7 +40,7 @@ void RestoreSnapshot()
     }
     for (int item = 1; item <= infoItems; ++item) {
         const std::string& info = sheet.SavedInfo(sheet.CurrentSample, item);
-        frmMain.Text5[item].text = info.empty() ? "---" : info;
+        frmMain.Text5[item].text = info.empty() ? noText : info;
         frmMain.Label10[item].caption = sheet.SavedInfo(0, item);
     }
     RecountTotals(sheet.CurrentSample);

@@ -1,5 +1,6 @@
 #include "diagram/paint_diagram.h"
 
+#include "core/taxon_name.h"
 #include <cmath>
 
 namespace {
@@ -92,7 +93,7 @@ private:
 
 bool isFamily(const std::string& name)
 {
-    return name.ends_with("ae") || name.ends_with("AE");
+    return isFamily(name);
 }
 
 } // namespace
@@ -134,8 +135,8 @@ Drawing planDiagram(const PlotData& plot, const std::vector<float>& rows, const 
 Letters nameLetters(const std::string& name, bool italic, float longest)
 {
     constexpr float letterHeight = 10.4F; // the letters of a font 12 pixels high from line to line
-    if (name.empty() || name == "---")
-        return {"---", letterHeight, false, longest, true};
+    if (name.empty() || name == noText)
+        return {noText, letterHeight, false, longest, true};
     return {name, letterHeight, italic, longest, true};
 }
 

@@ -1,5 +1,7 @@
 #include "files/open_sheet.h"
 
+#include "core/offers.h"
+#include "core/messages.h"
 #include "core/action_log.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
@@ -45,8 +47,7 @@ bool mayGo(bool dropped)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
         return true;
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes) {
+    if (!mayLoseCounts()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
         sheet.FreshSheet = false;
@@ -64,7 +65,7 @@ void showHeads()
 {
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
-    setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(last);
     showSubtotalNames();
 
     listSampleNames();
@@ -123,7 +124,7 @@ Reading readSheet(std::string_view text, const std::string& path, const std::opt
         showTaxon(row);
     if (sheet.SampleCount == 0) {
         reader.beginFromTemplate(frmMain.Text1[0].text);
-        setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+        showSerial(1);
     }
     RecountTotals(sheet.CurrentSample);
     return reader.readTexts() ? Reading::complete : Reading::failed;
@@ -193,8 +194,8 @@ void settle()
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
-    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    offerNextSample(true);
+    offerSave(false);
     selectBasis(0);
     AutoBackup();
     ApplyItalics();

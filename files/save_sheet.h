@@ -7,7 +7,7 @@
 /// opened. A percentage table gives its name to a sheet that no dialog has named, and is no save of the
 /// counts. A cancelled dialog and a failure set SaveResult to 2 and leave the sheet, its name and its marks
 /// of unsaved work as they were; a failure is told.
-void SaveSheet(int mode);
+void SaveSheet(SaveMode mode);
 
 void mnuSave_Click();
 void mnuSaveAs_Click();

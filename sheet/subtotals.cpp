@@ -1,5 +1,6 @@
 #include "sheet/subtotals.h"
 
+#include "core/taxon_name.h"
 #include "core/basis_members.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
@@ -70,7 +71,7 @@ void mnuSubtotal_Click()
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         const std::string& name = sheet.TaxonRecord[slot].Name;
         CheckBox& box = frmSubtotal.Check1[slot];
-        box.caption = name.empty() || name == "---" ? decimalText(slot) + ": ---" : name;
+        box.caption = name.empty() || name == noText ? decimalText(slot) + ": ---" : name;
         box.top = frmMain.Text1[slot].top;
         box.left = frmMain.Text1[slot].left;
     }
