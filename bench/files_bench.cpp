@@ -46,7 +46,8 @@ int main(int argc, char* argv[])
     const DeliveredCopy delivered(DELIVERED_FOLDER);
     Program program(delivered.path());
     const std::string path = folder.filePath("full.csv").toStdString();
-    ports.files->write(path, fullSheetText());
+    if (!ports.files->write(path, fullSheetText()))
+        return 1;
 
     measure("open the fullest sheet to ready on screen", 100, [&] {
         sheet.SheetPristine = true; // nothing to ask about
@@ -60,7 +61,8 @@ int main(int argc, char* argv[])
     measure("backup inside a key press", 70, AutoBackup);
 
     const std::string almost = folder.filePath("almost.csv").toStdString();
-    ports.files->write(almost, fullSheetText(sampleLimit - 1));
+    if (!ports.files->write(almost, fullSheetText(sampleLimit - 1)))
+        return 1;
     const auto open = [&] {
         sheet.SheetPristine = true; // nothing to ask about
         frmMain.Command5[0].enabled = false;

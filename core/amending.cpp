@@ -1,8 +1,8 @@
 #include "core/amending.h"
 
-#include "core/offers.h"
 #include "core/action_log.h"
 #include "core/main_screen.h"
+#include "core/offers.h"
 #include "core/sheet_state.h"
 
 static void showIndexes(bool shown)

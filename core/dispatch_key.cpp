@@ -1,13 +1,13 @@
 #include "core/dispatch_key.h"
 
-#include "core/offers.h"
-#include "core/cue.h"
 #include "core/built_in_keys.h"
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
 #include "core/layer_keys.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/record_count.h"
 #include "core/sheet_state.h"
 #include "platform/ports.h"
@@ -66,8 +66,7 @@ void giveFeedback()
 Answer askAboutStaleSample()
 {
     playCue(Cue::SoundError);
-    else
-        ports.sound->beep();
+    else ports.sound->beep();
     return ports.dialogs->ask(
         "The datasheet that you are trying to modify is not the latest one. Do you continue?", "Warning!!",
         Buttons::yesNo, Icon::question);

@@ -1,14 +1,14 @@
 #include "core/editing.h"
 
-#include "core/taxon_name.h"
-#include "core/offers.h"
 #include "core/action_log.h"
 #include "core/character_rule.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "platform/ports.h"
 

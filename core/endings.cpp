@@ -1,11 +1,11 @@
 #include "core/endings.h"
 
-#include "core/cue.h"
-#include "core/messages.h"
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"

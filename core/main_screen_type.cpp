@@ -1,7 +1,7 @@
 #include "core/main_screen_type.h"
 
-#include "core/taxon_name.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 MainScreen::MainScreen()
 {

@@ -1,7 +1,7 @@
 #include "core/sheet_tables.h"
 
-#include "core/taxon_name.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 SheetTables::SheetTables()
 {

@@ -1,11 +1,11 @@
 #include "core/show_sample.h"
 
-#include "core/taxon_name.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 
 #include <algorithm>

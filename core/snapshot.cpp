@@ -1,12 +1,12 @@
 #include "core/snapshot.h"
 
-#include "core/taxon_name.h"
 #include "core/basis_members.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 
 /// Runs `keep(table, saved)` for each table that a reset brings back.

@@ -1,11 +1,11 @@
 #include "core/text_changes.h"
 
-#include "core/offers.h"
-#include "core/cue.h"
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "platform/ports.h"
@@ -57,11 +57,11 @@ void showSerial(int sample)
     setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
 }
 
-// The steps stay in this order: the write that empties the carrier runs this handler once more, and that run
-// reads what the first one wrote.
 void Text0_Change()
 {
-    if (frmMain.Text0.text.size() == 1) // never a slot: single digits come as "01" to "09"
+    // Never a slot: single digits come as "01" to "09". Emptying the carrier runs this handler once more; a
+    // second recount of the same boxes would find the same.
+    if (frmMain.Text0.text.size() <= 1)
         return;
     sheet.SampleTotal = 0;
     const int delta = sheet.MinusArmed ? -1 : 1;

@@ -1,15 +1,15 @@
 #include "core/transfer_taxa.h"
 
-#include "core/taxon_name.h"
-#include "core/messages.h"
 #include "core/action_log.h"
 #include "core/basis_members.h"
 #include "core/editing.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "platform/ports.h"
 
@@ -47,8 +47,7 @@ void targetMenuClosed(int layer)
 
 void mnuMoveTo_Click(int target)
 {
-    if (target != sheet.MoveSource && isTaxon(target) && hasCounts(target) &&
-        !mayLoseCounts())
+    if (target != sheet.MoveSource && isTaxon(target) && hasCounts(target) && !mayLoseCounts())
         return;
     TransferTaxa(target);
 }

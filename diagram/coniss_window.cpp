@@ -1,9 +1,9 @@
 #include "diagram/coniss_window.h"
 
 #include "core/cue.h"
-#include "core/messages.h"
 #include "core/fields.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "diagram/dendrogram.h"

@@ -1,7 +1,7 @@
 #include "files/data_sheet_reader.h"
 
-#include "core/taxon_name.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 #include "files/note_migration.h"
 
 #include <algorithm>

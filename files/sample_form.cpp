@@ -1,7 +1,7 @@
 #include "files/sample_form.h"
 
-#include "core/taxon_name.h"
 #include "core/main_screen.h"
+#include "core/taxon_name.h"
 
 void SampleForm::begin(std::string label)
 {

@@ -1,11 +1,11 @@
 #include "files/save_sheet.h"
 
-#include "core/offers.h"
-#include "core/cue.h"
-#include "core/messages.h"
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
+#include "core/offers.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
@@ -53,7 +53,8 @@ std::string fileText(SaveMode mode, const std::vector<SampleTotals>& totals)
         return dataSheetText(sheet, totals);
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         ComputePercentages(sample);
-    return percentageTableText(sheet, sheet.Share, totals, static_cast<int>(mode) - static_cast<int>(SaveMode::percentAll));
+    return percentageTableText(sheet, sheet.Share, totals,
+                               static_cast<int>(mode) - static_cast<int>(SaveMode::percentAll));
 }
 
 /// Writes the sheet; what the writing has changed in it goes back if it fails. `sheetPath`: what the file
@@ -125,7 +126,8 @@ void SaveSheet(SaveMode mode)
         }
         path = *chosen;
     }
-    const bool namesSheet = mode == SaveMode::saveAs || (isTable && sheet.SheetUnnamed); // on purpose of a table too
+    const bool namesSheet =
+        mode == SaveMode::saveAs || (isTable && sheet.SheetUnnamed); // on purpose of a table too
     const auto name = baseName(path);
     if (namesSheet &&
         !name) { // a name without a point: the file is there, empty, and the sheet stays unnamed
@@ -152,7 +154,7 @@ void SaveSheet(SaveMode mode)
     }
     playCue(Cue::SoundSave);
     if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows
- {
+    {
         offerNextSample(true);
         frmMain.mnuSaveCopy.enabled = true;
     }
@@ -180,7 +182,8 @@ void mnuSaveCopy_Click()
 static void savePercentageTable(int basis)
 {
     selectBasis(basis); // on the main window too, and it stays so
-    constexpr SaveMode tables[] = {SaveMode::percentAll, SaveMode::percentSubtotal1, SaveMode::percentSubtotal2};
+    constexpr SaveMode tables[] = {SaveMode::percentAll, SaveMode::percentSubtotal1,
+                                   SaveMode::percentSubtotal2};
     SaveSheet(tables[basis]);
     sheet.AlarmArmed = true;
 }

@@ -1,8 +1,8 @@
 #include "files/sheet_text.h"
 
-#include "core/taxon_name.h"
 #include "core/fields.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 #include <cmath>
 

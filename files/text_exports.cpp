@@ -1,7 +1,7 @@
 #include "files/text_exports.h"
 
-#include "core/cue.h"
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/export_text.h"

@@ -21,10 +21,10 @@ public:
     /// the new ones.
     [[nodiscard]] virtual bool write(const std::string& path, std::string_view bytes) = 0;
     /// Makes an empty file where there is none; one that is there keeps its bytes.
-    [[nodiscard]] virtual bool create(const std::string& path) = 0;
+    virtual bool create(const std::string& path) = 0;
     /// Puts a whole file in place of what is there: whatever happens, the old or the new one stands.
     [[nodiscard]] virtual bool replace(const std::string& path, std::string_view bytes) = 0;
-    [[nodiscard]] virtual bool remove(const std::string& path) = 0;
+    virtual bool remove(const std::string& path) = 0;
     /// Claims a path for this program until it ends, however it ends, or gives the path free. False if
     /// another running program has it or the folder cannot be written.
     [[nodiscard]] virtual bool claim(const std::string& path) = 0;

@@ -1,7 +1,7 @@
 #include "sheet/name_display.h"
 
-#include "core/taxon_name.h"
 #include "core/main_screen.h"
+#include "core/taxon_name.h"
 #include "sheet/focus_and_pointer.h"
 
 #include <algorithm>

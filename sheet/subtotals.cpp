@@ -1,6 +1,5 @@
 #include "sheet/subtotals.h"
 
-#include "core/taxon_name.h"
 #include "core/basis_members.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
@@ -8,6 +7,7 @@
 #include "core/recount_totals.h"
 #include "core/return_to_main.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 
 SubtotalForm frmSubtotal;
 

@@ -1,9 +1,9 @@
 #include "sheet/summary.h"
 
-#include "core/taxon_name.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/return_to_main.h"
+#include "core/taxon_name.h"
 
 #include <algorithm>
 
