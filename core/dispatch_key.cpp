@@ -1,7 +1,6 @@
 #include "core/dispatch_key.h"
 
 #include "core/built_in_keys.h"
-#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
 #include "core/layer_keys.h"
@@ -65,8 +64,10 @@ void giveFeedback()
 
 Answer askAboutStaleSample()
 {
-    playCue(Cue::SoundError);
-    else ports.sound->beep();
+    if (sheet.SoundOn)
+        ports.sound->play(Cue::SoundError);
+    else
+        ports.sound->beep();
     return ports.dialogs->ask(
         "The datasheet that you are trying to modify is not the latest one. Do you continue?", "Warning!!",
         Buttons::yesNo, Icon::question);

@@ -155,7 +155,7 @@ TEST_F(Keyboard, asksBeforeItCountsInAnOlderSampleUntilAnsweredYes)
 TEST_F(Keyboard, forgetsHeldKeysWithTheFocusButNotBeforeTheKeyInWorkHasCounted)
 {
     sheet.KeySetting[rowSave].Code = decimalText('Q');
-    hooks.SaveSheet = [](int) { Form_Deactivate(); };
+    hooks.SaveSheet = [](SaveMode) { Form_Deactivate(); };
     down(shift1);
     down('Q');
     EXPECT_EQ(1, shown(46));

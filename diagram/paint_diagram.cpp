@@ -91,11 +91,6 @@ private:
     const int samples_;
 };
 
-bool isFamily(const std::string& name)
-{
-    return isFamily(name);
-}
-
 } // namespace
 
 Scale rowScale(int samples, float width)
