@@ -3,6 +3,7 @@
 #include "core/action_log.h"
 #include "core/cue.h"
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/messages.h"
@@ -90,7 +91,7 @@ void Form_Unload(bool& cancel)
 void UnloadAll()
 {
     sheet.Unloading = true;
-    hooks.UnloadForms();
+    takeDownForms();
 }
 
 void Form_Terminate()

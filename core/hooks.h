@@ -11,7 +11,6 @@ struct Hooks {
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
     void (*SaveSheet)(SaveMode) = [](SaveMode) {};
     void (*AutoBackup)() = [] {};
-    void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed

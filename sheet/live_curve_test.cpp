@@ -93,8 +93,8 @@ TEST_F(LiveCurve, beginsAgainWithAnotherSample)
 
 TEST_F(LiveCurve, endsWhereItsLengthEndsAndIsEmptyInASampleWithoutCounts)
 {
-    frmMain.Text2[1].text = "32765";
-    tap('Q', 3);
+    frmMain.Text2[1].text = "32764";
+    tap('Q', 4);
     EXPECT_EQ(sheet.DiversityTotal, 32767);
     ASSERT_EQ(sheet.DiversityCurve.size(), 32768);
     EXPECT_EQ(sheet.DiversityCurve[32766], 10);

@@ -2,14 +2,15 @@
 
 #include "core/basis_members.h"
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "core/taxon_name.h"
 
 SubtotalForm frmSubtotal;
+static const Form form("frmSubtotal", frmSubtotal.visible, frmSubtotal_Command3_Click);
 
 namespace {
 
@@ -53,17 +54,10 @@ bool membersChanged()
     return false;
 }
 
-void close()
-{
-    frmSubtotal.visible = false;
-    returnToMain();
-}
-
 } // namespace
 
 void mnuSubtotal_Click()
 {
-    frmMain.enabled = false;
     frmSubtotal = SubtotalForm();
     frmSubtotal.Option1[1].selected = true;
     for (int group = 1; group <= 2; ++group)
@@ -77,7 +71,7 @@ void mnuSubtotal_Click()
     }
     taxaBefore = sheet.TaxonRecord;
     showMembers();
-    frmSubtotal.visible = true;
+    openAboveMain(frmSubtotal.visible);
 }
 
 void frmSubtotal_Option1_Click(int group)
@@ -116,7 +110,7 @@ void frmSubtotal_Command1_Click()
     RecountTotals(sheet.CurrentSample);
     if (membersChanged())
         markUnsavedWork();
-    close();
+    closeAboveMain(frmSubtotal.visible);
     underlineBasis(); // an open diagram keeps its members until the next count or change of basis
 }
 
@@ -126,7 +120,7 @@ void frmSubtotal_Command3_Click()
         for (int group = 1; group <= 2; ++group)
             memberFlag(sheet.TaxonRecord[slot], group) = memberFlag(taxaBefore[slot], group);
     RecountTotals(sheet.CurrentSample);
-    close();
+    closeAboveMain(frmSubtotal.visible);
 }
 
 void showSubtotalNames()
