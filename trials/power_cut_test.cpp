@@ -225,7 +225,7 @@ protected:
     }
     void save()
     {
-        SaveSheet(0);
+        SaveSheet(SaveMode::plain);
         settled = counted;
         watchUnsavedWork();
         JournalTimer_Timer();

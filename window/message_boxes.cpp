@@ -64,9 +64,7 @@ QString MessageBoxes::startFolder() const
     if (!sheet.SheetPath.empty() && sheetFile.isAbsolute() && sheetFile.dir().exists())
         return sheetFile.path();
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return !lastFolder_.isEmpty()    ? lastFolder_
-           : QDir(documents).exists() ? documents
-                                      : QDir::homePath();
+    return !lastFolder_.isEmpty() ? lastFolder_ : QDir(documents).exists() ? documents : QDir::homePath();
 }
 
 std::optional<std::string> MessageBoxes::run(QFileDialog& dialog)
