@@ -53,7 +53,7 @@ int main()
     const std::vector<double> off = looks();
     mnuStatisticsLine_Click();
     const std::vector<double> on = looks();
-    std::printf("%s\n", statisticsLine.text.c_str());
+    std::printf("%s\n", statisticsLine.Label1.caption.c_str());
     report("statistics line, 135 taxa, on, p99", on[on.size() * 99 / 100], "us", 20);
     report("the same, off, median", median(off), "us", 0.1);
     return 0;

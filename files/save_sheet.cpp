@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/editing.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
@@ -149,6 +150,7 @@ void SaveSheet(int mode)
         frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
         sheet.TemplateOpened = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
+        hooks.SheetSaved();
     }
     if (sheet.SoundOn)
         ports.sound->play(Cue::SoundSave);

@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "sheet/basis.h"
+#include "statistics/laboratory.h"
 #include "statistics/recount.h"
 #include "statistics/richness.h"
 #include "statistics/written_numbers.h"
@@ -11,6 +12,15 @@
 #include <cstdlib>
 
 StatisticsLine statisticsLine;
+
+StatisticsLine::StatisticsLine()
+{
+    Label1.visible = false;
+    for (std::size_t index = 0; index < halfWidths.size(); ++index) {
+        mnuHalfWidth[index].caption = "+-" + plainDecimal(halfWidths[index]) + " %";
+        mnuHalfWidth[index].checked = halfWidths[index] == halfWidth;
+    }
+}
 
 namespace {
 
@@ -55,24 +65,37 @@ void refreshStatisticsLine()
 {
     if (!statisticsLine.mnuStatisticsLine.checked)
         return;
-    statisticsLine.text.clear();
+    statisticsLine.Label1.caption.clear();
     if (areSumsHidden())
         return;
     const int slot = slotCountedLast();
-    statisticsLine.text = statisticsLineText(basisCounts(sheet, sheet.CurrentSample, basisWeights(), 0), slot,
-                                             sheet.TaxonRecord[slot].Name, statisticsLine.halfWidth);
+    statisticsLine.Label1.caption =
+        statisticsLineText(basisCounts(sheet, sheet.CurrentSample, basisWeights(), markerSlot()), slot,
+                           sheet.TaxonRecord[slot].Name, statisticsLine.halfWidth);
 }
 
 void mnuStatisticsLine_Click()
 {
     bool& on = statisticsLine.mnuStatisticsLine.checked;
-    on = !on;
-    statisticsLine.text.clear();
+    on = statisticsLine.Label1.visible = !on;
+    statisticsLine.Label1.caption.clear();
     refreshStatisticsLine();
+}
+
+bool StatisticsLine_MouseDown(int /*index*/, bool /*rightButton*/)
+{
+    return true;
+}
+
+void mnuHalfWidth_Click(int index)
+{
+    chooseHalfWidth(halfWidths[static_cast<std::size_t>(index)]);
 }
 
 void chooseHalfWidth(double percent)
 {
     statisticsLine.halfWidth = percent;
+    for (std::size_t index = 0; index < halfWidths.size(); ++index)
+        statisticsLine.mnuHalfWidth[index].checked = halfWidths[index] == percent;
     refreshStatisticsLine();
 }

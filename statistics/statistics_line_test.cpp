@@ -93,36 +93,36 @@ TEST(StatisticsLineText, OfATaxonOutsideTheSumMayPassAHundred)
 TEST_F(LiveStatistics, ChangesWithEachKeyOnlyWhileItIsOn)
 {
     countOne();
-    EXPECT_EQ(statisticsLine.text, "");
+    EXPECT_EQ(statisticsLine.Label1.caption, "");
     mnuStatisticsLine_Click();
     EXPECT_TRUE(statisticsLine.mnuStatisticsLine.checked);
     for (int i = 0; i < 10; ++i)
         countOne();
-    const std::string before = statisticsLine.text;
+    const std::string before = statisticsLine.Label1.caption;
     EXPECT_NE(before.find(" new taxa | "), std::string::npos) << before;
     countOne();
-    EXPECT_NE(statisticsLine.text, before);
+    EXPECT_NE(statisticsLine.Label1.caption, before);
     {
         const UserEvent event;
         Undo();
     }
     watchCounts();
-    EXPECT_EQ(statisticsLine.text, before);
+    EXPECT_EQ(statisticsLine.Label1.caption, before);
     chooseHalfWidth(5);
-    EXPECT_NE(statisticsLine.text.find(" for +-5 %"), std::string::npos);
+    EXPECT_NE(statisticsLine.Label1.caption.find(" for +-5 %"), std::string::npos);
     recount.hiddenSerial = 1;
     watchCounts();
-    EXPECT_EQ(statisticsLine.text, "") << "the recount's sums are not to be seen here either";
+    EXPECT_EQ(statisticsLine.Label1.caption, "") << "the recount's sums are not to be seen here either";
     recount.hiddenSerial = 0;
     mnuStatisticsLine_Click();
-    EXPECT_EQ(statisticsLine.text, "");
+    EXPECT_EQ(statisticsLine.Label1.caption, "");
 }
 
 TEST_F(LiveStatistics, TargetSaysWhatIsToGoAndRingsOnce)
 {
     mnuTarget_Click();
     EXPECT_TRUE(frmTarget.visible);
-    EXPECT_EQ(frmTarget.label, "Individuals of All total:");
+    EXPECT_EQ(frmTarget.Label1.caption, "Individuals of All total:");
     frmTarget.Text1.text = "12.5";
     dialogs.expect("Please input digit(s).", "Error");
     frmTarget_Command1_Click();
@@ -135,14 +135,14 @@ TEST_F(LiveStatistics, TargetSaysWhatIsToGoAndRingsOnce)
         return std::count(sound.played.begin(), sound.played.end(), Cue::SoundAlarm);
     };
     countOne();
-    EXPECT_EQ(target.text, "15: 2 to go");
+    EXPECT_EQ(target.Label1[target.sum].caption, "15: 2 to go");
     EXPECT_EQ(alarms(), 0);
     countOne();
     countOne();
-    EXPECT_EQ(target.text, "15: reached");
+    EXPECT_EQ(target.Label1[target.sum].caption, "15: reached");
     EXPECT_EQ(alarms(), 1);
     countOne();
-    EXPECT_EQ(target.text, "15: reached");
+    EXPECT_EQ(target.Label1[target.sum].caption, "15: reached");
     for (int i = 0; i < 2; ++i) {
         {
             const UserEvent event;
@@ -150,13 +150,13 @@ TEST_F(LiveStatistics, TargetSaysWhatIsToGoAndRingsOnce)
         }
         watchCounts();
     }
-    EXPECT_EQ(target.text, "15: 1 to go");
+    EXPECT_EQ(target.Label1[target.sum].caption, "15: 1 to go");
     countOne();
     EXPECT_EQ(alarms(), 1) << "it has rung for this sample";
 
     selectBasis(1); // another sum, which holds nothing
     watchCounts();
-    EXPECT_EQ(target.text, "15: 15 to go");
+    EXPECT_EQ(target.Label1[target.sum].caption, "15: 15 to go");
     EXPECT_EQ(target.sum, 1);
     selectBasis(0);
     watchCounts();
@@ -167,7 +167,7 @@ TEST_F(LiveStatistics, TargetSaysWhatIsToGoAndRingsOnce)
     frmTarget.Text1.text.clear();
     frmTarget_Command1_Click();
     countOne();
-    EXPECT_EQ(target.text, "");
+    EXPECT_EQ(target.Label1[target.sum].caption, "");
 }
 
 TEST_F(LiveStatistics, TargetGivesNoSumOfARecountAway)
@@ -175,10 +175,10 @@ TEST_F(LiveStatistics, TargetGivesNoSumOfARecountAway)
     target.individuals = 20;
     recount.hiddenSerial = 1;
     countOne();
-    EXPECT_EQ(target.text, "20: hidden");
+    EXPECT_EQ(target.Label1[target.sum].caption, "20: hidden");
     for (int i = 0; i < 7; ++i)
         countOne();
-    EXPECT_EQ(target.text, "20: reached");
+    EXPECT_EQ(target.Label1[target.sum].caption, "20: reached");
 }
 
 } // namespace

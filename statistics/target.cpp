@@ -1,10 +1,11 @@
 #include "statistics/target.h"
 
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "platform/ports.h"
+#include "statistics/chosen_basis.h"
 #include "statistics/recount.h"
 #include "statistics/written_numbers.h"
 
@@ -12,16 +13,15 @@
 
 Target target;
 TargetForm frmTarget;
+static const Form form("frmTarget", frmTarget.visible, frmTarget_Command2_Click);
+
+Target::Target()
+{
+    for (Label& label : Label1)
+        label.visible = false;
+}
 
 namespace {
-
-int watchedSum()
-{
-    for (int total = 1; total < 3; ++total)
-        if (frmMain.Option1[total].selected)
-            return total;
-    return 0;
-}
 
 std::string remaining(std::int64_t counted)
 {
@@ -33,21 +33,30 @@ std::string remaining(std::int64_t counted)
     return number + withThousands(static_cast<double>(target.individuals - counted)) + " to go";
 }
 
+void showRemaining(std::int64_t counted)
+{
+    for (int sum = 0; sum < 3; ++sum) {
+        Label& label = target.Label1[sum];
+        label.visible = target.individuals > 0 && sum == target.sum;
+        if (label.visible)
+            label.caption = remaining(counted);
+    }
+}
+
 void close()
 {
-    frmTarget.visible = false;
-    returnToMain();
+    closeAboveMain(frmTarget.visible);
 }
 
 } // namespace
 
 void mnuTarget_Click()
 {
-    frmTarget = {
-        .visible = true, .label = "Individuals of " + frmMain.Label2[watchedSum()].caption, .Text1 = {}};
+    frmTarget.Label1.caption = "Individuals of " + sumName(chosenBasis()) + ":";
+    frmTarget.Text1 = {};
     if (target.individuals > 0)
         frmTarget.Text1.text = decimalText(target.individuals);
-    frmMain.enabled = false;
+    openAboveMain(frmTarget.visible);
 }
 
 void frmTarget_Command1_Click()
@@ -72,7 +81,7 @@ void watchTarget()
 {
     if (target.individuals == 0 || !sheet.KeysActive) // the boxes show percentages
         return;
-    const int sum = watchedSum();
+    const int sum = chosenBasis();
     const std::int32_t counted = wholeNumber(frmMain.Text3[sum].text);
     const std::string& sample = sheet.SampleField(sheet.CurrentSample, 1);
     // One key makes one step; anything else is another sample, perhaps of another sheet, or an edit.
@@ -88,5 +97,5 @@ void watchTarget()
     target.sum = sum;
     target.sample = sample;
     target.counted = counted;
-    target.text = remaining(counted);
+    showRemaining(counted);
 }
