@@ -31,7 +31,7 @@ std::vector<double> looks()
 {
     std::vector<double> microseconds;
     for (int look = 0; look < 20000; ++look) {
-        sheet.CurrentSample = static_cast<std::int16_t>(1 + look % sampleLimit);
+        sheet.CurrentSample = 1 + look % sampleLimit;
         sheet.UndoStack[0].sample = sheet.CurrentSample;
         ++sheet.Count(sheet.CurrentSample, 12);
         const auto before = std::chrono::steady_clock::now();

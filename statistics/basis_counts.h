@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 #include "statistics/limits.h"
 
 #include <array>
@@ -28,5 +28,5 @@ struct BasisCounts {
 
 /// `weights`: of each taxon in the basis, by slot. `marker`: slot of the taxon that was added in the
 /// laboratory; 0: none.
-BasisCounts basisCounts(const SheetState& state, int sample,
+BasisCounts basisCounts(const SheetTables& tables, int sample,
                         const std::array<std::int32_t, taxonSlots + 1>& weights, int marker);

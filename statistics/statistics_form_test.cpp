@@ -43,7 +43,7 @@ protected:
     }
     static void show(int sample)
     {
-        sheet.CurrentSample = static_cast<std::int16_t>(sample);
+        sheet.CurrentSample = sample;
         for (int slot = 1; slot <= taxonSlots; ++slot)
             frmMain.Text2[slot].text = decimalText(sheet.Count(sample, slot));
     }
