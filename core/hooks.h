@@ -11,7 +11,6 @@ struct Hooks {
     void (*AutoBackup)() = [] {};
     void (*SheetOpened)() = [] {}; ///< a sheet was read from its file, to its end or not
     void (*SheetSaved)() = [] {};  ///< into its own file, perhaps under a new name
-    void (*UnloadForms)() = [] {}; ///< takes down all windows but the main one
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed
