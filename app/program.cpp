@@ -7,6 +7,7 @@
 #include "core/start_up.h"
 #include "files/left_work.h"
 #include "files/recovery.h"
+#include "statistics/statistics_form.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -26,7 +27,8 @@ Program::Program(const QString& folder)
       recoveryTimer_([this] { keepWork(RecoveryTimer_Timer); }),
       journalTimer_([this] { keepWork(JournalTimer_Timer); }),
       pauseTimer_([this] { keepWork(PauseTimer_Timer); }),
-      deadlineTimer_([this] { keepWork(PauseTimer_Timer); }), dialogs_(window_), keys_(window_),
+      deadlineTimer_([this] { keepWork(PauseTimer_Timer); }),
+      statisticsTimer_([this] { window_.onEvent(StatisticsTimer_Timer); }), dialogs_(window_), keys_(window_),
       ends_(endAtOnce, [] { endRecovery(false); })
 {
     ports = {&files_,
@@ -40,7 +42,8 @@ Program::Program(const QString& folder)
              15 * window_.screen()->size().width(),
              &journalTimer_,
              &pauseTimer_,
-             &deadlineTimer_};
+             &deadlineTimer_,
+             &statisticsTimer_};
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     recoveryCopy = {};

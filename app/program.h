@@ -32,6 +32,7 @@ private:
     EventLoopTimer journalTimer_;
     EventLoopTimer pauseTimer_;
     EventLoopTimer deadlineTimer_;
+    EventLoopTimer statisticsTimer_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;

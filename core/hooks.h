@@ -13,6 +13,8 @@ struct Hooks {
     bool (*AutoBackup)() = [] { return true; }; ///< false: not written
     /// What becomes of the recovery copy. False if unsaved work could not be written.
     bool (*EndRecovery)(bool lossConfirmed) = [](bool) { return true; };
+    void (*SheetOpened)() = [] {}; ///< a sheet was read from its file, to its end or not
+    void (*SheetSaved)() = [] {};  ///< into its own file, perhaps under a new name
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed
     void (*CloseDiagram)() = [] {};

@@ -323,6 +323,7 @@ bool openSheetText(const std::string& text, const std::string& path, const std::
                             : reading == Reading::failed   ? tellUnreadLine(reader.line())
                                                            : "";
     endProgress();
+    hooks.SheetOpened();
     return true;
 }
 

@@ -143,6 +143,7 @@ struct Ports {
     OneShotTimer* journalTimer = nullptr;  ///< when the event is over and what it changed is painted
     OneShotTimer* pauseTimer = nullptr;    ///< the hand pauses
     OneShotTimer* deadlineTimer = nullptr; ///< it does not
+    OneShotTimer* statisticsTimer = nullptr; ///< until the window of statistics follows the counting
 };
 
 extern Ports ports;
