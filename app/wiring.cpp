@@ -51,6 +51,9 @@ void connectRooms()
     hooks.AutoBackup = AutoBackup;
     hooks.EndRecovery = endRecovery;
     hooks.DrawDiversity = DrawDiversity;
+    hooks.CloseDiagram = closeDiagram;
+    hooks.ReloadDiagram = reloadDiagram;
+    hooks.ReorderDiagram = reorderDiagram;
     hooks.RefreshDiagram = refreshDiagram;
     hooks.RedrawDiagram = redrawDiagram;
 }

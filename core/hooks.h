@@ -12,7 +12,10 @@ struct Hooks {
     void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
-    void (*DrawDiversity)() = [] {};  ///< the all total has changed
+    void (*DrawDiversity)() = [] {}; ///< the all total has changed
+    void (*CloseDiagram)() = [] {};
+    void (*ReloadDiagram)() = [] {};  ///< the sheet has got another sample, perhaps while the diagram is open
+    void (*ReorderDiagram)() = [] {}; ///< its samples stand in another order
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
     void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
 };

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/fingerprint.h"
 #include "platform/colour.h"
 
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -92,7 +94,8 @@ struct SheetState {
     std::array<std::int16_t, sampleColumns> SampleSerial{}; ///< column -> serial number, as last read
     std::array<std::int16_t, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
     std::string SheetPath;                                  ///< UTF-8; shorter than 4 characters: no file yet
-    bool SheetUnnamed = true;                               ///< no dialog has named the sheet yet
+    std::optional<Fingerprint> KnownFile; ///< of the file at SheetPath as last read or written; none: no file
+    bool SheetUnnamed = true;             ///< no dialog has named the sheet yet
 
     std::int16_t SampleCount = 1;   ///< samples in the sheet, 1 to 250
     std::int16_t CurrentSample = 1; ///< column on show and being counted

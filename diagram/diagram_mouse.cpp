@@ -2,10 +2,10 @@
 
 #include "core/action_log.h"
 #include "core/number_text.h"
+#include "core/sample_move.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_form.h"
 #include "diagram/diagram_view.h"
-#include "diagram/sample_move.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,9 +2,9 @@
 
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_form.h"
-#include "diagram/sample_names.h"
 #include "sheet/basis.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 /// What the diagram window paints. All of it does nothing while the diagram is closed.
 
 /// Brings shares, ranks, columns and the scroll bar up to date with the whole sheet. The only writer of the
-/// plot data apart from a sample move.
+/// plot data.
 void PrepareDiagram();
 void paintDiagram();
 void paintTaxonNames();

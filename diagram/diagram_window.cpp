@@ -3,13 +3,13 @@
 #include "core/dispatch_key.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_view.h"
 #include "diagram/figures.h"
-#include "diagram/sample_names.h"
 #include "platform/ports.h"
 #include "sheet/basis.h"
 
@@ -158,6 +158,17 @@ void reloadDiagram()
     dismissDendrogram();
     PrepareDiagram();
     paintAll();
+}
+
+void reorderDiagram()
+{
+    if (!sheet.DiagramOpen)
+        return;
+    listDiagramSamples();
+    PrepareDiagram();
+    paintDiagram();
+    paintTaxonNames();
+    recomputeDendrogram();
 }
 
 void refreshDiagram()

@@ -20,6 +20,8 @@ void LaunchDiagram();
 void closeDiagram();
 /// The sheet has other samples than when the window was opened.
 void reloadDiagram();
+/// The samples stand in another order.
+void reorderDiagram();
 /// A key has been counted. A dendrogram on show is dismissed, since it does not belong to the new counts.
 void refreshDiagram();
 /// Another % basis, or counts that were taken back; a dendrogram on show is computed anew.

@@ -1,12 +1,12 @@
 #include "diagram/diagram_window.h"
 
 #include "core/program_test.h"
+#include "core/sample_move.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_view.h"
 #include "diagram/figures.h"
-#include "diagram/sample_move.h"
 #include "sheet/basis.h"
 
 #include <cmath>
@@ -21,6 +21,7 @@ protected:
     Diagram()
     {
         frmDiagram = DiagramForm();
+        hooks.ReorderDiagram = reorderDiagram;
         hooks.RefreshDiagram = refreshDiagram;
         hooks.RedrawDiagram = redrawDiagram;
         addSamples(5);

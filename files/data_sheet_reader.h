@@ -3,8 +3,12 @@
 #include "core/fields.h"
 #include "core/sheet_state_type.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
+
+/// Bytes of the largest file that is read as a data sheet; the fullest sheet takes less than a megabyte.
+constexpr std::size_t sheetLimit = 256u << 20;
 
 /// Makes the file rows and key indexes each other's inverse where a file left them otherwise: of rows with
 /// the same key index the first keeps it, and those without one (0) get the indexes that no row has, with

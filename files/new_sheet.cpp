@@ -1,17 +1,17 @@
 #include "files/new_sheet.h"
 
 #include "core/action_log.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/reset_sheet.h"
 #include "core/return_to_main.h"
+#include "core/sample_names.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
-#include "diagram/diagram_window.h"
-#include "diagram/sample_names.h"
 #include "files/sheet_on_screen.h"
 #include "platform/ports.h"
 
@@ -24,7 +24,7 @@ void mnuNew_Click()
     if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
                            Icon::question) != Answer::yes)
         return;
-    closeDiagram();
+    hooks.CloseDiagram();
     resetSheet();
     showSiteName();
 }

@@ -1,16 +1,16 @@
 #include "files/next_sample.h"
 
 #include "core/action_log.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/return_to_main.h"
+#include "core/sample_move.h"
+#include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
-#include "diagram/diagram_window.h"
-#include "diagram/sample_move.h"
-#include "diagram/sample_names.h"
 #include "files/open_sheet.h"
 #include "platform/ports.h"
 
@@ -138,7 +138,7 @@ bool AddSample()
     // 6, 14.
     logAction("(New sample: " + name + ")");
     moveToDepth();
-    reloadDiagram();
+    hooks.ReloadDiagram();
     // 15.
     TakeSnapshot();
     sheet.SheetPristine = false;
@@ -186,7 +186,7 @@ void frmNext_Command1_Click()
     if (!AddSample())
         return;
     if (sheet.FreshSheet)
-        closeDiagram();
+        hooks.CloseDiagram();
     frmMain.Label14[0].caption = dateStamp(ports.clock->now());
     frmMain.Label14[1].caption = frmMain.Label14[2].caption = "---";
     for (int date = 0; date < 3; ++date)

@@ -2,17 +2,17 @@
 
 #include "core/action_log.h"
 #include "core/highlight.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/reset_sheet.h"
+#include "core/sample_names.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
 #include "core/text_changes.h"
-#include "diagram/diagram_window.h"
-#include "diagram/sample_names.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
 #include "files/new_sheet.h"
@@ -30,8 +30,6 @@
 #include <optional>
 
 namespace {
-
-constexpr std::size_t sheetLimit = 256u << 20; // the fullest sheet takes less than a megabyte
 
 /// Steps 1 to 4. True if the sheet in memory may go.
 bool mayGo(bool dropped)
@@ -55,7 +53,7 @@ bool mayGo(bool dropped)
         return false;
     }
     RestoreSnapshot();
-    closeDiagram(); // also if the dialog is cancelled then
+    hooks.CloseDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
         sheet.UndoStack[i].slot = 0;
     return true;
@@ -98,7 +96,7 @@ enum class Reading {
 };
 
 /// Steps 8 to 15.
-Reading readSheet(std::string_view text, const std::string& path)
+Reading readSheet(std::string_view text, const std::string& path, const std::optional<Fingerprint>& file)
 {
     const ShowingSample showing;
     DataSheetReader reader(text, sheet);
@@ -106,6 +104,7 @@ Reading readSheet(std::string_view text, const std::string& path)
     if (!name || !reader.readPath())
         return Reading::nothing;
     sheet.SheetPath = path;
+    sheet.KnownFile = file;
     showSheetName(*name);
     if (!reader.readSerials() || !reader.readNames())
         return Reading::failed;
@@ -218,7 +217,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
     sheet.FreshSheet = true;
     if (const auto path = choose())
         if (const auto bytes = ports.files->read(*path, sheetLimit))
-            openSheetText(fileTextInCodePage(*bytes), *path);
+            openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
     endProgress();
     ApplyItalics();
     TestSampleNames();
@@ -226,11 +225,11 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
 
 } // namespace
 
-void openSheetText(const std::string& text, const std::string& path)
+void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
-    closeDiagram(); // it shows the sheet that goes
+    hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
-    const Reading reading = readSheet(text, path);
+    const Reading reading = readSheet(text, path, file);
     if (reading == Reading::complete) {
         settle();
     } else if (reading == Reading::refused) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/fingerprint.h"
+
+#include <optional>
 #include <string>
 
 /// Replaces the sheet in memory by a file that the user chooses: a data sheet, an older layout of one, or a
@@ -7,7 +10,7 @@
 /// without a message; what was read until then stays, and the sheet has the file's name already.
 void mnuOpen_Click();
 /// Replaces the sheet in memory by the text of a data sheet, in the code page. `path`: UTF-8, becomes the
-/// sheet's file.
-void openSheetText(const std::string& text, const std::string& path);
+/// sheet's file; `file`: what it holds.
+void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file);
 /// The same for a file that was dropped onto the window, questions included. `path`: UTF-8.
 void openDropped(const std::string& path);

@@ -7,6 +7,8 @@
 #include "core/number_text.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
+#include "files/data_sheet_reader.h"
+#include "files/fingerprint.h"
 #include "files/open_sheet.h"
 #include "files/sample_totals.h"
 #include "files/sheet_on_screen.h"
@@ -21,7 +23,6 @@ namespace {
 
 constexpr int delay = 5000; // milliseconds
 constexpr int places = 9;   // programs that may run at once
-constexpr std::size_t sheetLimit = 256u << 20;
 
 /// A sheet begun from a template is not the template.
 std::string pathOfSheet()
@@ -68,7 +69,7 @@ std::string originalPath(std::string_view text)
 void takeUp(const std::string& text)
 {
     const std::string path = originalPath(text);
-    openSheetText(text, recoveryCopy.path);
+    openSheetText(text, recoveryCopy.path, fingerprintOfFile(path));
     sheet.SheetPath = path;
     sheet.SheetUnnamed = path.empty();
     showSheetName(baseName(path).value_or("Untitled"));

@@ -6,6 +6,7 @@
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
+#include "files/fingerprint.h"
 #include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
@@ -70,7 +71,11 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
     if (mode == plain && !sheet.FreshSheet)
         modified = dateStamp(now);
     fillEmptyCells(sheet, shownCaptions());
-    if (!ports.files->write(path, fileText(mode, totals))) {
+    const std::string text = fileText(mode, totals);
+    const bool written = ports.files->write(path, text);
+    if (path == sheetPath && (written || path == sheet.SheetPath))
+        sheet.KnownFile = written ? fingerprintOf(text) : fingerprintOfFile(path);
+    if (!written) {
         sheet.SheetHeader[1] = headBefore;
         modified = modifiedBefore;
         if (path == sheet.SheetPath)

@@ -1,11 +1,11 @@
 #include "keys/key_editor.h"
 
 #include "core/character_rule.h"
+#include "core/key_grid.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/return_to_main.h"
 #include "core/sheet_state.h"
-#include "keys/key_grid.h"
 #include "keys/key_settings.h"
 #include "platform/ports.h"
 

@@ -1,9 +1,9 @@
 #include "sheet/cell_grid.h"
 
+#include "core/key_grid.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
-#include "keys/key_grid.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "window/find_window.h"
 
-#include "keys/key_grid.h"
+#include "core/key_grid.h"
 #include "platform/qt/text.h"
 #include "window/fitted_letters.h"
 #include "window/main_window.h"

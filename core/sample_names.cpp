@@ -1,4 +1,4 @@
-#include "diagram/sample_names.h"
+#include "core/sample_names.h"
 
 #include "core/number_text.h"
 #include "core/sheet_state.h"

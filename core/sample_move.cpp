@@ -1,13 +1,10 @@
-#include "diagram/sample_move.h"
+#include "core/sample_move.h"
 
 #include "core/editing.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
-#include "diagram/coniss_window.h"
-#include "diagram/diagram_form.h"
-#include "diagram/diagram_mouse.h"
-#include "diagram/diagram_view.h"
 
 #include <algorithm>
 #include <utility>
@@ -40,7 +37,6 @@ void MoveSample()
     if (from != to) {
         moveColumn(sheet.SampleField, from, to);
         moveColumn(sheet.Count, from, to);
-        moveColumn(frmDiagram.plot.Share, from, to);
         moveColumn(sheet.AdditionalInfo, from, to);
         moveColumn(sheet.SampleNote, from, to);
         moveColumn(sheet.SampleStamp, from, to);
@@ -54,11 +50,5 @@ void MoveSample()
         listSampleNames();
         frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);
     }
-    if (sheet.DiagramOpen) {
-        listDiagramSamples();
-        PrepareDiagram();
-        paintDiagram();
-        paintTaxonNames();
-        recomputeDendrogram();
-    }
+    hooks.ReorderDiagram();
 }
