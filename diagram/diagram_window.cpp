@@ -1,6 +1,7 @@
 #include "diagram/diagram_window.h"
 
 #include "core/dispatch_key.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sample_names.h"
@@ -15,6 +16,8 @@
 
 #include <algorithm>
 #include <cmath>
+
+static const Form form("frmDiagram", sheet.DiagramOpen, closeDiagram, Form::Stands::beside);
 
 namespace {
 
@@ -82,7 +85,7 @@ void launch(DiagramStyle style)
 
 void stepTo(int sample)
 {
-    frmDiagram.DiagramSample = static_cast<std::int16_t>(sample);
+    frmDiagram.DiagramSample = sample;
     Slider1_Change(sample);
     frmDiagram.sliderFocused = true;
 }
@@ -144,10 +147,8 @@ void closeDiagram()
     f.ConissShown = false;
     f.LineDragging = f.MovingSample = false;
     f.pointer = DiagramPointer::arrow;
-    if (!sheet.Unloading) {
-        frmMain.enabled = true;
+    if (!sheet.Unloading)
         frmMain.focus = MainFocus::Text99;
-    }
 }
 
 void reloadDiagram()
@@ -268,7 +269,6 @@ void frmDiagram_Basis_Click(int basis)
     else
         selectBasis(basis);
     sheet.AlarmArmed = true;
-    frmMain.enabled = true;
 }
 
 void mnuDefaultDGColour_Click()
@@ -381,13 +381,13 @@ void frmDiagram_Combo2_Click(std::string_view name)
 {
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         if (sheet.SampleField(sample, 2) == name)
-            frmDiagram.DiagramSample = static_cast<std::int16_t>(sample);
+            frmDiagram.DiagramSample = sample;
     stepTo(frmDiagram.DiagramSample);
 }
 
-void Check1_Click(bool checked)
+void Check1_Click()
 {
-    frmDiagram.Check1.checked = checked;
+    frmDiagram.Check1.checked = !frmDiagram.Check1.checked;
     paintSampleLine();
     frmDiagram.sliderFocused = true;
 }

@@ -1,10 +1,10 @@
 #include "files/next_sample.h"
 
 #include "core/action_log.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sample_move.h"
 #include "core/sample_names.h"
 #include "core/sheet_state.h"
@@ -17,6 +17,7 @@
 #include <algorithm>
 
 NextForm frmNext;
+static const Form form("frmNext", frmNext.visible, frmNext_Command3_Click);
 
 namespace {
 
@@ -38,8 +39,7 @@ void close()
 {
     for (Button& rename : frmNext.Command5)
         rename.visible = true;
-    frmNext.visible = false;
-    returnToMain();
+    closeAboveMain(frmNext.visible);
 }
 
 bool isNameTaken()
@@ -67,12 +67,12 @@ bool mayEmptyPlaceholder()
     return true;
 }
 
-std::int16_t largestSerial()
+int largestSerial()
 {
     double largest = -9999;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         largest = std::max(largest, leadingNumber(sheet.SampleField(sample, 1)));
-    return static_cast<std::int16_t>(largest > -9999 ? std::min(largest, 32766.0) : 0);
+    return static_cast<int>(largest > -9999 ? std::min(largest, 32766.0) : 0);
 }
 
 /// Of equal depths the new sample comes last.
@@ -109,17 +109,14 @@ bool AddSample()
         sheet.CurrentSample = sheet.SampleCount;
     }
     const int sample = sheet.CurrentSample = sheet.SampleCount;
-    // 5 to 8.
+    forEachSampleTable(sheet, [sample](auto&... tables) { (clearColumn(tables, sample), ...); });
     const std::string name = frmNext.Text1.text.empty() ? decimalText(sample) + ": ---" : frmNext.Text1.text;
-    sheet.SampleField(sample, 0).clear();
     sheet.SampleField(sample, 1) = decimalText(sheet.LatestSerial);
     sheet.SampleField(sample, 2) = name;
     listSampleNames(); // without the placeholder
     setText1(0, name); // shows in Combo2 too
-    // 10. Whatever stood in the column before.
     for (int slot = 0; slot <= taxonSlots; ++slot) {
         frmMain.Text1[slot].bold = frmMain.Text2[slot].bold = false;
-        sheet.Count(sample, slot) = sheet.SavedCount(sample, slot) = 0;
         if (slot > 0)
             setText2(slot, "0");
     }
@@ -167,8 +164,7 @@ void NextFile()
         return;
     }
     load();
-    frmNext.visible = true;
-    frmMain.enabled = false;
+    openAboveMain(frmNext.visible);
 }
 
 void showFirstRunChoice()
@@ -209,4 +205,14 @@ void frmNext_Command4_Click()
 {
     frmNext.Command4.visible = false;
     frmNext.entryBoxes = true;
+}
+
+void frmNext_Text3_GotFocus(int item)
+{
+    frmNext.enterInfo(item);
+}
+
+void frmNext_Text3_LostFocus(int item)
+{
+    frmNext.leaveInfo(item);
 }

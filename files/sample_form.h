@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_size.h"
 #include "platform/controls.h"
 
 #include <array>
@@ -9,7 +9,7 @@
 /// The boxes that describe a new sample; frmSiteName (the first one) and frmNext share them.
 struct SampleForm {
     bool visible = false;
-    std::string nameLabel;
+    Label Label1;                             ///< what stands beside the name
     TextBox Text1;                            ///< name
     TextBox Text2;                            ///< note
     std::array<Label, infoItems + 1> Label3;  ///< captions of additional info 1 to 6
