@@ -167,7 +167,7 @@ void sortStatistics(int column)
 
 void frmStatistics_Command1_Click()
 {
-    const auto path = ports.dialogs->chooseFileToSave(proposedPath());
+    const auto path = ports.dialogs->chooseFileToSave("Save table", proposedPath());
     if (path && !ports.files->write(*path, utf8WithMark(tableOfPage())))
         ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
                            "Error", Buttons::ok, Icon::exclamation);

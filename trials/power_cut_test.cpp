@@ -245,18 +245,18 @@ protected:
     static int countIn(const SheetTables& tables) { return tables.Count(1, 1); }
 
     /// What a program finds after the cut. The files stand where the program knows them.
-    void look(const std::map<std::string, std::string>& files)
+    void look(const std::map<std::string, std::string>& onDisk)
     {
         ++states;
         const fs::path aside = place / "aside";
         fs::rename(disk, aside);
         fs::create_directories(disk / "References/Back up files");
-        for (const auto& [name, bytes] : files)
+        for (const auto& [name, bytes] : onDisk)
             std::ofstream(disk / name, std::ios::binary) << bytes;
         int most = 0;
         const auto read = [&](const std::string& name) {
-            const auto file = files.find(name);
-            return file == files.end() ? std::nullopt : std::optional(file->second);
+            const auto file = onDisk.find(name);
+            return file == onDisk.end() ? std::nullopt : std::optional(file->second);
         };
         const auto copy = read("References/Recovery_copy_(1).csv");
         const auto journal = read("References/Recovery_journal_(1).txt");
@@ -268,7 +268,7 @@ protected:
                 most = countIn(*work->tables);
             }
         }
-        for (const auto& [name, bytes] : files)
+        for (const auto& [name, bytes] : onDisk)
             if (name.ends_with(".csv") && name.find("Recovery_copy") == std::string::npos) {
                 SheetTables tables;
                 bool whole = readDataSheet(bytes, tables);

@@ -96,21 +96,21 @@ TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
 TEST_F(RealKeys, aKeyHeldWithAltCtrlOrSuperCountsNothingUnlessThatKeyIsBound)
 {
     bind(1, 49); // 1
-    tap(placeQ);
-    tap(backspace);
+    tap(place::q);
+    tap(place::backspace);
     EXPECT_EQ(total(), 0);
-    for (const Place held : {leftAlt, leftCtrl, leftSuper})
-        for (const Place key : {placeQ, digit1, backspace}) {
+    for (const int held : {place::alt, place::ctrl, place::leftSuper})
+        for (const int key : {place::q, place::digit1, place::backspace}) {
             tapWith({held}, key);
-            EXPECT_EQ(total(), 0) << "place " << int(held) << ", " << int(key);
+            EXPECT_EQ(total(), 0) << "place " << held << ", " << key;
             if (QApplication::activePopupWidget() != nullptr)
-                tap(escape);
+                tap(place::escape);
         }
-    tap(escape); // out of the menu bar
-    tap(digit1);
+    tap(place::escape); // out of the menu bar
+    tap(place::digit1);
     EXPECT_EQ(total(), 1);
     bind(2, 91);
-    tapWith({leftSuper}, digit1);
+    tapWith({place::leftSuper}, place::digit1);
     EXPECT_EQ(total(), 3) << "both of them count";
 }
 

@@ -1,5 +1,6 @@
 #include "window/statistics_window.h"
 
+#include "core/forms.h"
 #include "platform/qt/text.h"
 #include "statistics/statistics_form.h"
 #include "window/bring_forward.h"
