@@ -1,7 +1,7 @@
 #include "tables/count_table.h"
 
 #include "core/number_text.h"
-#include "core/sheet_state_type.h"
+#include "core/sheet_size.h"
 #include "tables/plain_number.h"
 #include "tables/plain_table.h"
 #include "tables/table_words.h"
@@ -261,7 +261,10 @@ void CountTableReader::leaveOutSum(bool ofTaxa)
         if ((ofTaxa ? i % taxa : i / taxa) != found[0])
             kept.push_back(result_.counts[i]);
     result_.counts = std::move(kept);
-    lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(found[0]));
+    const auto place = static_cast<std::ptrdiff_t>(found[0]);
+    lines.erase(lines.begin() + place);
+    std::vector<std::string>& names = ofTaxa ? result_.taxa : result_.samples;
+    names.erase(names.begin() + place);
 }
 
 void CountTableReader::name()
@@ -276,8 +279,6 @@ void CountTableReader::name()
         if (result_.samples.back().empty())
             result_.samples.back() = decimalText(static_cast<long long>(result_.samples.size())) + ": ---";
     }
-    remarkEqualNames(result_.taxa, "taxa");
-    remarkEqualNames(result_.samples, "samples");
 }
 
 void CountTableReader::remarkEqualNames(const std::vector<std::string>& names, const char* what)
@@ -371,16 +372,20 @@ CountTable CountTableReader::read()
 {
     if (!isTable() || !isRectangle())
         return std::move(result_);
+    result_.isTable = true;
     result_.samplesStand = reading_.samples ? reading_.samples : toldSide();
     samplesAreRows_ = result_.samplesStand != Samples::columns;
     chooseNames();
     chooseLines();
+    name();
     if (!readCounts())
         return std::move(result_);
     leaveOutSum(true);
     leaveOutSum(false);
-    name();
-    withinLimits();
+    if (withinLimits()) {
+        remarkEqualNames(result_.taxa, "taxa");
+        remarkEqualNames(result_.samples, "samples");
+    }
     return std::move(result_);
 }
 
