@@ -39,6 +39,7 @@ protected:
             folder = dialog->directory().path();
             auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
             proposed = name->text();
+            name->setFocus(); // as when a user types: else the list's selection writes into it
             name->setText(typed);
             QTimer::singleShot(0, dialog, [dialog, typed] {
                 typed.isEmpty() ? dialog->reject() : static_cast<QDialog*>(dialog)->accept();
