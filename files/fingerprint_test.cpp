@@ -30,12 +30,12 @@ TEST_F(KnownFile, isTheOneLastReadOrWritten)
     tap('Q');
     dialogs.expect("'Lake.csv' has been changed by another program. Do you want to write over it?",
                    "Caution!", Answer::yes);
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_FALSE(sheetFileHasChanged());
     const std::string elsewhere = files.contents[lake];
 
     dialogs.paths = {"/home/Copy.csv"};
-    SaveSheet(55);
+    SaveSheet(SaveMode::copy);
     EXPECT_FALSE(sheetFileHasChanged()) << "a copy is another file";
     files.contents[lake] = elsewhere + "\r\n";
     sheet.SheetPristine = true;
@@ -56,7 +56,7 @@ TEST_F(KnownFile, isWhatAFailedWriteHasLeft)
     };
     files.cutShort = {lake, "/home/Other.csv"};
     failing();
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_FALSE(sheetFileHasChanged()) << "cut short by this program itself";
     failing();
     saveAs("/home/Other.csv");

@@ -6,7 +6,9 @@
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/reset_sheet.h"
 #include "core/sample_names.h"
@@ -49,8 +51,7 @@ bool mayGo(bool dropped)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
         return true;
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes) {
+    if (!mayLoseCounts()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
         sheet.UnsavedEdits = false;
@@ -69,7 +70,7 @@ void showHeads()
 {
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
-    setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(last);
     showSubtotalNames();
 
     listSampleNames();
@@ -142,7 +143,7 @@ Reading readSheet(DataSheetReader& reader, const std::string& path, const std::s
         showTaxon(row);
     if (sheet.SampleCount == 0) {
         reader.beginFromTemplate(frmMain.Text1[0].text);
-        setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+        showSerial(1);
     }
     RecountTotals(sheet.CurrentSample);
     return !reader.readTexts()        ? Reading::failed
@@ -215,8 +216,9 @@ void settle()
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
-    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = sheet.UnsavedEdits = false;
+    offerNextSample(true);
+    offerSave(false);
+    sheet.UnsavedEdits = false;
     selectBasis(0);
     AutoBackup();
     ApplyItalics();
