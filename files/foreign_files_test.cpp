@@ -24,6 +24,7 @@ TEST_F(SheetFiles, aTemplateBringsNoSampleOfTheSheetBefore)
     EXPECT_EQ(field("/home/Lake2.csv", 2, 5), "-9999");
 
     // A file that ends before its first sample has none either.
+    sheet.SheetPristine = true;
     open("/home/Lake1.csv");
     std::string& cut = files.contents["/home/cut.csv"] = files.contents.at("/home/pollen.csv");
     cut.resize(cut.size() / 2);

@@ -117,6 +117,23 @@ void takeName(const std::string& path, const std::string& name)
     WrapFileLocation();
 }
 
+/// What stands at the path may be nobody's copy of it. False if it is left alone and the save has ended.
+bool mayTake(const std::string& path, bool isTable)
+{
+    const bool isOwn = path == sheet.SheetPath;
+    const bool changed = isOwn && !sheet.ReadInPart && sheetFileHasChanged();
+    if (changed && !mayWriteOver(path)) {
+        endCancelled();
+        return false;
+    }
+    const bool unknown = changed || (isOwn && sheet.ReadInPart);
+    if (!(unknown || (!isOwn && !isTable)) || keepFormerBytes(path, unknown))
+        return true;
+    frmMain.notice = "What the file holds could not be kept among the backups: save under another name.";
+    endFailed();
+    return false;
+}
+
 } // namespace
 
 void SaveSheet(SaveMode mode)
@@ -156,18 +173,8 @@ void SaveSheet(SaveMode mode)
         endFailed();
         return;
     }
-    const bool isOwn = path == sheet.SheetPath;
-    const bool changed = isOwn && !sheet.ReadInPart && sheetFileHasChanged();
-    if (changed && !mayWriteOver(path)) {
-        endCancelled();
+    if (!mayTake(path, isTable))
         return;
-    }
-    const bool unknown = changed || (isOwn && sheet.ReadInPart);
-    if ((unknown || (!isOwn && !isTable)) && !keepFormerBytes(path, unknown)) {
-        frmMain.notice = "What the file holds could not be kept among the backups: save under another name.";
-        endFailed();
-        return;
-    }
     if (!write(mode, path, namesSheet ? path : sheet.SheetPath, *totals)) {
         endFailed();
         return;
@@ -187,8 +194,7 @@ void SaveSheet(SaveMode mode)
         hooks.SheetSaved();
     }
     playCue(Cue::SoundSave);
-    if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows
-    {
+    if (!sheet.Modifying) { // its Save key works in the diagram's window only, and no next sample follows
         offerNextSample(true);
         frmMain.mnuSaveCopy.enabled = true;
     }

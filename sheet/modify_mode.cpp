@@ -1,11 +1,11 @@
 #include "sheet/modify_mode.h"
 
 #include "core/amending.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
-#include "platform/ports.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/name_display.h"
 
@@ -75,8 +75,7 @@ static void endEditing()
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false;
     frmMain.notice = "Counting again"; // what is typed next would count
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+    playCue(Cue::SoundError);
 }
 
 void Text1_DblClick()

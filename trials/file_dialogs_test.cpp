@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -27,8 +28,10 @@ protected:
         QObject::connect(&looks, &QTimer::timeout, window, [&] {
             auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             if (dialog == nullptr || seen) { // a message that nobody expects must not keep the test waiting
-                if (auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                    ADD_FAILURE() << box->text().toStdString();
                     box->reject();
+                }
                 return;
             }
             seen = true;
@@ -36,8 +39,11 @@ protected:
             folder = dialog->directory().path();
             auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
             proposed = name->text();
+            name->setFocus(); // as when a user types: else the list's selection writes into it
             name->setText(typed);
-            typed.isEmpty() ? dialog->reject() : static_cast<QDialog*>(dialog)->accept();
+            QTimer::singleShot(0, dialog, [dialog, typed] {
+                typed.isEmpty() ? dialog->reject() : static_cast<QDialog*>(dialog)->accept();
+            });
         });
         looks.start(50);
         named<QAction>(entry)->setEnabled(true);

@@ -95,23 +95,19 @@ TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
 
 TEST_F(RealKeys, aKeyHeldWithAltCtrlOrSuperCountsNothingUnlessThatKeyIsBound)
 {
-    bind(1, 49); // 1
     tap(place::q);
-    tap(place::backspace);
-    EXPECT_EQ(total(), 0);
+    EXPECT_EQ(total(), 1);
     for (const int held : {place::alt, place::ctrl, place::leftSuper})
         for (const int key : {place::q, place::digit1, place::backspace}) {
             tapWith({held}, key);
-            EXPECT_EQ(total(), 0) << "place " << held << ", " << key;
-            if (QApplication::activePopupWidget() != nullptr)
-                tap(place::escape);
+            EXPECT_EQ(total(), 1) << "place " << held << ", " << key;
+            tap(place::escape); // out of the menu bar, where Alt leads to
         }
-    tap(place::escape); // out of the menu bar
     tap(place::digit1);
-    EXPECT_EQ(total(), 1);
-    bind(2, 91);
+    EXPECT_EQ(total(), 2);
+    bind(3, 91);
     tapWith({place::leftSuper}, place::digit1);
-    EXPECT_EQ(total(), 3) << "both of them count";
+    EXPECT_EQ(total(), 4) << "both of them count";
 }
 
 TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
