@@ -105,10 +105,20 @@ using Entries = std::map<std::string, ino_t>;
 class PowerCut {
 public:
     explicit PowerCut(fs::path disk) : disk_(std::move(disk)) {}
+    ~PowerCut()
+    {
+        for (const auto& [file, handle] : held_)
+            ::close(handle);
+    }
+    PowerCut(const PowerCut&) = delete;
+    PowerCut& operator=(const PowerCut&) = delete;
 
     /// After a call of the program; `synced`: the file or folder that it has brought to the disk, or -1.
     void note(int synced)
     {
+        for (const auto& [name, file] : entriesNow())
+            if (held_.count(file) == 0)
+                held_[file] = __real_open((disk_ / name).c_str(), O_RDONLY);
         if (synced == -1)
             return;
         struct stat facts;
@@ -169,6 +179,7 @@ private:
     fs::path disk_;
     Entries entries_;
     std::map<ino_t, std::string> bytes_;
+    std::map<ino_t, int> held_; ///< open, so that no other file gets the inode of one that is gone
 };
 
 class PowerCutTest;
@@ -245,18 +256,18 @@ protected:
     static int countIn(const SheetTables& tables) { return tables.Count(1, 1); }
 
     /// What a program finds after the cut. The files stand where the program knows them.
-    void look(const std::map<std::string, std::string>& files)
+    void look(const std::map<std::string, std::string>& left)
     {
         ++states;
         const fs::path aside = place / "aside";
         fs::rename(disk, aside);
-        fs::create_directories(disk / "References/Back up files");
-        for (const auto& [name, bytes] : files)
+        fs::create_directories(disk / "References/Back up left");
+        for (const auto& [name, bytes] : left)
             std::ofstream(disk / name, std::ios::binary) << bytes;
         int most = 0;
         const auto read = [&](const std::string& name) {
-            const auto file = files.find(name);
-            return file == files.end() ? std::nullopt : std::optional(file->second);
+            const auto file = left.find(name);
+            return file == left.end() ? std::nullopt : std::optional(file->second);
         };
         const auto copy = read("References/Recovery_copy_(1).csv");
         const auto journal = read("References/Recovery_journal_(1).txt");
@@ -268,7 +279,7 @@ protected:
                 most = countIn(*work->tables);
             }
         }
-        for (const auto& [name, bytes] : files)
+        for (const auto& [name, bytes] : left)
             if (name.ends_with(".csv") && name.find("Recovery_copy") == std::string::npos) {
                 SheetTables tables;
                 bool whole = readDataSheet(bytes, tables);
