@@ -1,13 +1,15 @@
 #pragma once
 
+#include "core/save_mode.h"
+
 /// What a handler of the core sets off in rooms above it. app/wiring.cpp connects them; what is not connected
 /// does nothing.
 struct Hooks {
     bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
     void (*ArrangeTaxonCells)() = [] {};
-    void (*ShowInitial)() = [] {};              ///< brings up the window that identifies the keyboard
-    void (*ShowFirstRunChoice)() = [] {};       ///< after a first run: begins the first sheet
-    void (*SaveSheet)(int) = [](int) {};        ///< argument: the save mode, 0 plain, 99 plain and untouched
+    void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
+    void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
+    void (*SaveSheet)(SaveMode) = [](SaveMode) {};
     bool (*AutoBackup)() = [] { return true; }; ///< false: not written
     /// What becomes of the recovery copy. False if unsaved work could not be written.
     bool (*EndRecovery)(bool lossConfirmed) = [](bool) { return true; };

@@ -6,7 +6,9 @@
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/reset_sheet.h"
 #include "core/sample_names.h"
@@ -41,17 +43,11 @@ struct UnsavedWork {
     std::optional<std::string> kept; ///< name of the file among the backups that holds it all the same
 };
 
-bool askToAbort()
-{
-    return ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!",
-                              Buttons::yesNo, Icon::question) == Answer::yes;
-}
-
 /// Before a sheet goes that nothing has been asked about. What can be kept nowhere is asked about after all.
 bool keepOrAsk(UnsavedWork& work)
 {
     if (hasUnsavedWork() && !(work.kept = keepUnsavedWork()))
-        work.givenUp = askToAbort();
+        work.givenUp = mayLoseCounts();
     return !hasUnsavedWork() || work.kept || work.givenUp;
 }
 
@@ -69,7 +65,7 @@ bool mayGo(bool dropped, UnsavedWork& work)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
         return keepOrAsk(work);
-    if (!askToAbort()) {
+    if (!mayLoseCounts()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
         sheet.FreshSheet = false;
@@ -90,7 +86,7 @@ void showHeads()
 {
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
-    setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(last);
     showSubtotalNames();
 
     listSampleNames();
@@ -150,7 +146,7 @@ Reading readSheet(std::string_view text, const std::string& path, const std::opt
         showTaxon(row);
     if (sheet.SampleCount == 0) {
         reader.beginFromTemplate(frmMain.Text1[0].text);
-        setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+        showSerial(1);
     }
     RecountTotals(sheet.CurrentSample);
     return reader.readTexts() ? Reading::complete : Reading::failed;
@@ -220,8 +216,8 @@ void settle()
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
-    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    offerNextSample(true);
+    offerSave(false);
     selectBasis(0);
     AutoBackup();
     ApplyItalics();

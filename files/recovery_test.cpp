@@ -55,7 +55,7 @@ TEST_F(Recovery, crashedSheetIsTakenUpWithItsFileAndItsCounts)
     EXPECT_TRUE(frmMain.Command5[0].enabled && !sheet.SheetPristine);
     EXPECT_EQ(files.contents["/cores/Lake.csv"], saved) << "until it is saved";
     EXPECT_TRUE(isThere(copyPath)) << "still unsaved work";
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     afterEvent();
     EXPECT_FALSE(isThere(copyPath));
     crash();
@@ -143,7 +143,7 @@ TEST_F(Recovery, fileThatIsAnotherOneByNowIsNotWrittenOver)
     takeUp("3");
     EXPECT_EQ(shown(1), 3);
     dialogs.paths = {std::nullopt};
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_EQ(dialogs.proposed, "/cores/Lake (recovered).csv");
     EXPECT_EQ(files.contents["/cores/Lake.csv"], "of another program");
 
@@ -170,7 +170,7 @@ TEST_F(Recovery, sheetThatIsCutShortByItsOwnSaveIsWholeInTheCopy)
         count('Q', counted);
         dialogs.expect("The file is being used by another software. Please close the file and try again.",
                        "Error", Answer::ok);
-        SaveSheet(0);
+        SaveSheet(SaveMode::plain);
         crash(); // before the event was over
         expectOffer("Lake", decimalText(2 + counted), Answer::yes, another);
         findRecoveryCopies();

@@ -236,7 +236,7 @@ protected:
     }
     void save()
     {
-        SaveSheet(0);
+        SaveSheet(SaveMode::plain);
         settled = counted;
         watchUnsavedWork();
         JournalTimer_Timer();
