@@ -4,8 +4,8 @@
 #include "core/sheet_tables.h"
 #include "files/sheet_text.h"
 
-/// The text of a sheet of 135 taxa; by default the fullest.
-inline std::string fullSheetText(int samples = sampleLimit)
+/// A sheet of 135 taxa; by default the fullest.
+inline SheetTables fullSheet(int samples = sampleLimit)
 {
     SheetTables tables;
     tables.SampleCount = samples;
@@ -17,6 +17,12 @@ inline std::string fullSheetText(int samples = sampleLimit)
     }
     for (int slot = 1; slot <= taxonSlots; ++slot)
         tables.TaxonRecord[slot].Name = "Taxon name " + decimalText(slot);
+    return tables;
+}
+
+inline std::string fullSheetText(int samples = sampleLimit)
+{
+    SheetTables tables = fullSheet(samples);
     fillEmptyCells(tables, {});
     return dataSheetText(tables, *sampleTotals(tables));
 }

@@ -26,10 +26,14 @@ std::string toCodePage(std::u16string_view text)
     std::string result;
     result.reserve(text.size());
     for (const char16_t unit : text) {
+        if (unit < 0x80) { // nearly all
+            result += static_cast<char>(unit);
+            continue;
+        }
         const auto place = std::find(upperControls.begin(), upperControls.end(), unit);
         if (place != upperControls.end())
             result += static_cast<char>(0x80 + (place - upperControls.begin()));
-        else if (unit < 0x80 || (unit > 0x9F && unit <= 0xFF))
+        else if (unit > 0x9F && unit <= 0xFF)
             result += static_cast<char>(unit);
         else if (unit < 0xDC00 || unit > 0xDFFF) // the second half of a pair adds nothing
             result += '?';
