@@ -29,7 +29,7 @@ public:
     /// Adds to the end of a file, which is made if there is none: all of the bytes or, as far as the disk
     /// lets, none. They have not reached the disk itself yet. False also if an earlier settle() did not get
     /// there.
-    virtual bool append(const std::string& path, std::string_view bytes) = 0;
+    [[nodiscard]] virtual bool append(const std::string& path, std::string_view bytes) = 0;
     /// What was appended is to reach the disk. Does not wait for it.
     virtual void settle(const std::string& path) = 0;
     /// True if there is no such file afterwards.

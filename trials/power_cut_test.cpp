@@ -105,10 +105,20 @@ using Entries = std::map<std::string, ino_t>;
 class PowerCut {
 public:
     explicit PowerCut(fs::path disk) : disk_(std::move(disk)) {}
+    ~PowerCut()
+    {
+        for (const auto& [file, handle] : held_)
+            ::close(handle);
+    }
+    PowerCut(const PowerCut&) = delete;
+    PowerCut& operator=(const PowerCut&) = delete;
 
     /// After a call of the program; `synced`: the file or folder that it has brought to the disk, or -1.
     void note(int synced)
     {
+        for (const auto& [name, file] : entriesNow())
+            if (held_.count(file) == 0)
+                held_[file] = __real_open((disk_ / name).c_str(), O_RDONLY);
         if (synced == -1)
             return;
         struct stat facts;
@@ -169,6 +179,7 @@ private:
     fs::path disk_;
     Entries entries_;
     std::map<ino_t, std::string> bytes_;
+    std::map<ino_t, int> held_; ///< open, so that no other file gets the inode of one that is gone
 };
 
 class PowerCutTest;
