@@ -6,13 +6,14 @@
 #include "core/main_keys.h"
 #include "core/start_up.h"
 #include "files/recovery.h"
+#include "statistics/statistics_form.h"
 
 #include <QApplication>
 #include <QScreen>
 
 Program::Program(const QString& folder)
     : timer_([this] { window_.onEvent(Timer1_Timer); }), recoveryTimer_(RecoveryTimer_Timer),
-      dialogs_(window_), keys_(window_)
+      statisticsTimer_([this] { window_.onEvent(StatisticsTimer_Timer); }), dialogs_(window_), keys_(window_)
 {
     ports = {&files_,
              &dialogs_,
@@ -22,7 +23,8 @@ Program::Program(const QString& folder)
              &recoveryTimer_,
              &pictures_,
              folder.toStdString(),
-             15 * window_.screen()->size().width()};
+             15 * window_.screen()->size().width(),
+             &statisticsTimer_};
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);

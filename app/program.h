@@ -26,6 +26,7 @@ private:
     QtPictures pictures_;
     EventLoopTimer timer_;
     EventLoopTimer recoveryTimer_;
+    EventLoopTimer statisticsTimer_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;

@@ -11,6 +11,8 @@ struct Hooks {
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
     void (*SaveSheet)(SaveMode) = [](SaveMode) {};
     void (*AutoBackup)() = [] {};
+    void (*SheetOpened)() = [] {}; ///< a sheet was read from its file, to its end or not
+    void (*SheetSaved)() = [] {};  ///< into its own file, perhaps under a new name
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed

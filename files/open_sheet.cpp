@@ -241,6 +241,7 @@ void openSheetText(const std::string& text, const std::string& path, const std::
         endEarly();
     }
     endProgress();
+    hooks.SheetOpened();
 }
 
 void mnuOpen_Click()

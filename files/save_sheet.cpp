@@ -3,6 +3,7 @@
 #include "core/action_log.h"
 #include "core/cue.h"
 #include "core/editing.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/messages.h"
 #include "core/offers.h"
@@ -151,6 +152,7 @@ void SaveSheet(SaveMode mode)
         offerSave(false);
         sheet.TemplateOpened = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
+        hooks.SheetSaved();
     }
     playCue(Cue::SoundSave);
     if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows

@@ -128,6 +128,7 @@ struct Ports {
     Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips
+    OneShotTimer* statisticsTimer = nullptr; ///< until the window of statistics follows the counting
 };
 
 extern Ports ports;

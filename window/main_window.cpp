@@ -8,6 +8,7 @@
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
+#include "statistics/recount.h"
 #include "window/bring_forward.h"
 #include "window/diagram_window.h"
 #include "window/manual_window.h"
@@ -90,6 +91,7 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
     whole->setContentsMargins(8, 6, 8, 2);
     whole->addWidget(sampleStrip());
     whole->addWidget(sumStrip());
+    whole->addWidget(statisticsStrip());
     whole->addWidget(sheetPages(), 13);
     whole->addLayout(bottom, 6);
     statusBar()->setObjectName("StatusBar1");
@@ -248,6 +250,7 @@ void MainWindow::scaleFont()
         sum->setFont(letters);
         sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("888888") + 12);
     }
+    statisticsLine_->setMinimumHeight(QFontMetrics(centralWidget()->font()).height() + 2);
     location_->setFixedHeight(3 * QFontMetrics(centralWidget()->font()).lineSpacing() + 1);
 }
 
@@ -269,6 +272,7 @@ void MainWindow::present()
         statusBar()->showMessage(notice);
     for (int total = 0; total < 3; ++total)
         hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+    presentRecount();
     curve_->present();
     presentMode();
     frmMain.focus = wanted;
@@ -280,6 +284,21 @@ void MainWindow::present()
         forwardShown_ = frmMain.forwardRevision;
         bringForward(*this);
     }
+}
+
+/// While a sample is counted again its sums are not to be seen; the curve shows the total too.
+void MainWindow::presentRecount()
+{
+    const bool hidden = areSumsHidden();
+    const auto mode = hidden ? QLineEdit::NoEcho : QLineEdit::Normal;
+    if (sums_[0]->echoMode() == mode)
+        return;
+    for (QLineEdit* const sum : sums_) {
+        sum->setEchoMode(mode);
+        sum->setToolTip(hidden ? "Hidden until the recount is finished: View > Statistics..., Compare"
+                               : QString());
+    }
+    curve_->setVisible(!hidden);
 }
 
 /// What a screen reader says of a cell.

@@ -2,6 +2,7 @@
 
 #include "core/user_event.h"
 #include "files/recovery.h"
+#include "statistics/watch_counts.h"
 #include "window/bound_window.h"
 
 #include <QMainWindow>
@@ -41,6 +42,7 @@ public:
             handler();
         }
         watchUnsavedWork();
+        watchCounts();
         present();
     }
 
@@ -65,6 +67,7 @@ private:
     QWidget* sampleStrip();
     QWidget* sheetPages();
     QWidget* sumStrip();
+    QWidget* statisticsStrip();
     QWidget* infoPanel();
     QWidget* notePanel();
     QWidget* historyPanel();
@@ -87,6 +90,7 @@ private:
     void presentMode();
 
     void presentNames();
+    void presentRecount();
     void presentFocusAndPointer();
     void scaleFont();
     static bool showCutText(const QObject* target, const QHelpEvent& event);
@@ -95,6 +99,7 @@ private:
     QTabWidget* tabs_ = nullptr;
     std::array<TaxonPage*, 3> pages_{};
     std::array<QLineEdit*, 3> sums_{};
+    QLabel* statisticsLine_ = nullptr;    ///< under the sums
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QPlainTextEdit* location_ = nullptr;  ///< Text6
     QList<QLineEdit*> editedBoxes_;       ///< of the sample: its name and additional info

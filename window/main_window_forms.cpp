@@ -12,8 +12,10 @@
 #include "window/manual_window.h"
 #include "window/picture_window.h"
 #include "window/sample_windows.h"
+#include "window/statistics_window.h"
 #include "window/subtotal_window.h"
 #include "window/summary_window.h"
+#include "window/target_window.h"
 
 namespace {
 
@@ -32,19 +34,14 @@ MainWindow::SmallWindow::SmallWindow(const char* name, FormWindow* (*maker)(Main
 
 std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
 {
-    return {{"frmSiteName", build<SiteNameWindow>},
-            {"frmNext", build<NextWindow>},
-            {"frmParaName", build<ParameterNameWindow>},
-            {"frmSubtotal", build<SubtotalWindow>},
-            {"frmSummary", build<SummaryWindow>},
-            {"frmFind", build<FindWindow>},
-            {"frmPicture", build<PictureWindow>},
-            {"frmAboutApp", build<AboutAppWindow>},
-            {"frmAboutDX1", build<AboutKeypadWindow>},
-            {"frmDiagnose", build<DiagnoseWindow>},
-            {"frmInitial", build<InitialWindow>},
-            {"frmKeyCode", build<KeyCodeWindow>},
-            {"frmNote", build<KeyNoteWindow>}};
+    return {{"frmSiteName", build<SiteNameWindow>},      {"frmNext", build<NextWindow>},
+            {"frmParaName", build<ParameterNameWindow>}, {"frmSubtotal", build<SubtotalWindow>},
+            {"frmSummary", build<SummaryWindow>},        {"frmFind", build<FindWindow>},
+            {"frmPicture", build<PictureWindow>},        {"frmAboutApp", build<AboutAppWindow>},
+            {"frmAboutDX1", build<AboutKeypadWindow>},   {"frmDiagnose", build<DiagnoseWindow>},
+            {"frmInitial", build<InitialWindow>},        {"frmKeyCode", build<KeyCodeWindow>},
+            {"frmNote", build<KeyNoteWindow>},           {"frmTarget", build<TargetWindow>},
+            {"frmStatistics", build<StatisticsWindow>}};
 }
 
 void MainWindow::presentForms()
