@@ -45,7 +45,7 @@ bool areSumsHidden()
 
 bool mayCountAgain()
 {
-    return recount.hiddenSerial == 0 && frmMain.mnuNext.enabled &&
+    return recount.hiddenSerial == 0 && frmMain.Command5[1].enabled &&
            leadingNumber(sheet.SampleField(sheet.CurrentSample, 2)) != -9999;
 }
 

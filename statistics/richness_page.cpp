@@ -6,6 +6,7 @@
 #include "platform/code_page.h"
 #include "statistics/csv_line.h"
 #include "statistics/rarefaction_plot.h"
+#include "statistics/recount.h"
 #include "statistics/richness.h"
 #include "statistics/statistics_form.h"
 #include "statistics/statistics_pages.h"
@@ -107,6 +108,16 @@ void fillAllSamples(const std::vector<int>& samples)
 
 } // namespace
 
+void plotRarefaction()
+{
+    Surface& picture = frmStatistics.Picture1;
+    picture.scale = {0, 0, picture.width, picture.height};
+    picture.setPicture(areSumsHidden()
+                           ? Drawing()
+                           : planRarefaction(countsOf(sheet.CurrentSample).members, sheet.DiversityCurve,
+                                             picture.width, picture.height));
+}
+
 void fillRichness()
 {
     const std::vector<int> samples = samplesInView();
@@ -115,11 +126,7 @@ void fillRichness()
         return;
     }
     fillOneSample(samples);
-    Surface& picture = frmStatistics.Picture1;
-    picture.scale = {0, 0, picture.width, picture.height};
-    picture.setPicture(samples.empty() ? Drawing()
-                                       : planRarefaction(countsOf(samples[0]).members, sheet.DiversityCurve,
-                                                         picture.width, picture.height));
+    plotRarefaction();
 }
 
 std::string richnessCsv()

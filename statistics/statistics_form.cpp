@@ -3,6 +3,7 @@
 #include "core/editing.h"
 #include "core/forms.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "platform/code_page.h"
@@ -32,6 +33,7 @@ struct Seen {
     int currentSample = 0;
     int hiddenSerial = 0;
     std::string labPath;
+    std::optional<Fingerprint> labFile;
 };
 Seen seen;
 
@@ -39,7 +41,7 @@ bool isAsSeen()
 {
     if (seen.sampleCount != sheet.SampleCount || seen.currentSample != sheet.CurrentSample ||
         seen.hiddenSerial != recount.hiddenSerial || seen.labPath != laboratory.path ||
-        seen.weights != basisWeights())
+        seen.labFile != laboratory.known || seen.weights != basisWeights())
         return false;
     for (int slot = 1; slot <= taxonSlots; ++slot) // slot 0 is a running sum
         if (seen.taxa[slot].Name != sheet.TaxonRecord[slot].Name)
@@ -56,8 +58,8 @@ bool isAsSeen()
 
 void look()
 {
-    seen = {sheet.Count,       sheet.SampleField,   sheet.TaxonRecord,    basisWeights(),
-            sheet.SampleCount, sheet.CurrentSample, recount.hiddenSerial, laboratory.path};
+    seen = {sheet.Count,         sheet.SampleField,    sheet.TaxonRecord, basisWeights(),  sheet.SampleCount,
+            sheet.CurrentSample, recount.hiddenSerial, laboratory.path,   laboratory.known};
 }
 
 std::string proposedPath()
@@ -157,7 +159,7 @@ void frmStatistics_Option1_Click(int scope)
 void frmStatistics_Picture1_Resize()
 {
     if (frmStatistics.visible && frmStatistics.SSTab1 == richnessPage)
-        refreshStatistics();
+        plotRarefaction();
 }
 
 void sortStatistics(int column)
@@ -169,8 +171,7 @@ void frmStatistics_Command1_Click()
 {
     const auto path = ports.dialogs->chooseFileToSave("Save table", proposedPath());
     if (path && !ports.files->write(*path, utf8WithMark(tableOfPage())))
-        ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
-                           "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
 }
 
 std::string copiedStatistics()

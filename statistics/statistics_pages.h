@@ -13,6 +13,8 @@ BasisCounts countsOf(int sample);
 std::vector<int> samplesInView();
 
 void fillRichness();
+/// The picture of page "Richness", at the size that it has on the screen.
+void plotRarefaction();
 void fillLimits();
 void fillComparison();
 void fillConcentration();

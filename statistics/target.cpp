@@ -1,5 +1,6 @@
 #include "statistics/target.h"
 
+#include "core/cue.h"
 #include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -91,8 +92,7 @@ void watchTarget()
     target.hasRung = goesOn && target.hasRung;
     if (arrives && !target.hasRung) {
         target.hasRung = true;
-        if (sheet.SoundOn)
-            ports.sound->play(Cue::SoundAlarm);
+        playCue(Cue::SoundAlarm);
     }
     target.sum = sum;
     target.sample = sample;

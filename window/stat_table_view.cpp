@@ -27,7 +27,6 @@ public:
         beginResetModel();
         endResetModel();
     }
-    bool isBars(int column) const { return column == static_cast<int>(table_.columns.size()); }
 
 private:
     const StatTable& table_;
@@ -35,19 +34,19 @@ private:
 
 QVariant StatTableView::Model::data(const QModelIndex& index, int role) const
 {
-    if (isBars(index.column()))
-        return {};
-    const QString text = shownText(table_.rows[static_cast<std::size_t>(index.row())]
-                                       .cells[static_cast<std::size_t>(index.column())]
-                                       .text);
-    const bool isText = table_.columns[static_cast<std::size_t>(index.column())].isText;
+    const auto row = static_cast<std::size_t>(index.row());
+    const auto column = static_cast<std::size_t>(index.column());
+    if (row >= table_.rows.size() || column >= table_.rows[row].cells.size())
+        return {}; // of the pictures, or the table is about to be shown anew
+    const QString text = shownText(table_.rows[row].cells[column].text);
+    const bool isText = table_.columns[column].isText;
     switch (role) {
     case Qt::DisplayRole:
         return text;
     case Qt::ToolTipRole:
         return isText ? text : QVariant(); // long names are cut
     case Qt::TextAlignmentRole:
-        return QVariant((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default:
         return {};
     }
@@ -57,7 +56,7 @@ QVariant StatTableView::Model::headerData(int section, Qt::Orientation orientati
 {
     if (orientation == Qt::Vertical)
         return {};
-    if (isBars(section))
+    if (section >= static_cast<int>(table_.columns.size()))
         return role == Qt::DisplayRole   ? shownText(table_.barsHead)
                : role == Qt::ToolTipRole ? QVariant("Point: the share. Line: its 95 % limits.")
                                          : QVariant();
@@ -68,7 +67,7 @@ QVariant StatTableView::Model::headerData(int section, Qt::Orientation orientati
     case Qt::ToolTipRole: // wraps as rich text only
         return column.tip.empty() ? QVariant() : "<qt>" + shownText(column.tip).toHtmlEscaped() + "</qt>";
     case Qt::TextAlignmentRole:
-        return QVariant((column.isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return static_cast<int>((column.isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default:
         return {};
     }
@@ -91,7 +90,8 @@ void StatTableView::BarPainter::paint(QPainter* painter, const QStyleOptionViewI
                                       const QModelIndex& index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    if (reach_ <= 0 || index.column() != static_cast<int>(table_.columns.size()))
+    const bool isBars = index.column() == static_cast<int>(table_.columns.size());
+    if (!isBars || reach_ <= 0 || index.row() >= static_cast<int>(table_.rows.size()))
         return;
     const bool isDark = option.palette.color(QPalette::Base).lightness() < 128;
     const QColor colours[] = {isDark ? QColor(86, 180, 233) : QColor(0, 114, 178),
@@ -143,7 +143,7 @@ StatTableView::StatTableView(const StatTable& table, std::function<void(int)> so
     heads.setSortIndicatorShown(true);
     heads.setSortIndicator(-1, Qt::AscendingOrder);
     connect(&heads, &QHeaderView::sectionClicked, this, [this, sorted = std::move(sorted)](int column) {
-        if (!model_->isBars(column))
+        if (column < static_cast<int>(table_.columns.size())) // not the pictures
             sorted(column);
     });
 }

@@ -118,7 +118,7 @@ QWidget* StatisticsWindow::richness()
     auto* const frame = new QFrame;
     frame->setFrameShape(QFrame::StyledPanel);
     pictureFrame_ = frame;
-    picture_ = new SurfaceView(frmStatistics.Picture1, [this] { runEvent(frmStatistics_Picture1_Resize); });
+    picture_ = new SurfaceView(frmStatistics.Picture1, frmStatistics_Picture1_Resize);
     picture_->setObjectName("Picture1");
     picture_->setAccessibleName("Rarefaction curve beside the saturation curve");
     picture_->setMinimumHeight(120);
