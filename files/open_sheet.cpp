@@ -1,6 +1,7 @@
 #include "files/open_sheet.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
@@ -240,6 +241,23 @@ void openSheetText(const std::string& text, const std::string& path, const std::
         endEarly();
     }
     endProgress();
+}
+
+void openUnsavedText(const std::string& text)
+{
+    openSheetText(text, "Untitled.csv", std::nullopt);
+    standUnsaved({});
+}
+
+void standUnsaved(const std::string& path)
+{
+    sheet.SheetPath = path;
+    sheet.SheetUnnamed = path.empty();
+    showSheetName(baseName(path).value_or("Untitled"));
+    frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
+    WrapFileLocation();
+    sheet.FreshSheet = false;
+    markUnsavedWork();
 }
 
 void mnuOpen_Click()

@@ -15,7 +15,6 @@
 #include "files/sheet_text.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
-#include "sheet/file_location.h"
 
 RecoveryCopy recoveryCopy;
 
@@ -70,13 +69,7 @@ void takeUp(const std::string& text)
 {
     const std::string path = originalPath(text);
     openSheetText(text, recoveryCopy.path, fingerprintOfFile(path));
-    sheet.SheetPath = path;
-    sheet.SheetUnnamed = path.empty();
-    showSheetName(baseName(path).value_or("Untitled"));
-    frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
-    WrapFileLocation();
-    sheet.FreshSheet = false;
-    markUnsavedWork();
+    standUnsaved(path);
     recoveryCopy.onDisk = true;
     logAction("(Recovery copy taken up)");
 }

@@ -261,7 +261,10 @@ void CountTableReader::leaveOutSum(bool ofTaxa)
         if ((ofTaxa ? i % taxa : i / taxa) != found[0])
             kept.push_back(result_.counts[i]);
     result_.counts = std::move(kept);
-    lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(found[0]));
+    const auto place = static_cast<std::ptrdiff_t>(found[0]);
+    lines.erase(lines.begin() + place);
+    std::vector<std::string>& names = ofTaxa ? result_.taxa : result_.samples;
+    names.erase(names.begin() + place);
 }
 
 void CountTableReader::name()
@@ -371,16 +374,20 @@ CountTable CountTableReader::read()
 {
     if (!isTable() || !isRectangle())
         return std::move(result_);
+    result_.isTable = true;
     result_.samplesStand = reading_.samples ? reading_.samples : toldSide();
     samplesAreRows_ = result_.samplesStand != Samples::columns;
     chooseNames();
     chooseLines();
+    name();
     if (!readCounts())
         return std::move(result_);
     leaveOutSum(true);
     leaveOutSum(false);
-    name();
-    withinLimits();
+    if (withinLimits()) {
+        remarkEqualNames(result_.taxa, "taxa");
+        remarkEqualNames(result_.samples, "samples");
+    }
     return std::move(result_);
 }
 

@@ -17,7 +17,8 @@ struct TableReading {
 
 /// What a table of counts holds. Texts are in the code page of the sheets, fit for one of their files.
 struct CountTable {
-    std::string refusal;                 ///< why nothing can be taken; empty: all that follows can
+    bool isTable = false; ///< it has rows and columns of equal lengths, so it can be looked at though refused
+    std::string refusal;  ///< why nothing can be taken; empty: all that follows can
     std::optional<Samples> samplesStand; ///< nothing: the table does not tell, read as if they were rows
     char separator = ',';
     std::vector<std::string> taxa;    ///< in the order of the table

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "window/form_window.h"
+
+class QLabel;
+class QWidget;
+
+/// The preview of a table of counts.
+class TableWindow : public FormWindow {
+public:
+    explicit TableWindow(MainWindow& main);
+
+private:
+    QLabel* sentence(const char* name);
+    QWidget* cells();
+};
+
+/// A list of taxa, and where they would go.
+class TaxaWindow : public FormWindow {
+public:
+    explicit TaxaWindow(MainWindow& main);
+};
