@@ -1,14 +1,14 @@
 #pragma once
 
 #include "core/number_text.h"
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 #include "files/sheet_text.h"
 
 /// A sheet of 135 taxa; by default the fullest.
 inline SheetState fullSheet(int samples = sampleLimit)
 {
-    SheetState tables;
-    tables.SampleCount = static_cast<std::int16_t>(samples);
+    SheetTables tables;
+    tables.SampleCount = samples;
     for (int sample = 1; sample <= samples; ++sample) {
         tables.SampleField(sample, 1) = decimalText(sample);
         tables.SampleField(sample, 2) = decimalText(10 * sample);

@@ -44,7 +44,7 @@ void fillSheet(int samples)
         for (int slot = 1; slot <= taxonSlots; ++slot)
             sheet.Count(sample, slot) = sample + slot;
     }
-    sheet.SampleCount = sheet.CurrentSample = sheet.LatestSerial = static_cast<std::int16_t>(samples);
+    sheet.SampleCount = sheet.CurrentSample = sheet.LatestSerial = samples;
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         frmMain.Text2[slot].text = decimalText(sheet.Count(samples, slot));
         frmMain.Text1[slot].text = sheet.TaxonRecord[slot].Name = "Taxon name " + decimalText(slot);

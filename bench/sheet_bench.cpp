@@ -15,7 +15,7 @@ int main(int argc, char* argv[])
         std::ofstream(argv[1], std::ios::binary) << text;
         return 0;
     }
-    SheetState tables;
+    SheetTables tables;
     std::vector<double> times;
     for (int round = 0; round < 101; ++round) {
         const auto begin = std::chrono::steady_clock::now();

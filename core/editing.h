@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/box_visit.h"
 
 #include "platform/controls.h"
 

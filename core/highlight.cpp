@@ -14,5 +14,5 @@ void highlight(int slot, Colour colour)
     if (slot == 0)
         return;
     paint(slot, colour);
-    sheet.HighlightRow = static_cast<std::int16_t>(slot);
+    sheet.HighlightRow = slot;
 }

@@ -95,6 +95,6 @@ protected:
             sheet.SampleNote(sample, 0) = "note " + decimalText(sample);
         }
         sheet.SampleField(1, 2) = "10";
-        sheet.SampleCount = sheet.LatestSerial = static_cast<std::int16_t>(count);
+        sheet.SampleCount = sheet.LatestSerial = count;
     }
 };

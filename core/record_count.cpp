@@ -56,7 +56,7 @@ void RecordCount(int keyCode, int /*shift*/)
     if (!isShiftKey(keyCode)) {
         std::move_backward(sheet.UndoStack.begin(), sheet.UndoStack.end() - 1, sheet.UndoStack.end());
         const int sign = sheet.MinusArmed ? -1 : 1;
-        sheet.UndoStack[0] = {sheet.CurrentSample, static_cast<std::int16_t>(sign * slot)};
+        sheet.UndoStack[0] = {sheet.CurrentSample, sign * slot};
     }
     // 7, 8.
     const int counted = std::abs(sheet.UndoStack[0].slot);

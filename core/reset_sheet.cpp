@@ -10,16 +10,9 @@
 static void resetState()
 {
     SheetState before = std::exchange(sheet, SheetState());
-    sheet.KeySetting = std::move(before.KeySetting);
-    sheet.Shift1Key = before.Shift1Key;
-    sheet.Shift2Key = before.Shift2Key;
-    sheet.MinusKey = before.MinusKey;
-    sheet.UseKeySettings = before.UseKeySettings;
-    sheet.KeysInitialised = before.KeysInitialised;
+    static_cast<KeyAssignment&>(sheet) = static_cast<KeyAssignment&&>(before);
+    static_cast<ActionRecord&>(sheet) = static_cast<ActionRecord&&>(before);
     sheet.SoundOn = before.SoundOn;
-    sheet.ActionText = std::move(before.ActionText);
-    sheet.ActionTime = std::move(before.ActionTime);
-    sheet.ActionCount = before.ActionCount;
     sheet.BackupSlot = before.BackupSlot;
     sheet.DiagramColour = before.DiagramColour;
 }

@@ -19,15 +19,15 @@ static void moveColumn(SampleTable<Element, Rows>& table, int from, int to)
             std::swap(table(column, row), table(column + step, row));
 }
 
-static std::int16_t placeAfterMove(int sample, int from, int to)
+static int placeAfterMove(int sample, int from, int to)
 {
     if (sample == from)
-        return static_cast<std::int16_t>(to);
+        return to;
     if (sample > from && sample <= to)
         --sample;
     else if (sample < from && sample >= to)
         ++sample;
-    return static_cast<std::int16_t>(sample);
+    return sample;
 }
 
 void MoveSample()
@@ -35,13 +35,7 @@ void MoveSample()
     const int from = sheet.MoveFrom;
     const int to = sheet.MoveTo;
     if (from != to) {
-        moveColumn(sheet.SampleField, from, to);
-        moveColumn(sheet.Count, from, to);
-        moveColumn(sheet.AdditionalInfo, from, to);
-        moveColumn(sheet.SampleNote, from, to);
-        moveColumn(sheet.SampleStamp, from, to);
-        moveColumn(sheet.SavedCount, from, to);
-        moveColumn(sheet.SavedInfo, from, to);
+        forEachSampleTable(sheet, [&](auto&... tables) { (moveColumn(tables, from, to), ...); });
         for (UndoEntry& entry : sheet.UndoStack)
             entry.sample = placeAfterMove(entry.sample, from, to);
         sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);

@@ -34,7 +34,7 @@ void showSample(int sample)
     const ShowingSample showing;
     forgetCurve();
     sheet.WarnNotLatest = true; // the next key may still be meant for the sample before
-    sheet.CurrentSample = static_cast<std::int16_t>(sample);
+    sheet.CurrentSample = sample;
     for (int slot = 1; slot <= taxonSlots; ++slot)
         setText2(slot, decimalText(sheet.Count(sample, slot)));
     RecountTotals(sample);

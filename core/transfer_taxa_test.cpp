@@ -49,7 +49,7 @@ TEST_F(Move, takesTheRowOfAllSamplesAlong)
 TEST_F(Move, losesNothingToItselfOrToNoRow)
 {
     for (const auto& [source, target] : {std::pair(3, 3), {0, 3}, {3, 0}, {3, 136}}) {
-        sheet.MoveSource = static_cast<std::int16_t>(source);
+        sheet.MoveSource = source;
         TransferTaxa(target);
         EXPECT_EQ(7, sheet.Count(1, 3));
         EXPECT_EQ("Quercus-D", sheet.TaxonRecord[3].Name);

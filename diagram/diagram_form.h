@@ -78,14 +78,14 @@ struct DiagramForm {
 
     PlotData plot;
     MergeTable merges;
-    bool ConissShown = false;       ///< `merges` belongs to this diagram
-    bool ResizeHold = false;        ///< the window changes its own width: the resize handler stands still
-    bool sliderFocused = true;      ///< Slider1 has the focus, as far as handlers place it
-    int forwardRevision = 0;        ///< goes up whenever the window is to come in front
-    bool MovingSample = false;      ///< the sample line is dragged with the right button: the sample moves
-    bool LineDragging = false;      ///< it is dragged with the left button: the selection moves
-    std::int16_t DiagramSample = 1; ///< where the step buttons start from
-    std::int16_t PanelSample = 1;   ///< the sample that Frame3 last went to
+    bool ConissShown = false;  ///< `merges` belongs to this diagram
+    bool ResizeHold = false;   ///< the window changes its own width: the resize handler stands still
+    bool sliderFocused = true; ///< Slider1 has the focus, as far as handlers place it
+    int forwardRevision = 0;   ///< goes up whenever the window is to come in front
+    bool MovingSample = false; ///< the sample line is dragged with the right button: the sample moves
+    bool LineDragging = false; ///< it is dragged with the left button: the selection moves
+    int DiagramSample = 1;     ///< where the step buttons start from
+    int PanelSample = 1;       ///< the sample that Frame3 last went to
     float DiagramScaleTop = 0;
     float DiagramScaleHeight = 1;
 

@@ -1,6 +1,6 @@
 #include "diagram/diagram_layout.h"
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_size.h"
 #include "diagram/diagram_form.h"
 #include "diagram/paint_diagram.h"
 #include "platform/ports.h"

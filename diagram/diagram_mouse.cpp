@@ -57,9 +57,9 @@ void followMouse(float y)
         return;
     f.Slider1.value = sampleNearest(y);
     if (f.LineDragging && !sheet.NamesNotNumeric)
-        f.DiagramSample = static_cast<std::int16_t>(f.Slider1.value);
+        f.DiagramSample = f.Slider1.value;
     if (f.MovingSample)
-        sheet.MoveTo = static_cast<std::int16_t>(f.Slider1.value);
+        sheet.MoveTo = f.Slider1.value;
     placePanel();
 }
 
@@ -121,7 +121,7 @@ bool pictureMouseDown(DiagramPicture picture, float x, float y, bool right)
     const bool onLine = f.pointer == DiagramPointer::sizeNS;
     if (right && sheet.NamesNotNumeric && onLine) {
         f.MovingSample = true;
-        sheet.MoveFrom = sheet.MoveTo = static_cast<std::int16_t>(f.Slider1.value);
+        sheet.MoveFrom = sheet.MoveTo = f.Slider1.value;
         paintSampleLine();
     } else if (right && !f.LineDragging) {
         f.pointer = DiagramPointer::arrow;
@@ -147,7 +147,7 @@ void pictureMouseUp()
     endDrag();
     paintSampleLine();
     placePanel();
-    f.DiagramSample = static_cast<std::int16_t>(f.Slider1.value);
+    f.DiagramSample = f.Slider1.value;
     showMove();
     f.sliderFocused = true;
 }

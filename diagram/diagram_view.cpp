@@ -120,7 +120,7 @@ void placePanel()
     if (!sheet.DiagramOpen)
         return;
     DiagramForm& f = frmDiagram;
-    f.PanelSample = static_cast<std::int16_t>(f.Slider1.value);
+    f.PanelSample = f.Slider1.value;
     const double inPicture = static_cast<double>(rowOfSample(f.PanelSample) - f.Picture1.scale.top) *
                              (f.picture1Place.height - 60.0) / f.Picture1.scale.height;
     f.Check1.caption = sheet.SampleField(f.PanelSample, 0);

@@ -82,7 +82,7 @@ void launch(DiagramStyle style)
 
 void stepTo(int sample)
 {
-    frmDiagram.DiagramSample = static_cast<std::int16_t>(sample);
+    frmDiagram.DiagramSample = sample;
     Slider1_Change(sample);
     frmDiagram.sliderFocused = true;
 }
@@ -381,7 +381,7 @@ void frmDiagram_Combo2_Click(std::string_view name)
 {
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         if (sheet.SampleField(sample, 2) == name)
-            frmDiagram.DiagramSample = static_cast<std::int16_t>(sample);
+            frmDiagram.DiagramSample = sample;
     stepTo(frmDiagram.DiagramSample);
 }
 

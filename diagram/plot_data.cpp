@@ -6,16 +6,16 @@
 #include <cmath>
 #include <numeric>
 
-std::int16_t columnGap(int zoom)
+int columnGap(int zoom)
 {
-    return static_cast<std::int16_t>(std::nearbyint(5.0 / zoom * 10.0));
+    return static_cast<int>(std::nearbyint(5.0 / zoom * 10.0));
 }
 
-void rankSamples(PlotData& plot, const SheetState& sheet, bool byDepth)
+void rankSamples(PlotData& plot, const SheetTables& sheet, bool byDepth)
 {
     const int samples = sheet.SampleCount;
     plot.DepthRank.resize(static_cast<std::size_t>(samples) + 1);
-    std::iota(plot.DepthRank.begin(), plot.DepthRank.end(), std::int16_t{0});
+    std::iota(plot.DepthRank.begin(), plot.DepthRank.end(), 0);
     plot.RankSample = plot.DepthRank;
     if (!byDepth)
         return;
@@ -33,12 +33,13 @@ void rankSamples(PlotData& plot, const SheetState& sheet, bool byDepth)
                 pick = sample;
             }
         used[pick] = true;
-        plot.DepthRank[pick] = static_cast<std::int16_t>(rank);
-        plot.RankSample[rank] = static_cast<std::int16_t>(pick);
+        plot.DepthRank[pick] = rank;
+        plot.RankSample[rank] = pick;
     }
 }
 
-void fillShares(PlotData& plot, SheetState& sheet, const std::array<std::int32_t, taxonSlots + 1>& weights)
+void fillShares(PlotData& plot, const SheetTables& sheet,
+                const std::array<std::int32_t, taxonSlots + 1>& weights)
 {
     const int samples = sheet.SampleCount;
     std::vector<std::int64_t> sums(static_cast<std::size_t>(samples) + 1);
@@ -46,19 +47,21 @@ void fillShares(PlotData& plot, SheetState& sheet, const std::array<std::int32_t
         for (int sample = 1; sample <= samples; ++sample)
             sums[sample] +=
                 within32Bits(static_cast<std::int64_t>(sheet.Count(sample, slot)) * weights[slot]);
-    for (int sample = 1; sample <= samples; ++sample)
-        sheet.Count(sample, 0) = within32Bits(sums[sample]);
-    for (int slot = 0; slot <= taxonSlots; ++slot) {
+    for (int sample = 1; sample <= samples; ++sample) {
+        sums[sample] = within32Bits(sums[sample]);
+        plot.Share(plot.DepthRank[sample], 0) = sums[sample] == 0 ? 0.0F : 1.0F;
+    }
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
         const int row = sheet.RowOfKeyIndex[slot];
         for (int sample = 1; sample <= samples; ++sample) {
-            const std::int32_t total = sheet.Count(sample, 0);
+            const auto total = static_cast<double>(sums[sample]);
             plot.Share(plot.DepthRank[sample], row) =
-                total == 0 ? 0 : static_cast<float>(static_cast<double>(sheet.Count(sample, slot)) / total);
+                total == 0 ? 0 : static_cast<float>(sheet.Count(sample, slot) / total);
         }
     }
 }
 
-void layOutColumns(PlotData& plot, const SheetState& sheet)
+void layOutColumns(PlotData& plot, const SheetTables& sheet)
 {
     for (int slot = 1; slot <= taxonSlots; ++slot)
         plot.ColumnName[sheet.RowOfKeyIndex[slot]] = sheet.TaxonRecord[slot].Name;
@@ -72,7 +75,7 @@ void layOutColumns(PlotData& plot, const SheetState& sheet)
     }
 }
 
-std::vector<float> rowPositions(const SheetState& sheet, bool evenly)
+std::vector<float> rowPositions(const SheetTables& sheet, bool evenly)
 {
     const int samples = sheet.SampleCount;
     std::vector<float> rows(static_cast<std::size_t>(samples) + 1);

@@ -20,31 +20,31 @@ int generationOf(std::string_view tag)
                                                   : 0;
 }
 
-std::int16_t within16Bits(double number)
+int within16Bits(double number)
 {
-    return static_cast<std::int16_t>(std::clamp(std::nearbyint(number), -32768.0, 32767.0));
+    return static_cast<int>(std::clamp(std::nearbyint(number), -32768.0, 32767.0));
 }
 
-std::string& infoCell(SheetState& tables, int sample, int row)
+std::string& infoCell(SheetTables& tables, int sample, int row)
 {
     return tables.AdditionalInfo(sample, row);
 }
-std::string& noteCell(SheetState& tables, int sample, int row)
+std::string& noteCell(SheetTables& tables, int sample, int row)
 {
     return tables.SampleNote(sample, row);
 }
-std::string& stampCell(SheetState& tables, int sample, int row)
+std::string& stampCell(SheetTables& tables, int sample, int row)
 {
     return tables.SampleStamp(sample, row);
 }
-std::string& fieldCell(SheetState& tables, int sample, int row)
+std::string& fieldCell(SheetTables& tables, int sample, int row)
 {
     return tables.SampleField(sample, row);
 }
 
 } // namespace
 
-int completeKeyIndexes(SheetState& tables)
+int completeKeyIndexes(SheetTables& tables)
 {
     std::array<int, taxonSlots + 1> rowOf{};
     for (int row = 1; row <= taxonSlots; ++row) {
@@ -55,7 +55,7 @@ int completeKeyIndexes(SheetState& tables)
     int completed = 0;
     int missing = 0;
     for (int row = 1; row <= taxonSlots; ++row) {
-        std::int16_t& keyIndex = tables.KeyIndexOfRow[row];
+        int& keyIndex = tables.KeyIndexOfRow[row];
         if (keyIndex != 0 && rowOf[keyIndex] == row)
             continue;
         do
@@ -71,12 +71,12 @@ int completeKeyIndexes(SheetState& tables)
             tables.Count(sample, missing) =
                 keyIndex == 0 && rowOf[0] == row ? std::exchange(tables.Count(sample, 0), 0) : 0;
         rowOf[missing] = row;
-        keyIndex = static_cast<std::int16_t>(missing);
+        keyIndex = missing;
         completed = row;
     }
     tables.KeyIndexOfRow[0] = tables.RowOfKeyIndex[0] = 0;
     for (int row = 1; row <= taxonSlots; ++row)
-        tables.RowOfKeyIndex[tables.KeyIndexOfRow[row]] = static_cast<std::int16_t>(row);
+        tables.RowOfKeyIndex[tables.KeyIndexOfRow[row]] = row;
     return completed;
 }
 
@@ -108,7 +108,7 @@ bool DataSheetReader::readHead(std::array<std::string, 5>& head)
     return true;
 }
 
-bool DataSheetReader::readSamples(std::string& (*cell)(SheetState&, int, int), int row)
+bool DataSheetReader::readSamples(std::string& (*cell)(SheetTables&, int, int), int row)
 {
     for (int sample = 1; sample <= samplesInFile(); ++sample)
         if (!readText(cell(sheet_, sample, row)))
@@ -155,11 +155,11 @@ bool DataSheetReader::readSerials()
         sheet_.SampleField(count, 1) = *field;
         sheet_.SampleSerial[count] = within16Bits(serial);
         if (serial >= 0 && serial <= lastColumn)
-            sheet_.SerialSample[within16Bits(serial)] = static_cast<std::int16_t>(count);
+            sheet_.SerialSample[within16Bits(serial)] = count;
         latest = std::max(latest, serial);
     }
-    sheet_.SampleCount = sheet_.CurrentSample = static_cast<std::int16_t>(count);
-    sheet_.LatestSerial = latest > -9999 ? within16Bits(latest) : std::int16_t{0};
+    sheet_.SampleCount = sheet_.CurrentSample = count;
+    sheet_.LatestSerial = latest > -9999 ? within16Bits(latest) : 0;
     return true;
 }
 
@@ -181,8 +181,8 @@ bool DataSheetReader::readTaxon(int row)
     std::string name;
     if (!readNumber(0, taxonSlots, keyIndex))
         return false;
-    sheet_.KeyIndexOfRow[row] = static_cast<std::int16_t>(keyIndex);
-    sheet_.RowOfKeyIndex[keyIndex] = static_cast<std::int16_t>(row);
+    sheet_.KeyIndexOfRow[row] = keyIndex;
+    sheet_.RowOfKeyIndex[keyIndex] = row;
     if (!readNumber(lowest, highest, subtotal1) || !readNumber(lowest, highest, subtotal2) || !readText(name))
         return false;
     sheet_.TaxonRecord[keyIndex] = {decimalText(keyIndex), decimalText(keyIndex), decimalText(subtotal1),

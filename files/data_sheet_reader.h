@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/fields.h"
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <cstddef>
 #include <optional>
@@ -13,7 +13,7 @@ constexpr std::size_t sheetLimit = 256u << 20;
 /// Makes the file rows and key indexes each other's inverse where a file left them otherwise: of rows with
 /// the same key index the first keeps it, and those without one (0) get the indexes that no row has, with
 /// what was read of them. The last row that was given an index; 0 if none was.
-int completeKeyIndexes(SheetState& tables);
+int completeKeyIndexes(SheetTables& tables);
 
 /// Reads a data sheet, an older layout of one, or a template, into the tables of a sheet.
 /// docs/data-formats.md tells the lines. The file is a stream of fields: lines mean nothing to the reader,
@@ -23,7 +23,7 @@ int completeKeyIndexes(SheetState& tables);
 class DataSheetReader {
 public:
     /// `text` is in the code page and must outlive the reader.
-    DataSheetReader(std::string_view text, SheetState& tables) : fields_(text), sheet_(tables) {}
+    DataSheetReader(std::string_view text, SheetTables& tables) : fields_(text), sheet_(tables) {}
 
     /// Reads the path that the file was saved to, and empties the counts.
     bool readPath();
@@ -45,12 +45,12 @@ private:
     bool readText(std::string& field);
     bool readNumber(std::int32_t lowest, std::int32_t highest, std::int32_t& number);
     bool readHead(std::array<std::string, 5>& head);
-    bool readSamples(std::string& (*cell)(SheetState&, int sample, int row), int row);
+    bool readSamples(std::string& (*cell)(SheetTables&, int sample, int row), int row);
     int samplesInFile() const { return sheet_.TemplateOpened ? 0 : sheet_.SampleCount; }
     bool readAdditional();
     bool readNotes();
     bool readDates();
 
     FieldReader fields_;
-    SheetState& sheet_;
+    SheetTables& sheet_;
 };

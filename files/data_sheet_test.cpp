@@ -11,7 +11,7 @@ namespace {
 
 enum class End { complete, early, repeated };
 
-End readInto(SheetState& tables, const std::string& text)
+End readInto(SheetTables& tables, const std::string& text)
 {
     DataSheetReader reader(text, tables);
     if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
@@ -26,7 +26,7 @@ End readInto(SheetState& tables, const std::string& text)
     return reader.readTexts() ? End::complete : End::early;
 }
 
-std::string written(SheetState& tables)
+std::string written(SheetTables& tables)
 {
     std::array<std::string, infoItems + 1> captions;
     for (int item = 1; item <= infoItems; ++item)
@@ -37,7 +37,7 @@ std::string written(SheetState& tables)
 
 std::string rewritten(const std::string& text)
 {
-    SheetState tables;
+    SheetTables tables;
     EXPECT_EQ(readInto(tables, text), End::complete);
     return written(tables);
 }
@@ -50,9 +50,9 @@ std::string replaced(std::string text, const std::string& old, const std::string
 }
 
 /// Two samples at 10 and 20 cm, three taxa, two named subtotals.
-SheetState lake()
+SheetTables lake()
 {
-    SheetState tables;
+    SheetTables tables;
     tables.SheetHeader[1] = {"", "C:\\Cores\\Lake1.csv",
                              "Last modified (dd/mm/yyyy):", "15/11/2026_(20:03:45)", "Serial No."};
     tables.SheetHeader[2] = {"", "Key index", "Trees", "Herbs", "Sample name"};
@@ -103,10 +103,10 @@ std::string lakeText()
 
 TEST(DataSheet, isWrittenByteForByteAndReadBack)
 {
-    SheetState tables = lake();
+    SheetTables tables = lake();
     EXPECT_EQ(written(tables), lakeText());
 
-    SheetState back;
+    SheetTables back;
     ASSERT_EQ(readInto(back, lakeText()), End::complete);
     EXPECT_EQ(back.Count, tables.Count);
     EXPECT_EQ(back.LatestSerial, 2);
@@ -147,7 +147,7 @@ TEST(DataSheet, olderLayoutsKeepTheirNotesAndLeaveNothingOfTheSheetBefore)
                              "\",\"---\",\"---\"\r\n",
                          "");
     for (const auto& [text, generation] : {std::pair(first, 1), {second, 2}}) {
-        SheetState tables = lake();
+        SheetTables tables = lake();
         tables.AdditionalInfo(2, 3) = "old";
         ASSERT_EQ(readInto(tables, text), End::complete);
         EXPECT_EQ(tables.FileGeneration, generation);
@@ -157,8 +157,8 @@ TEST(DataSheet, olderLayoutsKeepTheirNotesAndLeaveNothingOfTheSheetBefore)
         EXPECT_EQ(tables.AdditionalInfo(2, 3), "---");
     }
     // A backup counts as no layout at all: its additional info is taken for the notes.
-    SheetState tables;
-    SheetState backup = lake();
+    SheetTables tables;
+    SheetTables backup = lake();
     fillEmptyCells(backup, {});
     backup.SheetHeader[1][2] = "Backed up (dd/mm/yyyy):";
     ASSERT_EQ(readInto(tables, backupText(backup)), End::complete);
@@ -170,7 +170,7 @@ TEST(DataSheet, olderLayoutsKeepTheirNotesAndLeaveNothingOfTheSheetBefore)
 TEST(DataSheet, serialNumbersEndAtTheFirstTextThatIsNone)
 {
     const auto serials = [](const std::string& line) {
-        SheetState tables;
+        SheetTables tables;
         readInto(tables, "\"\",\"Last modified (dd/mm/yyyy):\",\"\"," + line);
         return std::pair(static_cast<int>(tables.SampleCount), static_cast<int>(tables.LatestSerial));
     };
@@ -190,10 +190,10 @@ TEST(DataSheet, anEarlyEndOrANumberOutOfRangeFailsWhereverItStands)
     const std::string text = lakeText();
     const std::size_t read = text.find("\"---\",\"---\",\"---\",\"Trees\"");
     for (std::size_t length = 0; length < read - 2; length += 37) {
-        SheetState tables;
+        SheetTables tables;
         EXPECT_EQ(readInto(tables, text.substr(0, length)), End::early) << length;
     }
-    SheetState tables;
+    SheetTables tables;
     EXPECT_EQ(readInto(tables, text.substr(0, read)), End::complete) << "the sums at the foot are never read";
     for (const char* row : {"136,0", "-1,0", "99999999999,0"})
         EXPECT_EQ(readInto(tables, replaced(text, "\r\n1,1", std::string("\r\n") + row)), End::early) << row;
@@ -205,7 +205,7 @@ TEST(DataSheet, anEarlyEndOrANumberOutOfRangeFailsWhereverItStands)
 
 TEST(DataSheet, totalsBeyondWhatAFileHoldsAreRefused)
 {
-    SheetState tables = lake();
+    SheetTables tables = lake();
     tables.Count(2, 100) = 32767 - 16;
     EXPECT_EQ(sampleTotals(tables)->at(2).all, 32767);
     ++tables.Count(2, 100);

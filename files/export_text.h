@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/action_record.h"
+#include "core/saturation_curve.h"
 
 #include <string>
 #include <string_view>
@@ -9,7 +10,7 @@
 /// them line by line.
 
 /// `savedAt`: the time of writing, as the log keeps times.
-std::string historyText(const SheetState& sheet, std::string_view savedAt);
+std::string historyText(const ActionRecord& log, std::string_view savedAt);
 /// The number of taxa seen at each number of individuals up to that on show; totals without a point are left
 /// out.
-std::string saturationText(const SheetState& sheet, std::string_view sampleName);
+std::string saturationText(const SaturationCurve& curve, std::string_view sampleName);

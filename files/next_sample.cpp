@@ -67,12 +67,12 @@ bool mayEmptyPlaceholder()
     return true;
 }
 
-std::int16_t largestSerial()
+int largestSerial()
 {
     double largest = -9999;
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         largest = std::max(largest, leadingNumber(sheet.SampleField(sample, 1)));
-    return static_cast<std::int16_t>(largest > -9999 ? std::min(largest, 32766.0) : 0);
+    return static_cast<int>(largest > -9999 ? std::min(largest, 32766.0) : 0);
 }
 
 /// Of equal depths the new sample comes last.
@@ -109,17 +109,14 @@ bool AddSample()
         sheet.CurrentSample = sheet.SampleCount;
     }
     const int sample = sheet.CurrentSample = sheet.SampleCount;
-    // 5 to 8.
+    forEachSampleTable(sheet, [sample](auto&... tables) { (clearColumn(tables, sample), ...); });
     const std::string name = frmNext.Text1.text.empty() ? decimalText(sample) + ": ---" : frmNext.Text1.text;
-    sheet.SampleField(sample, 0).clear();
     sheet.SampleField(sample, 1) = decimalText(sheet.LatestSerial);
     sheet.SampleField(sample, 2) = name;
     listSampleNames(); // without the placeholder
     setText1(0, name); // shows in Combo2 too
-    // 10. Whatever stood in the column before.
     for (int slot = 0; slot <= taxonSlots; ++slot) {
         frmMain.Text1[slot].bold = frmMain.Text2[slot].bold = false;
-        sheet.Count(sample, slot) = sheet.SavedCount(sample, slot) = 0;
         if (slot > 0)
             setText2(slot, "0");
     }

@@ -9,7 +9,7 @@ static bool fits(std::int64_t sum)
     return sum >= std::numeric_limits<std::int16_t>::min() && sum <= std::numeric_limits<std::int16_t>::max();
 }
 
-std::optional<std::vector<SampleTotals>> sampleTotals(const SheetState& sheet)
+std::optional<std::vector<SampleTotals>> sampleTotals(const SheetTables& sheet)
 {
     const auto samples = static_cast<std::size_t>(sheet.SampleCount) + 1;
     std::vector<std::array<std::int64_t, 3>> sums(samples);
@@ -30,8 +30,7 @@ std::optional<std::vector<SampleTotals>> sampleTotals(const SheetState& sheet)
         const auto& [sum1, sum2, all] = sums[sample];
         if (!fits(sum1) || !fits(sum2) || !fits(all))
             return std::nullopt;
-        totals[sample] = {static_cast<std::int16_t>(sum1), static_cast<std::int16_t>(sum2),
-                          static_cast<std::int16_t>(all)};
+        totals[sample] = {static_cast<int>(sum1), static_cast<int>(sum2), static_cast<int>(all)};
     }
     return totals;
 }

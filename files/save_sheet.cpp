@@ -53,7 +53,7 @@ std::string fileText(int mode, const std::vector<SampleTotals>& totals)
         return dataSheetText(sheet, totals);
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         ComputePercentages(sample);
-    return percentageTableText(sheet, totals, mode - percentageTable);
+    return percentageTableText(sheet, sheet.Share, totals, mode - percentageTable);
 }
 
 /// Writes the sheet; what the writing has changed in it goes back if it fails. `sheetPath`: what the file

@@ -20,8 +20,8 @@ double fourDecimals(double percentage)
 
 class SheetComposer {
 public:
-    SheetComposer(const SheetState& sheet, int samples, Cells cells)
-        : sheet_(sheet), samples_(samples), cells_(cells)
+    SheetComposer(const SheetTables& sheet, int samples, Cells cells, const ShareTable* shares = nullptr)
+        : sheet_(sheet), samples_(samples), cells_(cells), shares_(shares)
     {
         fields_.reserve(16000 + 1500 * static_cast<std::size_t>(samples));
     }
@@ -103,7 +103,7 @@ private:
         else if (cells_ == Cells::countsAsText)
             fields_.text(decimalText(sheet_.Count(sample, slot)));
         else // in single precision, as the share is
-            fields_.decimal(fourDecimals(sheet_.Share(sample, slot) * 100.0F));
+            fields_.decimal(fourDecimals((*shares_)(sample, slot) * 100.0F));
     }
     void head(const std::array<std::string, 5>& texts)
     {
@@ -121,7 +121,7 @@ private:
     }
     struct SumLine {
         std::string name;
-        std::int16_t SampleTotals::*sum;
+        int SampleTotals::*sum;
     };
     /// The lines at the foot, in their order.
     std::array<SumLine, 3> sumLines() const
@@ -132,9 +132,10 @@ private:
     }
     void totalHead(const std::string& name) { fields_.text("---").text("---").text("---").text(name); }
 
-    const SheetState& sheet_;
+    const SheetTables& sheet_;
     int samples_;
     Cells cells_;
+    const ShareTable* shares_; ///< of percentages
     FieldWriter fields_;
 };
 
@@ -146,7 +147,7 @@ void fill(std::string& text)
 
 } // namespace
 
-std::string dataSheetText(const SheetState& sheet, const std::vector<SampleTotals>& totals)
+std::string dataSheetText(const SheetTables& sheet, const std::vector<SampleTotals>& totals)
 {
     SheetComposer composer(sheet, sheet.SampleCount, Cells::counts);
     composer.heads();
@@ -158,9 +159,10 @@ std::string dataSheetText(const SheetState& sheet, const std::vector<SampleTotal
     return composer.take();
 }
 
-std::string percentageTableText(const SheetState& sheet, const std::vector<SampleTotals>& totals, int basis)
+std::string percentageTableText(const SheetTables& sheet, const ShareTable& shares,
+                                const std::vector<SampleTotals>& totals, int basis)
 {
-    SheetComposer composer(sheet, sheet.SampleCount, Cells::percentages);
+    SheetComposer composer(sheet, sheet.SampleCount, Cells::percentages, &shares);
     composer.heads();
     composer.taxa();
     composer.additionalInfo();
@@ -169,7 +171,7 @@ std::string percentageTableText(const SheetState& sheet, const std::vector<Sampl
     return composer.take();
 }
 
-std::string backupText(const SheetState& sheet)
+std::string backupText(const SheetTables& sheet)
 {
     SheetComposer composer(sheet, sheet.SampleCount, Cells::countsAsText);
     composer.heads();
@@ -179,7 +181,7 @@ std::string backupText(const SheetState& sheet)
     return composer.take();
 }
 
-std::string templateText(const SheetState& sheet)
+std::string templateText(const SheetTables& sheet)
 {
     SheetComposer composer(sheet, 0, Cells::counts);
     composer.heads();
@@ -190,7 +192,7 @@ std::string templateText(const SheetState& sheet)
     return composer.take();
 }
 
-void fillEmptyCells(SheetState& sheet, const std::array<std::string, infoItems + 1>& captions)
+void fillEmptyCells(SheetTables& sheet, const std::array<std::string, infoItems + 1>& captions)
 {
     constexpr const char* dateNames[] = {"", "Created:", "Count start:", "Last modified:"};
     for (int item = 1; item <= infoItems; ++item) {

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-static bool readWhole(DataSheetReader& reader, SheetState& sheet)
+static bool readWhole(DataSheetReader& reader, SheetTables& sheet)
 {
     if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
         return false;
@@ -24,7 +24,7 @@ static bool readWhole(DataSheetReader& reader, SheetState& sheet)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string text = fileTextInCodePage({reinterpret_cast<const char*>(data), size});
-    SheetState sheet;
+    SheetTables sheet;
     DataSheetReader reader(text, sheet);
     const bool whole = readWhole(reader, sheet);
     completeKeyIndexes(sheet); // as after a file that ended early

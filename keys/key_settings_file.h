@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/key_assignment.h"
 
 #include <array>
 #include <optional>

@@ -21,12 +21,12 @@ std::array<std::int32_t, taxonSlots + 1> basisWeights()
     return weights;
 }
 
-std::int32_t basisTotal(const SheetState& state, int sample,
+std::int32_t basisTotal(const SheetTables& tables, int sample,
                         const std::array<std::int32_t, taxonSlots + 1>& weights)
 {
     std::int64_t total = 0;
     for (int slot = 1; slot <= taxonSlots; ++slot)
-        total += within32Bits(static_cast<std::int64_t>(state.Count(sample, slot)) * weights[slot]);
+        total += within32Bits(static_cast<std::int64_t>(tables.Count(sample, slot)) * weights[slot]);
     return within32Bits(total);
 }
 

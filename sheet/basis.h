@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <array>
 #include <cstdint>
@@ -12,7 +12,7 @@
 std::array<std::int32_t, taxonSlots + 1> basisWeights();
 
 /// The individuals of a sample, each times its taxon's weight.
-std::int32_t basisTotal(const SheetState& state, int sample,
+std::int32_t basisTotal(const SheetTables& tables, int sample,
                         const std::array<std::int32_t, taxonSlots + 1>& weights);
 
 /// Stands for a share of a basis without individuals.

@@ -164,7 +164,7 @@ void FindForm::Display()
             continue;
         paintCell(slot, foundCell);
         frmMain.SSTab1 = layerOf(slot);
-        sheet.FoundSlot = static_cast<std::int16_t>(slot);
+        sheet.FoundSlot = slot;
     }
     // 3, 4.
     for (const int key : shiftKeysFor(sheet.FoundSlot))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_size.h"
 #include "platform/controls.h"
 
 #include <array>

@@ -21,7 +21,7 @@ bool Label1_Click(int slot)
         label.bold = false;
     if (slot != 0)
         frmMain.Label1[slot].bold = true;
-    sheet.MoveSource = static_cast<std::int16_t>(slot);
+    sheet.MoveSource = slot;
     return sheet.Modifying && slot != 0;
 }
 

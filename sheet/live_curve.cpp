@@ -109,7 +109,7 @@ void DrawDiversity()
 {
     const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
     constexpr std::int32_t longest = std::numeric_limits<std::int16_t>::max();
-    sheet.DiversityTotal = static_cast<std::int16_t>(std::clamp(all, 0, longest));
+    sheet.DiversityTotal = std::clamp(all, 0, longest);
     sheet.DiversityNow = 0;
     for (int slot = 1; slot <= taxonSlots; ++slot)
         if (wholeNumber(frmMain.Text2[slot].text) != 0)

@@ -52,7 +52,7 @@ bool Text1_MouseDown(int slot, bool rightButton)
     }
     if (!rightButton || slot == 0) // the sample's name is no row to move
         return false;
-    sheet.MoveSource = static_cast<std::int16_t>(slot);
+    sheet.MoveSource = slot;
     return true;
 }
 

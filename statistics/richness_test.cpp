@@ -54,7 +54,7 @@ TEST(Richness, SamplesOfASheetMatchTheReference)
 {
     std::ifstream file(std::string(EXAMPLES) + "/dallican_pollen.csv", std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
-    SheetState tables;
+    SheetTables tables;
     DataSheetReader reader(text, tables);
     ASSERT_TRUE(reader.readPath() && reader.readSerials() && reader.readNames());
     for (int row = 1; row <= taxonSlots; ++row)

@@ -95,8 +95,7 @@ UndoEntry Hands::press(int key, bool inDiagram, const OneEvent& event, const boo
         undoUsed_ = true;
         const int number = numberOf(key);
         const int slot = number == 0 ? 0 : number + keysPerLayer * layer();
-        newest = {sheet.CurrentSample,
-                  static_cast<std::int16_t>(held_.count(sheet.MinusKey) != 0 ? -slot : slot)};
+        newest = {sheet.CurrentSample, held_.count(sheet.MinusKey) != 0 ? -slot : slot};
     }
     if (dispatched && !isShift(key))
         guarded_ = key;
