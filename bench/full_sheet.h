@@ -5,7 +5,7 @@
 #include "files/sheet_text.h"
 
 /// A sheet of 135 taxa; by default the fullest.
-inline SheetState fullSheet(int samples = sampleLimit)
+inline SheetTables fullSheet(int samples = sampleLimit)
 {
     SheetTables tables;
     tables.SampleCount = samples;
@@ -22,7 +22,7 @@ inline SheetState fullSheet(int samples = sampleLimit)
 
 inline std::string fullSheetText(int samples = sampleLimit)
 {
-    SheetState tables = fullSheet(samples);
+    SheetTables tables = fullSheet(samples);
     fillEmptyCells(tables, {});
     return dataSheetText(tables, *sampleTotals(tables));
 }

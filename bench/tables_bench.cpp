@@ -51,7 +51,7 @@ std::size_t import(const std::string& bytes)
 
 int main(int argc, char* argv[])
 {
-    const SheetState sheet = fullSheet();
+    const SheetTables sheet = fullSheet();
     const std::string counts = countsTable(sheet);
     if (argc == 2) {
         std::ofstream(argv[1] + std::string("_counts.csv"), std::ios::binary) << counts;

@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::optional<Samples> samples :
          {std::optional<Samples>(), std::optional(Samples::rows), std::optional(Samples::columns)})
         readAs(text, samples);
-    static const SheetState sheet;
+    static const SheetTables sheet;
     const TaxonPlan plan = planTaxa(readTaxonList(text), sheet);
     int last = 0;
     for (const TaxonPlan::Row& row : plan.rows) {

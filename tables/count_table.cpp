@@ -1,7 +1,7 @@
 #include "tables/count_table.h"
 
 #include "core/number_text.h"
-#include "core/sheet_state_type.h"
+#include "core/sheet_size.h"
 #include "tables/plain_number.h"
 #include "tables/plain_table.h"
 #include "tables/table_words.h"

@@ -82,21 +82,21 @@ std::string utf16(const std::string& codePageText)
     return bytes;
 }
 
-SheetState withoutGroups(SheetState sheet)
+SheetTables withoutGroups(SheetTables sheet)
 {
     for (TaxonFields& taxon : sheet.TaxonRecord)
         taxon.Subtotal1 = taxon.Subtotal2 = "0";
     return sheet;
 }
 
-void expectSheet(const std::string& bytes, const SheetState& sheet, TableReading reading = {})
+void expectSheet(const std::string& bytes, const SheetTables& sheet, TableReading reading = {})
 {
     const DecodedTable decoded = decodeTable(bytes);
     EXPECT_EQ(decoded.replaced, 0);
     const CountTable table = read(decoded.text, reading);
     ASSERT_EQ(table.refusal, "");
-    SheetState taken;
-    taken.SampleCount = static_cast<std::int16_t>(table.samples.size());
+    SheetTables taken;
+    taken.SampleCount = static_cast<int>(table.samples.size());
     for (std::size_t taxon = 0; taxon < table.taxa.size(); ++taxon)
         taken.TaxonRecord[taxon + 1].Name = table.taxa[taxon];
     for (std::size_t sample = 0; sample < table.samples.size(); ++sample) {
@@ -105,7 +105,7 @@ void expectSheet(const std::string& bytes, const SheetState& sheet, TableReading
             taken.Count(static_cast<int>(sample) + 1, static_cast<int>(taxon) + 1) =
                 table.count(sample, taxon);
     }
-    const SheetState expected = withoutGroups(sheet);
+    const SheetTables expected = withoutGroups(sheet);
     EXPECT_EQ(taxaTable(taken), taxaTable(expected));
     EXPECT_EQ(tidyTable(taken, ""), tidyTable(expected, ""));
 }
@@ -116,7 +116,7 @@ TEST(CountTable, thePublishedTablesGiveTheCountsOfTheirSheetsEitherWay)
 {
     for (const std::string name : {"dallican_pollen", "cradle_lake_diatoms", "khil_phytoliths"}) {
         SCOPED_TRACE(name);
-        const SheetState sheet = exampleSheet(name);
+        const SheetTables sheet = exampleSheet(name);
         Cells cells = cellsOf(reference(name + ".csv"));
         expectSheet(reference(name + ".csv"), sheet);
         for (const char separator : {',', ';', '\t'}) {

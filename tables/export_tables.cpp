@@ -51,13 +51,13 @@ std::string withMark(std::string text)
 }
 
 /// "sample,depth," of a row. The depth is the name if that is wholly a number.
-std::string sampleFields(const SheetState& sheet, int sample)
+std::string sampleFields(const SheetTables& sheet, int sample)
 {
     const std::string& name = sheet.SampleField(sample, 2);
     return fieldFromSheet(name) + ',' + (isPlainNumber(name, '.') ? name : std::string()) + ',';
 }
 
-std::vector<ExportedTaxon> countedTaxa(const SheetState& sheet)
+std::vector<ExportedTaxon> countedTaxa(const SheetTables& sheet)
 {
     std::vector<ExportedTaxon> taxa = exportedTaxa(sheet);
     taxa.erase(std::remove_if(taxa.begin(), taxa.end(),
@@ -124,7 +124,7 @@ void appendPercent(std::string& text, std::int32_t count, std::int64_t total)
     appendDecimal(text, quotient, places);
 }
 
-std::string countsTable(const SheetState& sheet)
+std::string countsTable(const SheetTables& sheet)
 {
     const std::vector<ExportedTaxon> taxa = countedTaxa(sheet);
     std::string text = "sample,depth";
@@ -144,7 +144,7 @@ std::string countsTable(const SheetState& sheet)
     return withMark(std::move(text));
 }
 
-std::string tidyTable(const SheetState& sheet, std::string_view location)
+std::string tidyTable(const SheetTables& sheet, std::string_view location)
 {
     const std::vector<ExportedTaxon> taxa = countedTaxa(sheet);
     const std::string place = field(std::string(location)) + ',';
@@ -175,7 +175,7 @@ std::string tidyTable(const SheetState& sheet, std::string_view location)
     return withMark(std::move(text));
 }
 
-std::string taxaTable(const SheetState& sheet)
+std::string taxaTable(const SheetTables& sheet)
 {
     std::string text = "taxon,group,key_index,subtotal_1,subtotal_2,total,samples\r\n";
     for (const ExportedTaxon& taxon : exportedTaxa(sheet)) {

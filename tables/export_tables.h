@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <cstdint>
 #include <string>
@@ -11,11 +11,11 @@
 /// docs/data-formats.md tells them column by column. Counts and sums of any size are written.
 
 /// One row a sample, one column a taxon; only taxa with a count somewhere.
-std::string countsTable(const SheetState& sheet);
+std::string countsTable(const SheetTables& sheet);
 /// One row a sample and taxon, zeros too. `location`: UTF-8, what the sheet is called.
-std::string tidyTable(const SheetState& sheet, std::string_view location);
+std::string tidyTable(const SheetTables& sheet, std::string_view location);
 /// One row a used row of the sheet, taxa that were never counted too.
-std::string taxaTable(const SheetState& sheet);
+std::string taxaTable(const SheetTables& sheet);
 
 /// Appends 100 x `count` / `total` with ten significant digits, halves to even, in plain decimal writing.
 /// `total`: above 0 and within 40 bits.

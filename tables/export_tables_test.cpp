@@ -7,13 +7,13 @@
 
 namespace {
 
-void setTaxon(SheetState& sheet, int slot, const std::string& name, std::initializer_list<int> counts)
+void setTaxon(SheetTables& sheet, int slot, const std::string& name, std::initializer_list<int> counts)
 {
     sheet.TaxonRecord[slot].Name = name;
     int sample = 0;
     for (const int count : counts)
         sheet.Count(++sample, slot) = count;
-    sheet.SampleCount = static_cast<std::int16_t>(std::max<int>(sheet.SampleCount, sample));
+    sheet.SampleCount = std::max(sheet.SampleCount, sample);
 }
 
 std::string line(const std::string& table, int number)
@@ -35,7 +35,7 @@ std::string percent(int count, std::int64_t total)
 
 TEST(ExportTables, theDallicanSheetGivesTheReferenceBytes)
 {
-    const SheetState sheet = exampleSheet("dallican_pollen");
+    const SheetTables sheet = exampleSheet("dallican_pollen");
     EXPECT_EQ(countsTable(sheet), reference("dallican_pollen_counts.csv"));
     EXPECT_EQ(tidyTable(sheet, "dallican_pollen"), reference("dallican_pollen_tidy.csv"));
     EXPECT_EQ(taxaTable(sheet), reference("dallican_pollen_taxa.csv"));
@@ -43,7 +43,7 @@ TEST(ExportTables, theDallicanSheetGivesTheReferenceBytes)
 
 TEST(ExportTables, everyColumnHasANameOfItsOwn)
 {
-    SheetState sheet;
+    SheetTables sheet;
     setTaxon(sheet, 1, "Pinus", {1});
     setTaxon(sheet, 2, "Pinus", {2});
     setTaxon(sheet, 3, "Pinus (2)", {3});
@@ -58,7 +58,7 @@ TEST(ExportTables, everyColumnHasANameOfItsOwn)
 
 TEST(ExportTables, textsAreQuotedWhereTheyMustBeAndAMarkComesOnlyWithLettersBeyondAscii)
 {
-    SheetState sheet;
+    SheetTables sheet;
     sheet.SheetHeader[2][2] = "Trees, shrubs";
     sheet.SampleField(1, 2) = "12.50";
     setTaxon(sheet, 1, "Alnus 'green', type \"A\"", {3});
@@ -76,7 +76,7 @@ TEST(ExportTables, textsAreQuotedWhereTheyMustBeAndAMarkComesOnlyWithLettersBeyo
 
 TEST(ExportTables, anySheetHasItsTables)
 {
-    SheetState sheet;
+    SheetTables sheet;
     EXPECT_EQ(countsTable(sheet), "sample,depth\r\n-9999,-9999\r\n");
     EXPECT_EQ(tidyTable(sheet, "x"), line(tidyTable(sheet, "x"), 1) + "\r\n");
     sheet.SampleCount = 0;

@@ -4,7 +4,7 @@
 
 #include <set>
 
-static std::string groupOf(const SheetState& sheet, const TaxonFields& taxon)
+static std::string groupOf(const SheetTables& sheet, const TaxonFields& taxon)
 {
     if (wholeNumber(taxon.Subtotal1) != 0)
         return sheet.SheetHeader[2][2];
@@ -28,7 +28,7 @@ static void tellApart(std::vector<ExportedTaxon>& taxa)
     }
 }
 
-std::vector<ExportedTaxon> exportedTaxa(const SheetState& sheet)
+std::vector<ExportedTaxon> exportedTaxa(const SheetTables& sheet)
 {
     std::vector<ExportedTaxon> taxa;
     for (int row = 1; row <= taxonSlots; ++row) {

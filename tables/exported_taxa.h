@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <string>
 #include <vector>
@@ -17,4 +17,4 @@ struct ExportedTaxon {
 /// The used rows in the order of the sheet, in its code page. A row without a name is "Unnamed 17" by its key
 /// index. A name that stands twice, or that is the head of a column of the tables, gets " (2)", or the next
 /// number that no row is called by.
-std::vector<ExportedTaxon> exportedTaxa(const SheetState& sheet);
+std::vector<ExportedTaxon> exportedTaxa(const SheetTables& sheet);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 #include "files/data_sheet_reader.h"
 
 #include <fstream>
@@ -15,10 +15,10 @@ inline std::string bytesOf(const std::string& path)
 }
 
 /// One of the published tables as a sheet.
-inline SheetState exampleSheet(const std::string& name)
+inline SheetTables exampleSheet(const std::string& name)
 {
     const std::string text = bytesOf(std::string(EXAMPLES) + "/" + name + ".csv");
-    SheetState sheet;
+    SheetTables sheet;
     DataSheetReader reader(text, sheet);
     bool whole = reader.readPath() && reader.readSerials() && reader.readNames();
     for (int row = 1; row <= taxonSlots; ++row)

@@ -20,7 +20,7 @@ std::string sheetTitle()
     return baseName(sheet.SheetPath).value_or("Untitled");
 }
 
-std::string tidyTableOfSheet(const SheetState& state)
+std::string tidyTableOfSheet(const SheetTables& state)
 {
     return tidyTable(state, sheetTitle());
 }
@@ -28,7 +28,7 @@ std::string tidyTableOfSheet(const SheetState& state)
 struct Export {
     const char* ending;
     const char* dialogTitle;
-    std::string (*text)(const SheetState&);
+    std::string (*text)(const SheetTables&);
 };
 
 constexpr Export counts = {"_counts.csv", "Export table of counts", countsTable};

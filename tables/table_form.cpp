@@ -95,10 +95,10 @@ bool sheetMayGo()
 /// The table as the text of a data sheet.
 std::string sheetText(const CountTable& table)
 {
-    SheetState made;
+    SheetTables made;
     const Moment now = ports.clock->now();
     made.SheetHeader[1] = {"", "Untitled", "Last modified (dd/mm/yyyy):", "---", "Serial No."};
-    made.SampleCount = static_cast<std::int16_t>(table.samples.size());
+    made.SampleCount = static_cast<int>(table.samples.size());
     for (std::size_t taxon = 0; taxon < table.taxa.size(); ++taxon)
         made.TaxonRecord[taxon + 1].Name = table.taxa[taxon];
     for (int sample = 1; sample <= made.SampleCount; ++sample) {

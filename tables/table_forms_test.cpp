@@ -44,7 +44,7 @@ protected:
 
 TEST_F(TableForms, exportsStandBesideTheSheetAndAreNoSave)
 {
-    sheet = exampleSheet("dallican_pollen");
+    static_cast<SheetTables&>(sheet) = exampleSheet("dallican_pollen");
     sheet.SheetPath = "/home/Dallican.v2.csv";
     frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);
     for (int slot = 1; slot <= taxonSlots; ++slot)
@@ -109,7 +109,7 @@ TEST_F(TableForms, aTableBecomesAnUnsavedSheet)
     EXPECT_EQ(remarks(), "Nothing is left out.");
     frmTable_Command1_Click();
     EXPECT_FALSE(frmTable.visible);
-    const SheetState expected = exampleSheet("khil_phytoliths");
+    const SheetTables expected = exampleSheet("khil_phytoliths");
     EXPECT_EQ(countsTable(sheet), countsTable(expected));
     EXPECT_EQ(sheet.SheetPath, "");
     EXPECT_EQ(frmMain.caption.substr(frmMain.caption.size() - 10), "[Untitled]");

@@ -82,7 +82,7 @@ struct Group {
 
 class Planner {
 public:
-    Planner(const std::vector<ListedTaxon>& list, const SheetState& sheet) : list_(list), sheet_(sheet) {}
+    Planner(const std::vector<ListedTaxon>& list, const SheetTables& sheet) : list_(list), sheet_(sheet) {}
     TaxonPlan plan();
 
 private:
@@ -95,7 +95,7 @@ private:
     void remarkNames(const std::vector<std::string>& names, const char* one, const char* several);
 
     const std::vector<ListedTaxon>& list_;
-    const SheetState& sheet_;
+    const SheetTables& sheet_;
     TaxonPlan plan_;
     std::vector<const ListedTaxon*> new_;
     std::vector<Group> groups_;
@@ -248,7 +248,7 @@ std::vector<ListedTaxon> readTaxonList(std::string_view text)
     return isTable ? readColumns(table, names) : readLines(text);
 }
 
-TaxonPlan planTaxa(const std::vector<ListedTaxon>& list, const SheetState& sheet)
+TaxonPlan planTaxa(const std::vector<ListedTaxon>& list, const SheetTables& sheet)
 {
     return Planner(list, sheet).plan();
 }

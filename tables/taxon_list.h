@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <array>
 #include <string>
@@ -36,4 +36,4 @@ struct TaxonPlan {
 /// the order of the keys. Names that the sheet has already are left alone. A row is free if it has neither a
 /// name nor counts in any sample. Groups become the subtotals that have their names, or that have still the
 /// names of a new sheet.
-TaxonPlan planTaxa(const std::vector<ListedTaxon>& list, const SheetState& sheet);
+TaxonPlan planTaxa(const std::vector<ListedTaxon>& list, const SheetTables& sheet);

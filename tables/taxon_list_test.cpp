@@ -23,7 +23,7 @@ std::string told(const TaxonPlan& plan)
     return text;
 }
 
-std::string planned(const std::string& list, const SheetState& sheet = {})
+std::string planned(const std::string& list, const SheetTables& sheet = {})
 {
     return told(planTaxa(readTaxonList(list), sheet));
 }
@@ -40,7 +40,7 @@ TEST(TaxonList, aNameALine)
 
 TEST(TaxonList, freeRowsAreFilledInTheOrderOfTheKeys)
 {
-    SheetState sheet;
+    SheetTables sheet;
     sheet.TaxonRecord[1].Name = "Pinus";
     sheet.SampleCount = 2;
     sheet.Count(2, 3) = 1; // a row without a name that was counted
@@ -62,7 +62,7 @@ TEST(TaxonList, groupsGoIntoTheSubtotals)
         "Group \"Algae\" is left out: the sheet has \"Subtotal-1\" and \"Subtotal-2\" as its subtotals.");
     EXPECT_EQ(planned("taxon\tsubtotal_1\tsubtotal_2\nPinus\tx\t\nPoaceae\t0\tYes\nBoth\t1\t1\n"),
               "1 Pinus +1; 2 Poaceae +2; 3 Both +1 +2; ");
-    SheetState sheet;
+    SheetTables sheet;
     sheet.SheetHeader[2][2] = "Herbs";
     sheet.TaxonRecord[135].Subtotal2 = "1"; // its taxa are not to be renamed
     EXPECT_EQ(planned("taxon,group\nPinus,Trees\nPoaceae,Herbs\n", sheet),
@@ -72,8 +72,8 @@ TEST(TaxonList, groupsGoIntoTheSubtotals)
 
 TEST(TaxonList, anExportedTableOfTaxaGivesTheSameRowsOnAnEmptySheet)
 {
-    const SheetState sheet = exampleSheet("dallican_pollen");
-    const TaxonPlan plan = planTaxa(readTaxonList(taxaTable(sheet)), SheetState());
+    const SheetTables sheet = exampleSheet("dallican_pollen");
+    const TaxonPlan plan = planTaxa(readTaxonList(taxaTable(sheet)), SheetTables());
     ASSERT_EQ(plan.rows.size(), 50U);
     for (const TaxonPlan::Row& row : plan.rows) {
         const TaxonFields& fields = sheet.TaxonRecord[row.slot];

@@ -8,7 +8,7 @@
 
 namespace {
 
-void write(const std::string& name, SheetState sheet)
+void write(const std::string& name, SheetTables sheet)
 {
     const std::filesystem::path folder = "written_tables";
     std::filesystem::create_directories(folder);
@@ -30,7 +30,7 @@ TEST(WrittenTables, forOtherReaders)
 {
     write("dallican_pollen", exampleSheet("dallican_pollen"));
     write("cradle_lake_diatoms", exampleSheet("cradle_lake_diatoms"));
-    SheetState odd;
+    SheetTables odd;
     odd.SheetHeader[2][2] = "Trees, \xC5land";
     odd.SampleCount = sampleLimit;
     const char* const names[] = {"Pinus",

@@ -17,7 +17,7 @@ std::string bytesOf(const char* path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-bool read(const std::string& text, SheetState& sheet)
+bool read(const std::string& text, SheetTables& sheet)
 {
     DataSheetReader reader(text, sheet);
     bool whole = reader.readPath() && reader.readSerials() && reader.readNames();
@@ -27,7 +27,7 @@ bool read(const std::string& text, SheetState& sheet)
 }
 
 /// Empty if they are equal.
-std::string difference(const CountTable& table, const SheetState& sheet)
+std::string difference(const CountTable& table, const SheetTables& sheet)
 {
     if (!table.refusal.empty())
         return table.refusal;
@@ -51,7 +51,7 @@ std::string difference(const CountTable& table, const SheetState& sheet)
 
 int main(int argc, char* argv[])
 {
-    SheetState sheet;
+    SheetTables sheet;
     const std::string text = argc > 1 ? fileTextInCodePage(bytesOf(argv[1])) : "";
     if (argc < 3 || !read(text, sheet))
         return 2;
