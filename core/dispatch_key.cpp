@@ -92,8 +92,6 @@ void DispatchKey(int keyCode, int shift)
         sheet.RepeatGuard = true;
         ports.Timer1->start(repeatGuardMilliseconds);
     }
-    // 5. A dialog may have left the window disabled.
-    frmMain.enabled = true;
     // 6. The Save key goes on: it may count something as well.
     if (isSaveKey(keyCode))
         hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);

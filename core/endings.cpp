@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/sheet_name.h"
@@ -95,7 +96,7 @@ void Form_Unload(bool& cancel)
 void UnloadAll()
 {
     sheet.Unloading = true;
-    hooks.UnloadForms();
+    takeDownForms();
 }
 
 void Form_Terminate()

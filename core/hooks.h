@@ -9,7 +9,6 @@ struct Hooks {
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
     void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
     void (*AutoBackup)() = [] {};
-    void (*UnloadForms)() = [] {};                         ///< takes down all windows but the main one
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed

@@ -24,8 +24,7 @@ struct MainScreen {
     MainScreen();
 
     std::string caption = std::string("TallyStrata ") + programVersion + " - [Untitled]";
-    bool visible = false; ///< from the end of the start-up on; a first run comes before it
-    bool enabled = true;
+    bool visible = false;    ///< from the end of the start-up on; a first run comes before it
     int forwardRevision = 0; ///< goes up whenever the window is to come in front
     MainFocus focus = MainFocus::Text99;
     Pointer pointer = Pointer::arrow;

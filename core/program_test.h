@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/main_screen.h"
@@ -37,6 +38,8 @@ protected:
         sheet.ActionTime = {""};
         sheet.SoundOn = true;
         frmMain = MainScreen();
+        for (const Form* const form : forms())
+            form->visible = false;
         hooks = Hooks();
         ports = {&files, &dialogs, &sound, &clock, &timer, &recoveryTimer, &pictures, "/program", 15360};
         dialogs.whenOpened =

@@ -72,6 +72,13 @@ void Undo()
         hooks.RedrawDiagram();
 }
 
+void mnuUndo_Click()
+{
+    Undo();
+    if (!sheet.Modifying)
+        frmMain.focus = MainFocus::Text99;
+}
+
 void Amend()
 {
 }

@@ -1,6 +1,7 @@
 #include "diagram/diagram_window.h"
 
 #include "core/dispatch_key.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sample_names.h"
@@ -15,6 +16,8 @@
 
 #include <algorithm>
 #include <cmath>
+
+static const Form form("frmDiagram", sheet.DiagramOpen, closeDiagram, Form::Stands::beside);
 
 namespace {
 
@@ -144,10 +147,8 @@ void closeDiagram()
     f.ConissShown = false;
     f.LineDragging = f.MovingSample = false;
     f.pointer = DiagramPointer::arrow;
-    if (!sheet.Unloading) {
-        frmMain.enabled = true;
+    if (!sheet.Unloading)
         frmMain.focus = MainFocus::Text99;
-    }
 }
 
 void reloadDiagram()
@@ -268,7 +269,6 @@ void frmDiagram_Basis_Click(int basis)
     else
         selectBasis(basis);
     sheet.AlarmArmed = true;
-    frmMain.enabled = true;
 }
 
 void mnuDefaultDGColour_Click()
@@ -385,9 +385,9 @@ void frmDiagram_Combo2_Click(std::string_view name)
     stepTo(frmDiagram.DiagramSample);
 }
 
-void Check1_Click(bool checked)
+void Check1_Click()
 {
-    frmDiagram.Check1.checked = checked;
+    frmDiagram.Check1.checked = !frmDiagram.Check1.checked;
     paintSampleLine();
     frmDiagram.sliderFocused = true;
 }

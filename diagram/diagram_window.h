@@ -62,6 +62,6 @@ void HScroll1_Change(int percent);
 void UpDown1_UpClick();
 void UpDown1_DownClick();
 void frmDiagram_Combo2_Click(std::string_view name);
-void Check1_Click(bool checked);
+void Check1_Click();
 void frmDiagram_Command1_Click();
 void frmDiagram_Activate();

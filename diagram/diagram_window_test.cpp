@@ -114,7 +114,7 @@ TEST_F(Diagram, stepsThroughTheSamplesInARing)
         (row(2) - f.Picture1.scale.top) * (f.picture1Place.height - 60.0) / f.Picture1.scale.height - 390;
     EXPECT_NEAR(f.frame3Place.top, expected, 1);
     EXPECT_TRUE(f.Picture1.layer.marks.empty());
-    Check1_Click(true);
+    Check1_Click();
     ASSERT_EQ(f.Picture1.layer.marks.size(), 1);
     EXPECT_EQ(f.Picture1.layer.marks[0].y1, row(2));
 }

@@ -1,9 +1,11 @@
 #include "extras/about.h"
 
-#include "extras/above_main.h"
+#include "core/forms.h"
 
 AboutAppForm frmAboutApp;
 AboutKeypadForm frmAboutDX1;
+static const Form aboutAppForm("frmAboutApp", frmAboutApp.visible, frmAboutApp_Command1_Click);
+static const Form aboutKeypadForm("frmAboutDX1", frmAboutDX1.visible, frmAboutDX1_Command1_Click);
 
 void mnuAboutApp_Click()
 {

@@ -1,12 +1,13 @@
 #include "extras/diagnose.h"
 
 #include "core/action_log.h"
+#include "core/forms.h"
 #include "core/layer_keys.h"
 #include "core/sheet_state.h"
-#include "extras/above_main.h"
 #include "platform/ports.h"
 
 DiagnoseForm frmDiagnose;
+static const Form form("frmDiagnose", frmDiagnose.visible, frmDiagnose_Command2_Click);
 
 static void keep(bool isDown, int keyCode, unsigned physicalKey)
 {

@@ -43,7 +43,7 @@ protected:
 
 TEST_F(Diagnose, keysRaiseTheLayerAndCountNothing)
 {
-    EXPECT_TRUE(frmDiagnose.visible && !frmMain.enabled);
+    EXPECT_TRUE(frmDiagnose.visible && !isMainEnabled());
     readSettings();
     sheet.TaxonRecord[47].Name = "Aln\xE9";
     frmDiagnose_KeyDown(186);
@@ -62,7 +62,7 @@ TEST_F(Diagnose, keysRaiseTheLayerAndCountNothing)
     EXPECT_EQ(effectOfKey(sheet, 145), "counts 135: ---");
     frmDiagnose_Command2_Click();
     EXPECT_EQ(sheet.Layer, 0) << "the releases go to another window";
-    EXPECT_TRUE(!sheet.Shift1Down && frmMain.enabled);
+    EXPECT_TRUE(!sheet.Shift1Down && isMainEnabled());
 }
 
 TEST_F(Diagnose, tellsEveryRowOfAKeyAndWhatItDoes)

@@ -1,8 +1,9 @@
 #include "extras/pictures.h"
 
-#include "extras/above_main.h"
+#include "core/forms.h"
 
 PictureForm frmPicture;
+static const Form form("frmPicture", frmPicture.visible, closePicture);
 
 static void show(RestPicture picture)
 {

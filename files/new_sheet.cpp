@@ -1,11 +1,11 @@
 #include "files/new_sheet.h"
 
 #include "core/action_log.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/reset_sheet.h"
-#include "core/return_to_main.h"
 #include "core/sample_names.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
@@ -16,6 +16,7 @@
 #include "platform/ports.h"
 
 SampleForm frmSiteName;
+static const Form form("frmSiteName", frmSiteName.visible, frmSiteName_Command3_Click);
 
 void mnuNew_Click()
 {
@@ -32,14 +33,12 @@ void mnuNew_Click()
 void showSiteName()
 {
     frmSiteName.begin("Name of the first sample: ");
-    frmSiteName.visible = true;
-    frmMain.enabled = false;
+    openAboveMain(frmSiteName.visible);
 }
 
 static void closeSiteName()
 {
-    frmSiteName.visible = false;
-    returnToMain();
+    closeAboveMain(frmSiteName.visible);
     frmMain.Text99.text.clear();
 }
 
@@ -83,4 +82,14 @@ void frmSiteName_Command1_Click()
 void frmSiteName_Command3_Click()
 {
     closeSiteName();
+}
+
+void frmSiteName_Text3_GotFocus(int item)
+{
+    frmSiteName.enterInfo(item);
+}
+
+void frmSiteName_Text3_LostFocus(int item)
+{
+    frmSiteName.leaveInfo(item);
 }

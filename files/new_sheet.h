@@ -13,3 +13,6 @@ void showSiteName();
 void frmSiteName_Command1_Click();
 /// "Cancel": the sheet stands with its default sample.
 void frmSiteName_Command3_Click();
+/// A visit of the box of an additional info, 1 to 6.
+void frmSiteName_Text3_GotFocus(int item);
+void frmSiteName_Text3_LostFocus(int item);

@@ -1,10 +1,10 @@
 #include "files/next_sample.h"
 
 #include "core/action_log.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sample_move.h"
 #include "core/sample_names.h"
 #include "core/sheet_state.h"
@@ -17,6 +17,7 @@
 #include <algorithm>
 
 NextForm frmNext;
+static const Form form("frmNext", frmNext.visible, frmNext_Command3_Click);
 
 namespace {
 
@@ -38,8 +39,7 @@ void close()
 {
     for (Button& rename : frmNext.Command5)
         rename.visible = true;
-    frmNext.visible = false;
-    returnToMain();
+    closeAboveMain(frmNext.visible);
 }
 
 bool isNameTaken()
@@ -164,8 +164,7 @@ void NextFile()
         return;
     }
     load();
-    frmNext.visible = true;
-    frmMain.enabled = false;
+    openAboveMain(frmNext.visible);
 }
 
 void showFirstRunChoice()
@@ -206,4 +205,14 @@ void frmNext_Command4_Click()
 {
     frmNext.Command4.visible = false;
     frmNext.entryBoxes = true;
+}
+
+void frmNext_Text3_GotFocus(int item)
+{
+    frmNext.enterInfo(item);
+}
+
+void frmNext_Text3_LostFocus(int item)
+{
+    frmNext.leaveInfo(item);
 }

@@ -25,3 +25,6 @@ void frmNext_Command1_Click();
 void frmNext_Command2_Click();
 void frmNext_Command3_Click();
 void frmNext_Command4_Click();
+/// A visit of the box of an additional info, 1 to 6.
+void frmNext_Text3_GotFocus(int item);
+void frmNext_Text3_LostFocus(int item);

@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
@@ -206,7 +207,6 @@ void settle()
     if (sheet.SampleCount > 50)
         sheet.DiagramWidth = designWidth + (ports.screenWidth - designWidth) * (sheet.SampleCount - 50) / 200;
     TestSampleNames();
-    frmMain.enabled = true;
     if (sheet.TemplateOpened)
         showSiteName();
 }
@@ -267,6 +267,6 @@ void mnuOpen_Click()
 
 void openDropped(const std::string& path)
 {
-    if (frmMain.enabled && frmMain.mnuOpen.enabled)
+    if (isMainEnabled() && frmMain.mnuOpen.enabled)
         open([&path] { return std::optional(path); }, true);
 }

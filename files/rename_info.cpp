@@ -1,11 +1,13 @@
 #include "files/rename_info.h"
 
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/next_sample.h"
 
 ParameterNameForm frmParaName;
+static const Form form("frmParaName", frmParaName.visible, frmParaName_Command2_Click);
 
 static void show(const char* caller, int item, std::string caption)
 {
@@ -14,14 +16,7 @@ static void show(const char* caller, int item, std::string caption)
     frmParaName.Slider1 = item;
     frmParaName.Label2.caption = frmParaName.Text1.text = caption;
     frmParaName.Label4.caption = caller;
-    frmParaName.visible = true;
-    frmMain.enabled = false;
-}
-
-static void close()
-{
-    frmParaName.visible = false;
-    frmMain.enabled = frmParaName.Label4.caption == "frmMain"; // frmNext goes on above a disabled main window
+    openAboveMain(frmParaName.visible);
 }
 
 void Command7_Click(int item)
@@ -44,10 +39,10 @@ void frmParaName_Command1_Click()
     } else {
         frmNext.Label3[item].caption = caption;
     }
-    close();
+    closeAboveMain(frmParaName.visible);
 }
 
 void frmParaName_Command2_Click()
 {
-    close();
+    closeAboveMain(frmParaName.visible);
 }

@@ -4,7 +4,7 @@
 
 void SampleForm::begin(std::string label)
 {
-    nameLabel = std::move(label);
+    Label1.caption = std::move(label);
     Text1.text.clear();
     Text2.text.clear();
     for (int item = 1; item <= infoItems; ++item) {

@@ -9,7 +9,7 @@
 /// The boxes that describe a new sample; frmSiteName (the first one) and frmNext share them.
 struct SampleForm {
     bool visible = false;
-    std::string nameLabel;
+    Label Label1;                             ///< what stands beside the name
     TextBox Text1;                            ///< name
     TextBox Text2;                            ///< note
     std::array<Label, infoItems + 1> Label3;  ///< captions of additional info 1 to 6

@@ -23,7 +23,7 @@ protected:
     void next(const std::string& name, const std::string& note = "")
     {
         mnuNext_Click();
-        EXPECT_TRUE(frmNext.visible && !frmMain.enabled);
+        EXPECT_TRUE(frmNext.visible && !isMainEnabled());
         frmNext.Text1.text = name;
         frmNext.Text2.text = note;
         frmNext_Command1_Click();
@@ -58,7 +58,7 @@ TEST_F(Samples, aNewSheetAsksForItsFirstSample)
     EXPECT_EQ(shown(1), 1);
     dialogs.expect(abort, "Caution!", Answer::yes);
     mnuNew_Click();
-    EXPECT_TRUE(frmSiteName.visible && !frmMain.enabled);
+    EXPECT_TRUE(frmSiteName.visible && !isMainEnabled());
     EXPECT_EQ(shown(1), 0);
     EXPECT_EQ(sheet.ActionCount, 1) << "the log goes on";
     frmSiteName.Text1.text = "10 cm";
@@ -68,7 +68,7 @@ TEST_F(Samples, aNewSheetAsksForItsFirstSample)
     frmSiteName.leaveInfo(3);
     frmSiteName_Command1_Click();
     EXPECT_FALSE(frmSiteName.visible);
-    EXPECT_TRUE(frmMain.enabled && sheet.NamesNotNumeric);
+    EXPECT_TRUE(isMainEnabled() && sheet.NamesNotNumeric);
     EXPECT_EQ(frmMain.Text1[0].text + frmMain.Combo2.text, "10 cm10 cm");
     EXPECT_EQ(sheet.AdditionalInfo(1, 2) + frmMain.Text5[3].text, "basin---");
     EXPECT_EQ(sheet.SampleStamp(1, 1), "15/11/2026 (14:05:09)");
@@ -91,14 +91,14 @@ TEST_F(Samples, aNewSheetAsksForItsFirstSample)
 TEST_F(Samples, stayInDepthOrderWithAllThatBelongsToThem)
 {
     mnuNext_Click();
-    EXPECT_EQ(frmNext.nameLabel, "Name of the first sample: ");
+    EXPECT_EQ(frmNext.Label1.caption, "Name of the first sample: ");
     frmNext_Command3_Click();
     next("10", "a");
     EXPECT_EQ(sheet.SampleCount, 1) << "the placeholder's column";
     tap('Q', 1);
     save();
     next("30", "b");
-    EXPECT_EQ(frmNext.nameLabel, "Name of the next sample: ");
+    EXPECT_EQ(frmNext.Label1.caption, "Name of the next sample: ");
     EXPECT_EQ(shown(1), 0);
     tap('Q', 3);
     save();
@@ -145,7 +145,7 @@ TEST_F(Samples, areRefusedWhereANameOrACountWouldBeLost)
     frmNext_Command1_Click();
     EXPECT_TRUE(frmNext.visible);
     frmNext_Command3_Click();
-    EXPECT_TRUE(frmMain.enabled);
+    EXPECT_TRUE(isMainEnabled());
 
     sheet.SampleField(1, 1) = "40"; // an earlier sample was taken out of the file
     next("20");
@@ -166,7 +166,7 @@ TEST_F(Samples, aTemplateIsFinishedByItsFirstSample)
     dialogs.paths = {"/home/t.csv", "/home/t.csv"};
     mnuTemplate_Click();
     mnuOpen_Click();
-    ASSERT_TRUE(frmSiteName.visible && !frmMain.enabled);
+    ASSERT_TRUE(frmSiteName.visible && !isMainEnabled());
     EXPECT_EQ(frmSiteName.Label3[1].caption, "Grain size:");
     frmSiteName.Text1.text = "7";
     frmSiteName_Command1_Click();
@@ -182,7 +182,7 @@ TEST_F(Samples, additionalInfoIsRenamedFromBothWindows)
     frmParaName.Text1.text = "Grain size";
     frmParaName_Command1_Click();
     EXPECT_EQ(frmMain.Label10[2].caption, "Grain size:");
-    EXPECT_TRUE(frmMain.enabled && frmMain.Command5[0].enabled);
+    EXPECT_TRUE(isMainEnabled() && frmMain.Command5[0].enabled);
     Command7_Click(2);
     frmParaName.Text1.text = "other";
     frmParaName_Command2_Click();
@@ -195,7 +195,7 @@ TEST_F(Samples, additionalInfoIsRenamedFromBothWindows)
     frmParaName_Command1_Click();
     EXPECT_EQ(frmNext.Label3[2].caption, ":");
     EXPECT_EQ(frmMain.Label10[2].caption, "Grain size:");
-    EXPECT_TRUE(frmNext.visible && !frmMain.enabled && !frmParaName.visible);
+    EXPECT_TRUE(frmNext.visible && !isMainEnabled() && !frmParaName.visible);
     frmNext_Command5_Click(2);
     frmParaName.Text1.text = "Volume";
     frmParaName_Command1_Click();

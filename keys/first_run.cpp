@@ -1,15 +1,16 @@
 #include "keys/first_run.h"
 
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "core/start_up.h"
 #include "keys/key_settings.h"
 #include "platform/ports.h"
 
 InitialForm frmInitial;
+static const Form form("frmInitial", frmInitial.visible, closeInitial);
 
 namespace {
 
@@ -31,7 +32,7 @@ void load()
         f.Command1.enabled = false;
         f.focus = 0;
     }
-    f.visible = true;
+    openAboveMain(f.visible);
 }
 
 bool isKeyCode(const std::string& text)
@@ -61,7 +62,6 @@ void ShowInitial()
 
 void mnuInitial_Click()
 {
-    frmMain.enabled = false;
     load();
 }
 
@@ -69,6 +69,11 @@ void frmInitial_Text1_GotFocus(int box)
 {
     frmInitial.focus = box;
     frmInitial.Text1[box].text.clear();
+}
+
+void frmInitial_Command1_GotFocus()
+{
+    frmInitial.focus = referenceKeys;
 }
 
 void frmInitial_Text1_KeyDown(int box, int keyCode)
@@ -108,6 +113,5 @@ void frmInitial_Command1_Click()
 
 void closeInitial()
 {
-    frmInitial.visible = false;
-    returnToMain();
+    closeAboveMain(frmInitial.visible);
 }

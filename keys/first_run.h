@@ -23,6 +23,7 @@ void ShowInitial();
 void mnuInitial_Click();
 
 void frmInitial_Text1_GotFocus(int box);
+void frmInitial_Command1_GotFocus();
 /// The key gives the box its code and the focus goes on.
 void frmInitial_Text1_KeyDown(int box, int keyCode);
 /// "OK": stores the codes. After a first run the first sheet begins. The window stays, with a message and

@@ -66,7 +66,7 @@ TEST_F(FirstRun, fromTheMenuShowsTheCodesAndLetsSomeBePressedAgain)
     pressAll(100);
     frmInitial_Command1_Click();
     mnuInitial_Click();
-    EXPECT_TRUE(f.FirstRun == 1 && f.Command1.enabled && f.focus == referenceKeys && !frmMain.enabled);
+    EXPECT_TRUE(f.FirstRun == 1 && f.Command1.enabled && f.focus == referenceKeys && !isMainEnabled());
     frmInitial_Text1_GotFocus(3);
     dialogs.expect("Please fill all boxes.", "Error");
     frmInitial_Command1_Click();
@@ -74,7 +74,7 @@ TEST_F(FirstRun, fromTheMenuShowsTheCodesAndLetsSomeBePressedAgain)
     EXPECT_EQ(referenceKeys, f.focus);
     f.Text1[0].text = " 99";
     frmInitial_Command1_Click();
-    EXPECT_TRUE(!f.visible && frmMain.enabled && frmMain.visible && choices == 1);
+    EXPECT_TRUE(!f.visible && isMainEnabled() && frmMain.visible && choices == 1);
     EXPECT_EQ("99", sheet.KeySetting[51].Code);
     EXPECT_EQ("100", sheet.KeySetting[54].Code);
 }

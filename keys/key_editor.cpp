@@ -1,17 +1,19 @@
 #include "keys/key_editor.h"
 
 #include "core/character_rule.h"
+#include "core/forms.h"
 #include "core/key_grid.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
+#include "keys/key_commit.h"
 #include "keys/key_settings.h"
 #include "platform/ports.h"
 
 #include <algorithm>
 
 KeyCodeForm frmKeyCode;
+static const Form form("frmKeyCode", frmKeyCode.visible, frmKeyCode_Command1_Click);
 
 namespace {
 
@@ -98,8 +100,7 @@ void mnuKeyCodeReader_Click()
     placeAsDesigned();
     showKeySettings(knownKeySettings());
     frmKeyCode_SSTab1_Click(0);
-    f.visible = true;
-    frmMain.enabled = false;
+    openAboveMain(f.visible);
 }
 
 void frmKeyCode_SSTab1_Click(int page)
@@ -151,6 +152,11 @@ void frmKeyCode_Text3_GotFocus(int position)
         box.red = false;
 }
 
+void frmKeyCode_Text3_Edited(int position, std::string_view text, int /*caret*/)
+{
+    frmKeyCode.Text3[position].text = text;
+}
+
 void frmKeyCode_Text3_LostFocus(int position)
 {
     std::string& text = frmKeyCode.Text3[position].text;
@@ -168,6 +174,5 @@ void frmKeyCode_Text3_LostFocus(int position)
 
 void closeKeyEditor()
 {
-    frmKeyCode.visible = false;
-    returnToMain();
+    closeAboveMain(frmKeyCode.visible);
 }

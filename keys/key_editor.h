@@ -53,6 +53,7 @@ void frmKeyCode_Command5_Click();
 /// A visit of a box of the key number map, position 1 to 45: the number is typed.
 void frmKeyCode_Text3_GotFocus(int position);
 void frmKeyCode_Text3_LostFocus(int position);
+void frmKeyCode_Text3_Edited(int position, std::string_view text, int caret);
 
 /// The boxes show a table: texts, codes, numbers and the places that the key number map gives them.
 void showKeySettings(const KeySettingTable& table);

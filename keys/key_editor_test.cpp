@@ -69,7 +69,7 @@ protected:
         frmKeyCode_Command4_Click();
         EXPECT_EQ(std::vector{Cue::SoundError}, sound.played);
         EXPECT_EQ(page, f.SSTab1);
-        EXPECT_TRUE(f.visible && !frmMain.enabled && !f.ProgressBar1.visible);
+        EXPECT_TRUE(f.visible && !isMainEnabled() && !f.ProgressBar1.visible);
         EXPECT_EQ(before, keySettingsText(sheet.KeySetting));
         EXPECT_EQ(before, files.contents[path]);
     }
@@ -182,7 +182,7 @@ TEST_F(KeyEditor, whatIsCommittedIsInForceAndOnDisk)
     type(1, "2");
     type(2, "1");
     frmKeyCode_Command4_Click();
-    EXPECT_TRUE(!f.visible && frmMain.enabled && frmMain.visible && sheet.UseKeySettings);
+    EXPECT_TRUE(!f.visible && isMainEnabled() && frmMain.visible && sheet.UseKeySettings);
     EXPECT_EQ(std::vector{Cue::SoundSave}, sound.played);
     EXPECT_EQ(1, arranged);
     EXPECT_TRUE(sheet.Shift1Key == 38 && sheet.Shift2Key == 80 && sheet.MinusKey == 46);
@@ -253,6 +253,6 @@ TEST_F(KeyEditor, keysStandWhereTheirNumbersPutThem)
     EXPECT_EQ(5790 + 2 * 5055, f.Text1[rowSave].left);
 
     frmKeyCode_Command1_Click();
-    EXPECT_TRUE(sheet.KeySetting[7].Number == "8" && !f.visible && frmMain.enabled);
+    EXPECT_TRUE(sheet.KeySetting[7].Number == "8" && !f.visible && isMainEnabled());
     EXPECT_NE(std::string::npos, files.contents[path].find("\"7\"")) << "the file is not touched";
 }

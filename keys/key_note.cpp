@@ -1,6 +1,9 @@
 #include "keys/key_note.h"
 
+#include "core/forms.h"
+
 KeyNoteForm frmNote;
+static const Form form("frmNote", frmNote.visible, frmNote_Command1_Click);
 
 const std::array<const char*, 4> keyNoteParagraphs = {
     "TallyStrata accepts assignments of any keys for Shift-1 and \r\nShift-2. However, combinations of more "
@@ -17,10 +20,10 @@ const std::array<const char*, 4> keyNoteParagraphs = {
 
 void frmKeyCode_Command3_Click()
 {
-    frmNote.visible = true;
+    openAboveMain(frmNote.visible);
 }
 
 void frmNote_Command1_Click()
 {
-    frmNote.visible = false;
+    closeAboveMain(frmNote.visible);
 }

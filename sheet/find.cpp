@@ -2,15 +2,16 @@
 
 #include "core/built_in_keys.h"
 #include "core/dispatch_key.h"
+#include "core/forms.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 #include "platform/key_names.h"
 #include "sheet/cell_grid.h"
 
 FindForm frmFind;
+static const Form form("frmFind", frmFind.visible, frmFind_Command2_Click);
 
 namespace {
 
@@ -139,10 +140,9 @@ void unload()
 {
     for (int slot = 1; slot <= taxonSlots; ++slot)
         paintCell(slot, frmFind.savedColours[slot]);
-    frmFind.visible = false;
     sheet.Layer = 0;
     frmMain.SSTab1 = 0;
-    returnToMain();
+    closeAboveMain(frmFind.visible);
 }
 
 } // namespace
@@ -212,8 +212,7 @@ void mnuFind_Click()
     frmFind.List1 = ListBox();
     frmFind.Command3.enabled = false;
     sheet.FoundSlot = 0;
-    frmFind.visible = true;
-    frmMain.enabled = false;
+    openAboveMain(frmFind.visible);
 }
 
 void frmFind_Text1_Change()
@@ -243,6 +242,13 @@ void frmFind_Text1_Change()
     // 5.
     if (list.items.size() == 1)
         frmFind.Display();
+}
+
+void frmFind_Text1_Edited(std::string_view text, int caret)
+{
+    frmFind.Text1.text = text;
+    frmFind.Text1.caret = caret;
+    frmFind_Text1_Change();
 }
 
 void frmFind_List1_Click(int line)

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 constexpr Colour foundCell = RGB(255, 210, 127);
 constexpr Colour keyToTake = RGB(255, 127, 0);
@@ -43,6 +44,8 @@ extern FindForm frmFind;
 void mnuFind_Click();
 
 void frmFind_Text1_Change();
+/// No box of the sheet: what is typed here goes into no file, so it keeps to no character rule.
+void frmFind_Text1_Edited(std::string_view text, int caret);
 /// A line of the list, from 0, was chosen.
 void frmFind_List1_Click(int line);
 void frmFind_List1_DblClick();

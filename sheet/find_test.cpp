@@ -21,7 +21,7 @@ protected:
     static void open(const std::string& text)
     {
         mnuFind_Click();
-        EXPECT_TRUE(frmFind.visible && !frmMain.enabled);
+        EXPECT_TRUE(frmFind.visible && !isMainEnabled());
         type(text);
     }
     static void count()
@@ -148,7 +148,7 @@ TEST_F(Find, countsAsTheKeyWould)
     EXPECT_EQ(sheet.ActionText.back(), "93: Pinus");
     EXPECT_EQ(sound.played.back(), Cue::SoundKey3);
     EXPECT_FALSE(frmFind.visible);
-    EXPECT_TRUE(frmMain.enabled && frmMain.SSTab1 == 0 && sheet.Layer == 0);
+    EXPECT_TRUE(isMainEnabled() && frmMain.SSTab1 == 0 && sheet.Layer == 0);
     EXPECT_EQ(cellsOf(countedRow), "93,");
     runOutTimer();
     tap(101);
@@ -181,7 +181,7 @@ TEST_F(Find, closingOrANoLeavesTheSheetAsItWas)
     EXPECT_EQ(cellsOf(countedRow), "") << "all rows are plain but the found one";
     frmFind_Command2_Click();
     EXPECT_EQ(cellsOf(countedRow), "1,");
-    EXPECT_TRUE(!frmFind.visible && frmMain.enabled && frmMain.SSTab1 == 0);
+    EXPECT_TRUE(!frmFind.visible && isMainEnabled() && frmMain.SSTab1 == 0);
 
     addSamples(2);
     sheet.WarnNotLatest = true;

@@ -2,13 +2,14 @@
 
 #include "core/basis_members.h"
 #include "core/editing.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
-#include "core/return_to_main.h"
 #include "core/sheet_state.h"
 
 SubtotalForm frmSubtotal;
+static const Form form("frmSubtotal", frmSubtotal.visible, frmSubtotal_Command3_Click);
 
 namespace {
 
@@ -52,17 +53,10 @@ bool membersChanged()
     return false;
 }
 
-void close()
-{
-    frmSubtotal.visible = false;
-    returnToMain();
-}
-
 } // namespace
 
 void mnuSubtotal_Click()
 {
-    frmMain.enabled = false;
     frmSubtotal = SubtotalForm();
     frmSubtotal.Option1[1].selected = true;
     for (int group = 1; group <= 2; ++group)
@@ -76,7 +70,7 @@ void mnuSubtotal_Click()
     }
     taxaBefore = sheet.TaxonRecord;
     showMembers();
-    frmSubtotal.visible = true;
+    openAboveMain(frmSubtotal.visible);
 }
 
 void frmSubtotal_Option1_Click(int group)
@@ -115,7 +109,7 @@ void frmSubtotal_Command1_Click()
     RecountTotals(sheet.CurrentSample);
     if (membersChanged())
         markUnsavedWork();
-    close();
+    closeAboveMain(frmSubtotal.visible);
     underlineBasis(); // an open diagram keeps its members until the next count or change of basis
 }
 
@@ -125,7 +119,7 @@ void frmSubtotal_Command3_Click()
         for (int group = 1; group <= 2; ++group)
             memberFlag(sheet.TaxonRecord[slot], group) = memberFlag(taxaBefore[slot], group);
     RecountTotals(sheet.CurrentSample);
-    close();
+    closeAboveMain(frmSubtotal.visible);
 }
 
 void showSubtotalNames()

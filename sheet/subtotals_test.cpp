@@ -36,7 +36,7 @@ TEST_F(Subtotals, whatIsTickedCountsAtOnceInTheGroupOnShow)
         sheet.KeySetting[row].Number = decimalText(46 - row);
     ArrangeTaxonCells();
     mnuSubtotal_Click();
-    EXPECT_FALSE(frmMain.enabled);
+    EXPECT_FALSE(isMainEnabled());
     EXPECT_EQ(frmSubtotal.Check1[1].caption + "|" + frmSubtotal.Check1[135].caption, "Pinus|135: ---");
     EXPECT_EQ(frmSubtotal.Check1[46].left, cellGrid().CellLeft[45]) << "where the taxon stands on the sheet";
 
@@ -54,7 +54,7 @@ TEST_F(Subtotals, whatIsTickedCountsAtOnceInTheGroupOnShow)
     frmMain.Option1[0].selected = false;
     frmMain.Option1[1].selected = true;
     frmSubtotal_Command1_Click();
-    EXPECT_TRUE(frmMain.Text1[1].underline && frmMain.enabled);
+    EXPECT_TRUE(frmMain.Text1[1].underline && isMainEnabled());
     EXPECT_FALSE(frmMain.Text1[2].underline || frmSubtotal.visible || sheet.SheetPristine);
     EXPECT_TRUE(frmMain.Command5[0].enabled) << "members are part of the sheet: work to save";
 }
@@ -70,7 +70,7 @@ TEST_F(Subtotals, cancelGivesBothGroupsTheirMembersBack)
     frmSubtotal_Command3_Click();
     EXPECT_EQ(flags(1) + flags(2) + flags(3), "100100");
     EXPECT_EQ(sums(), "8 3 5");
-    EXPECT_TRUE(frmMain.enabled && sheet.SheetPristine);
+    EXPECT_TRUE(isMainEnabled() && sheet.SheetPristine);
     EXPECT_FALSE(frmSubtotal.visible || frmMain.Command5[0].enabled);
 
     mnuSubtotal_Click();
@@ -100,7 +100,7 @@ TEST_F(Subtotals, theSummaryRanksTheTaxaOfTheSampleOnShow)
     tapWith(undoKey, 'A');
     LaunchSummary();
     EXPECT_EQ(frmSummary.Text1.text, "1: Poaceae (n = 5)\r\n2: --- (n = 5)\r\n3: Pinus (n = 3)\r\n---");
-    EXPECT_TRUE(frmSummary.visible && !frmMain.enabled);
+    EXPECT_TRUE(frmSummary.visible && !isMainEnabled());
     frmSummary_Unload();
-    EXPECT_TRUE(!frmSummary.visible && frmMain.enabled);
+    EXPECT_TRUE(!frmSummary.visible && isMainEnabled());
 }

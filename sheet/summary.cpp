@@ -1,12 +1,13 @@
 #include "sheet/summary.h"
 
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
-#include "core/return_to_main.h"
 
 #include <algorithm>
 
 SummaryForm frmSummary;
+static const Form form("frmSummary", frmSummary.visible, frmSummary_Unload);
 
 void LaunchSummary()
 {
@@ -18,8 +19,8 @@ void LaunchSummary()
         return wholeNumber(frmMain.Text2[one].text) > wholeNumber(frmMain.Text2[other].text);
     });
 
-    frmMain.enabled = false;
-    frmSummary = {.visible = true, .Text1 = {}};
+    frmSummary = {};
+    openAboveMain(frmSummary.visible);
     int rank = 1;
     for (const int slot : slots)
         frmSummary.Text1.text += decimalText(rank++) + ": " + frmMain.Text1[slot].text +
@@ -29,6 +30,5 @@ void LaunchSummary()
 
 void frmSummary_Unload()
 {
-    frmSummary.visible = false;
-    returnToMain();
+    closeAboveMain(frmSummary.visible);
 }

@@ -179,7 +179,7 @@ TEST_F(Accessibility, theKeyboardDoesWhatTheMouseDoes)
     window->onEvent([] { frmDiagnose_KeyDown(27); });
     EXPECT_EQ(form->focusWidget(), close);
     press(close, Qt::Key_Space);
-    EXPECT_TRUE(frmMain.enabled);
+    EXPECT_TRUE(isMainEnabled());
     frmMain.Command5[0].enabled = false;
 }
 

@@ -34,7 +34,7 @@ protected:
     }
     /// Clicks into a box of frmKeyCode, presses a key there and leaves it. `result` tells what came of it.
     template <class Result>
-    void capture(QWidget* form, const QString& name, Place place, std::initializer_list<Place> held,
+    void capture(QWidget* form, const QString& name, int place, std::initializer_list<int> held,
                  Result result, const std::string& expected)
     {
         const QWidget* const box = form->findChild<QWidget*>(name);
@@ -46,8 +46,8 @@ protected:
         EXPECT_TRUE(form->isActiveWindow() && box->hasFocus()) << expected;
         form->findChild<QWidget*>("Command4")->setFocus();
     }
-    void expectKey27(QWidget* form, const std::string& expected, Place place,
-                     std::initializer_list<Place> held = {})
+    void expectKey27(QWidget* form, const std::string& expected, int place,
+                     std::initializer_list<int> held = {})
     {
         capture(form, "Text1(27)", place, held, key27, expected);
         EXPECT_EQ(key27(), expected) << "after the visit";
@@ -58,21 +58,30 @@ protected:
 TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
 {
     QWidget* const form = open("mnuKeyCodeReader", "frmKeyCode");
-    const std::pair<Place, const char*> keys[] = {
-        {leftShift, "[Shift] 16"}, {leftCtrl, "[Ctrl] 17"},   {deleteKey, "[Delete] 46"},
-        {backspace, "[BkSp] 8"},   {escape, "[Esc] 27"},      {enter, "[Enter] 13"},
-        {space, "[Space] 32"},     {f1, "[F1] 112"},          {left, "[Left] 37"},
-        {right, "[Right] 39"},     {down, "[Down] 40"},       {f10, "[F10] 121"},
-        {placeW, "w 87"},          {placeSemicolon, "; 186"}, {tab, "[Tab] 9"},
-        {leftAlt, "[Alt] 18"}};
+    const std::pair<int, const char*> keys[] = {{place::shift, "[Shift] 16"},
+                                                {place::ctrl, "[Ctrl] 17"},
+                                                {place::deleteKey, "[Delete] 46"},
+                                                {place::backspace, "[BkSp] 8"},
+                                                {place::escape, "[Esc] 27"},
+                                                {place::enter, "[Enter] 13"},
+                                                {place::space, "[Space] 32"},
+                                                {place::f1, "[F1] 112"},
+                                                {place::left, "[Left] 37"},
+                                                {place::right, "[Right] 39"},
+                                                {place::down, "[Down] 40"},
+                                                {place::f10, "[F10] 121"},
+                                                {place::w, "w 87"},
+                                                {place::semicolon, "; 186"},
+                                                {place::tab, "[Tab] 9"},
+                                                {place::alt, "[Alt] 18"}};
     for (const auto& [place, expected] : keys)
         expectKey27(form, expected, place);
-    expectKey27(form, "f 70", placeF, {leftAlt}); // opens no menu
-    expectKey27(form, "Q 81", placeQ, {leftShift});
-    expectKey27(form, "q 81", placeQ, {leftCtrl}); // sets off no shortcut
-    tap(numLock);
-    expectKey27(form, "1 97", keypad1);
-    tap(numLock);
+    expectKey27(form, "f 70", place::f, {place::alt}); // opens no menu
+    expectKey27(form, "Q 81", place::q, {place::shift});
+    expectKey27(form, "q 81", place::q, {place::ctrl}); // sets off no shortcut
+    tap(place::numLock);
+    expectKey27(form, "1 97", place::keypad1);
+    tap(place::numLock);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(total(), 0);
 
@@ -87,19 +96,19 @@ TEST_F(KeyWindows, aCaptureBoxTakesEveryKeyAndTheSettingsAreInForceAtOnce)
     });
     answering.start(50);
     click(form->findChild<QWidget*>("Text1(27)"));
-    tap(digit3);
+    tap(place::digit3);
     EXPECT_TRUE(waitFor([&] { return told && form->isActiveWindow(); }));
     EXPECT_EQ(key27(), "1 97");
     layout("us");
 
-    expectKey27(form, "[Left] 37", left);
+    expectKey27(form, "[Left] 37", place::left);
     const auto shift1 = [] {
         return frmKeyCode.Text4[0].text + " " + frmKeyCode.Text2[46].text + " " + frmKeyCode.Text2[48].text;
     };
-    capture(form, "Text4(0)", up, {}, shift1, "[Up] 38 38");
+    capture(form, "Text4(0)", place::up, {}, shift1, "[Up] 38 38");
     click(form->findChild<QWidget*>("Command4"));
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmKeyCode.visible; }));
-    tapWith({up}, left);
+    tapWith({place::up}, place::left);
     EXPECT_TRUE(waitFor([] { return shown(45 + 27) == 1; }));
     QFile file(delivered.keySettings());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -113,19 +122,19 @@ TEST_F(KeyWindows, aCaptureBoxIsEnteredAndLeftWithoutAMouse)
     box->setFocus(Qt::TabFocusReason);
     const std::string before = key27();
     EXPECT_EQ(before, ". 190") << "Tab coming by empties nothing";
-    tap(tab);
+    tap(place::tab);
     ASSERT_TRUE(waitFor([&] { return !box->hasFocus(); }));
     box->setFocus(Qt::TabFocusReason);
-    tap(enter);
+    tap(place::enter);
     ASSERT_TRUE(waitFor([] { return frmKeyCode.Text1[27].text.empty(); }));
-    tapWith({leftShift}, tab); // both are taken, and the last one holds
+    tapWith({place::shift}, place::tab); // both are taken, and the last one holds
     ASSERT_TRUE(waitFor([] { return key27() == "[Tab] 9"; }));
     ASSERT_TRUE(box->hasFocus() && form->isActiveWindow());
     settle(40);
-    tap(tab);
+    tap(place::tab);
     EXPECT_TRUE(waitFor([&] { return !box->hasFocus(); })) << "one key was all";
     EXPECT_EQ(key27(), "[Tab] 9");
-    tap(escape);
+    tap(place::escape);
     EXPECT_TRUE(waitFor([] { return !frmKeyCode.visible; }));
 }
 
@@ -148,32 +157,32 @@ TEST_F(FirstStart, goesFromKeyToKeyToTheFirstSheet)
 {
     waitForWindow("frmInitial");
     EXPECT_FALSE(window->isVisible());
-    const auto walk = [this](std::initializer_list<Place> places) {
-        for (const Place place : places) {
+    const auto walk = [this](std::initializer_list<int> places) {
+        for (const int place : places) {
             const int next = frmInitial.focus + 1;
             tap(place);
             EXPECT_TRUE(waitFor([&] { return frmInitial.focus == next; })) << next;
         }
     };
-    walk({leftShift, leftCtrl, deleteKey, backspace, escape});
-    keyboard.press(enter); // a held key fills one box, and presses no button
+    walk({place::shift, place::ctrl, place::deleteKey, place::backspace, place::escape});
+    keyboard.press(place::enter); // a held key fills one box, and presses no button
     settle(900);
-    keyboard.release(enter);
+    keyboard.release(place::enter);
     settle(60);
     EXPECT_EQ(frmInitial.focus, 6);
-    walk({space, f1, left, up, right});
+    walk({place::space, place::f1, place::left, place::up, place::right});
     EXPECT_FALSE(named<QWidget>("frmInitial")->findChild<QWidget*>("Command1")->isEnabled());
-    walk({down});
+    walk({place::down});
     ASSERT_TRUE(frmInitial.visible);
-    tap(enter);
+    tap(place::enter);
     QWidget* const next = waitForWindow("frmNext");
     EXPECT_TRUE(window->isVisible() && !frmInitial.visible && sheet.KeySetting[62].Code == "40");
     click(next->findChild<QWidget*>("Command4"));
     ASSERT_TRUE(waitFor([] { return frmNext.entryBoxes; }));
-    tap(digit1);
-    tap(enter);
+    tap(place::digit1);
+    tap(place::enter);
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow() && !frmNext.visible; }));
-    tap(placeQ);
+    tap(place::q);
     EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
     EXPECT_EQ(frmMain.Combo2.text, "1");
 }
@@ -182,6 +191,6 @@ TEST_F(FirstStart, goesOnWhenItsWindowIsClosed)
 {
     waitForWindow("frmInitial")->close();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
-    tap(placeQ);
+    tap(place::q);
     EXPECT_TRUE(waitFor([] { return shown(1) == 1; }));
 }

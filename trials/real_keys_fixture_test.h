@@ -9,35 +9,6 @@
 
 #include <cstdlib>
 
-/// X keycodes: places on the keyboard, whatever the layout.
-enum Place : std::uint8_t {
-    escape = 9,
-    digit1 = 10,
-    digit3 = 12,
-    backspace = 22,
-    tab = 23,
-    placeQ = 24,
-    placeW = 25,
-    placeP = 33,
-    enter = 36,
-    leftCtrl = 37,
-    placeA = 38,
-    placeF = 41,
-    placeSemicolon = 47,
-    leftShift = 50,
-    leftAlt = 64,
-    space = 65,
-    f1 = 67,
-    f10 = 76,
-    numLock = 77,
-    keypad1 = 87,
-    up = 111,
-    left = 113,
-    right = 114,
-    down = 116,
-    deleteKey = 119
-};
-
 class RealKeys : public WindowTest {
 protected:
     XHand keyboard;
@@ -62,7 +33,7 @@ protected:
     }
 
     /// Until the release, which waits for a repeat, is out and the repeat guard has ended.
-    void tap(Place place)
+    void tap(int place)
     {
         keyboard.press(place);
         settle(20);
@@ -70,13 +41,13 @@ protected:
         settle(40);
         waitFor([] { return !sheet.RepeatGuard; });
     }
-    void tapWith(std::initializer_list<Place> held, Place place)
+    void tapWith(std::initializer_list<int> held, int place)
     {
-        for (const Place key : held)
+        for (const int key : held)
             keyboard.press(key);
         settle(30);
         tap(place);
-        for (const Place key : held)
+        for (const int key : held)
             keyboard.release(key);
         settle(60);
     }

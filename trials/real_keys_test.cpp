@@ -17,34 +17,34 @@
 
 TEST_F(RealKeys, lettersFollowTheLayoutAndDigitsTheirPlace)
 {
-    tap(placeQ);
-    tapWith({leftShift}, digit1);
+    tap(place::q);
+    tapWith({place::shift}, place::digit1);
     EXPECT_EQ(shown(1), 1);
     EXPECT_EQ(shown(31), 1) << "the key of the digit 1, though Shift gives another sign";
     layout("fr");
-    tap(placeQ); // types "a"
-    tap(digit1); // types "&"
-    tap(placeA); // types "q"
+    tap(place::q);      // types "a"
+    tap(place::digit1); // types "&"
+    tap(place::a);      // types "q"
     EXPECT_EQ(shown(4), 1);
     EXPECT_EQ(shown(31), 2);
     EXPECT_EQ(shown(1), 2);
     layout("ru");
-    tap(placeQ);
+    tap(place::q);
     EXPECT_EQ(shown(1), 3) << "a script without Latin letters goes by place";
     layout("us");
 }
 
 TEST_F(RealKeys, bothLayersAndReverseCounting)
 {
-    tapWith({placeSemicolon}, placeQ);
-    tapWith({placeP}, placeQ);
-    tapWith({placeP, placeSemicolon}, placeQ);
+    tapWith({place::semicolon}, place::q);
+    tapWith({place::p}, place::q);
+    tapWith({place::p, place::semicolon}, place::q);
     EXPECT_EQ(shown(46), 2);
     EXPECT_EQ(shown(91), 1);
     EXPECT_EQ(frmMain.SSTab1, 0);
-    tapWith({placeSemicolon, placeP, backspace}, placeQ);
+    tapWith({place::semicolon, place::p, place::backspace}, place::q);
     EXPECT_EQ(shown(91), 0);
-    tap(backspace);
+    tap(place::backspace);
     EXPECT_EQ(shown(91), 1);
 }
 
@@ -52,19 +52,19 @@ TEST_F(RealKeys, theKeypadGoesByNumLockAndNotByShift)
 {
     bind(1, 97);
     bind(2, 35); // End
-    tap(numLock);
-    tap(keypad1);
-    tapWith({leftShift}, keypad1);
+    tap(place::numLock);
+    tap(place::keypad1);
+    tapWith({place::shift}, place::keypad1);
     EXPECT_EQ(shown(1), 2);
-    tap(numLock);
-    tap(keypad1);
+    tap(place::numLock);
+    tap(place::keypad1);
     EXPECT_EQ(shown(2), 1);
 }
 
 TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
 {
-    const std::pair<Place, int> keys[] = {{tab, 9},   {space, 32},   {enter, 13},
-                                          {f10, 121}, {leftAlt, 18}, {down, 40}};
+    const std::pair<int, int> keys[] = {{place::tab, 9},   {place::space, 32}, {place::enter, 13},
+                                        {place::f10, 121}, {place::alt, 18},   {place::down, 40}};
     int row = 0;
     for (const auto& [place, code] : keys)
         bind(++row, code);
@@ -72,7 +72,7 @@ TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
         tap(place);
     for (int slot = 1; slot <= row; ++slot)
         EXPECT_EQ(shown(slot), 1) << "row " << slot;
-    tapWith({leftAlt}, placeF); // two more counts, and no File menu
+    tapWith({place::alt}, place::f); // two more counts, and no File menu
     EXPECT_EQ(total(), row + 2);
     EXPECT_TRUE(named<QWidget>("Text99")->hasFocus());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
@@ -81,21 +81,21 @@ TEST_F(RealKeys, keysThatMoveFocusOrOpenMenusElsewhereOnlyCountWhenTheyAreBound)
 
 TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
 {
-    tapWith({leftAlt}, placeF);
+    tapWith({place::alt}, place::f);
     const QWidget* const menu = QApplication::activePopupWidget();
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->objectName(), "mnuFile");
-    tap(placeQ); // a letter of an open menu counts nothing
+    tap(place::q); // a letter of an open menu counts nothing
     EXPECT_EQ(total(), 0);
-    tap(escape);
-    tap(escape);
-    tap(placeQ);
+    tap(place::escape);
+    tap(place::escape);
+    tap(place::q);
     EXPECT_EQ(total(), 1);
 }
 
 TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
 {
-    tapWith({leftCtrl}, placeQ);
+    tapWith({place::ctrl}, place::q);
     EXPECT_EQ(total(), 0);
 
     sheet.SampleCount = 2;
@@ -106,7 +106,7 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
         return QApplication::activeWindow() != nullptr && QApplication::activeWindow()->objectName() == name;
     };
     ASSERT_TRUE(waitFor([&] { return isActive("frmDiagram"); }));
-    tapWith({leftCtrl}, placeQ);
+    tapWith({place::ctrl}, place::q);
     EXPECT_EQ(total(), 0) << "there neither";
     QApplication::activeWindow()->close();
     ASSERT_TRUE(waitFor([&] { return isActive("frmMain"); }));
@@ -116,9 +116,9 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
     QLineEdit box("abc", window->centralWidget());
     box.show();
     box.setFocus();
-    tapWith({leftCtrl}, placeA);
+    tapWith({place::ctrl}, place::a);
     EXPECT_EQ(box.selectedText(), "abc");
-    tap(placeQ);
+    tap(place::q);
     EXPECT_EQ(box.text(), "q");
     EXPECT_EQ(total(), 0);
 }
@@ -126,31 +126,31 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
 TEST_F(RealKeys, aHeldKeyRepeatsWithoutComingUp)
 {
     for (int i = 0; i < 6; ++i)
-        tap(placeQ);
-    keyboard.press(backspace); // every key-up in between would take a count back
+        tap(place::q);
+    keyboard.press(place::backspace); // every key-up in between would take a count back
     settle(1200);
-    keyboard.release(backspace);
+    keyboard.release(place::backspace);
     settle(60);
     EXPECT_EQ(shown(1), 5);
-    keyboard.press(placeW);
+    keyboard.press(place::w);
     settle(1200);
-    keyboard.release(placeW);
+    keyboard.release(place::w);
     settle(60);
     EXPECT_GT(shown(2), 3) << "after the guard a held key counts again";
 }
 
 TEST_F(RealKeys, losingTheKeyboardLetsGoOfAllKeysAndTakesNothingBack)
 {
-    tap(placeQ);
-    keyboard.press(placeSemicolon);
-    keyboard.press(backspace);
+    tap(place::q);
+    keyboard.press(place::semicolon);
+    keyboard.press(place::backspace);
     ASSERT_TRUE(waitFor([] { return sheet.Layer == 1 && sheet.MinusState == 1; }));
     QWidget other;
     other.show();
     other.activateWindow();
     ASSERT_TRUE(waitFor([&] { return other.isActiveWindow(); }));
-    keyboard.release(backspace);
-    keyboard.release(placeSemicolon);
+    keyboard.release(place::backspace);
+    keyboard.release(place::semicolon);
     settle();
     EXPECT_EQ(sheet.Layer, 0);
     EXPECT_EQ(sheet.MinusState, 0);
@@ -161,8 +161,8 @@ TEST_F(RealKeys, losingTheKeyboardLetsGoOfAllKeysAndTakesNothingBack)
 
 TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
 {
-    tap(placeQ);
-    keyboard.press(placeSemicolon);
+    tap(place::q);
+    keyboard.press(place::semicolon);
     settle(60);
     EXPECT_EQ(sheet.Layer, 1);
     window->onEvent(Command6_MouseDown);
@@ -170,11 +170,11 @@ TEST_F(RealKeys, anotherProgramTakesTheKeyboardAndTheKeysAndTheViewWithIt)
     keyboard.takeFocusAway();
     ASSERT_TRUE(waitFor([] { return QGuiApplication::focusWindow() == nullptr; }));
     settle(60);
-    keyboard.release(placeSemicolon);
+    keyboard.release(place::semicolon);
     EXPECT_TRUE(sheet.Layer == 0 && !sheet.Shift1Down && sheet.KeysActive);
     window->activateWindow();
     waitUntilInFront(window);
-    tap(placeQ);
+    tap(place::q);
     EXPECT_EQ(shown(1), 2);
 }
 
@@ -187,7 +187,7 @@ TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
             ASSERT_NE(box, nullptr);
             box->button(yes ? QMessageBox::Yes : QMessageBox::No)->click();
         });
-        tapWith({placeSemicolon}, placeQ);
+        tapWith({place::semicolon}, place::q);
         settle(500);
         EXPECT_EQ(shown(46), yes ? 1 : 0);
         EXPECT_EQ(sheet.Layer, 0);
@@ -195,7 +195,7 @@ TEST_F(RealKeys, aKeyThatRaisedTheWarningCountsOnItsLayer)
         EXPECT_EQ(frmMain.SSTab1, 0);
     }
     waitUntilInFront(window);
-    tap(placeQ);
+    tap(place::q);
     EXPECT_EQ(shown(1), 1) << "the window counts on";
 }
 
@@ -204,9 +204,10 @@ TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
     named<QAction>("mnuDiagnose")->trigger();
     QWidget* const diagnose = window->findChild<QWidget*>("frmDiagnose");
     ASSERT_TRUE(waitFor([&] { return diagnose->isActiveWindow(); }));
-    for (const Place place : {placeQ, tab, space, enter, escape, backspace})
+    for (const int place :
+         {place::q, place::tab, place::space, place::enter, place::escape, place::backspace})
         tap(place);
-    tapWith({placeSemicolon}, placeW);
+    tapWith({place::semicolon}, place::w);
     EXPECT_TRUE(diagnose->isVisible());
     EXPECT_EQ(total(), 0);
     EXPECT_EQ(sheet.UndoStack[0].slot, 0);
@@ -215,7 +216,7 @@ TEST_F(RealKeys, theDiagnosisIsShownEachKeyAndNoKeyDoesAnythingElse)
     EXPECT_TRUE(report.contains("down  87   w              layer 1")) << report.toStdString();
     diagnose->findChild<QPushButton*>("Command2")->click();
     waitUntilInFront(window);
-    tap(placeQ);
+    tap(place::q);
     EXPECT_EQ(shown(1), 1);
 }
 
@@ -236,7 +237,7 @@ TEST_F(RealKeys, aWarningThatFindRaisesIsAnsweredAboveIt)
         EXPECT_TRUE(box->isActiveWindow());
         box->button(QMessageBox::Yes)->click();
     });
-    tap(enter);
+    tap(place::enter);
     settle(500);
     EXPECT_EQ(shown(50), 1);
     EXPECT_FALSE(find->isVisible());

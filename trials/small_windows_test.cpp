@@ -81,7 +81,7 @@ TEST_F(SmallWindows, groupsAreTickedNamedAndCancelled)
     EXPECT_EQ(named<QAction>("mnuPercentSub2")->text(), "% by Herbs");
     press(Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_TRUE(frmMain.enabled);
+    EXPECT_TRUE(isMainEnabled());
     EXPECT_EQ(sheet.TaxonRecord[1].Subtotal1 + sheet.TaxonRecord[1].Subtotal2, "00");
 }
 
@@ -94,7 +94,7 @@ TEST_F(SmallWindows, theSummaryFillsItsWindow)
     settle();
     EXPECT_GT(ranking->width(), 660);
     form->close();
-    EXPECT_TRUE(frmMain.enabled && !frmSummary.visible);
+    EXPECT_TRUE(isMainEnabled() && !frmSummary.visible);
 }
 
 TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
@@ -107,7 +107,7 @@ TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
                                     [](const QWidget* one) { return one->objectName() == "frmManual"; });
     ASSERT_NE(found, all.end());
     QWidget* const manual = *found;
-    EXPECT_TRUE(manual->isVisible() && !manual->isModal() && frmMain.enabled);
+    EXPECT_TRUE(manual->isVisible() && !manual->isModal() && isMainEnabled());
 
     auto* const pages = manual->findChild<QTextBrowser*>();
     ASSERT_TRUE(pages->toPlainText().startsWith("The manual of TallyStrata"));

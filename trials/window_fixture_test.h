@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/program.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "trials/delivered_copy.h"
@@ -21,6 +22,8 @@ protected:
     {
         sheet = SheetState();
         frmMain = MainScreen();
+        for (const Form* const form : forms())
+            form->visible = false;
         program = std::make_unique<Program>(delivered.path());
         window = &program->window();
         window->activateWindow();

@@ -290,9 +290,9 @@ TEST_F(Widgets, findShowsATaxonAsItIsTypedAndCountsIt)
 
 TEST_F(Widgets, aPictureFillsItsWindowAndAClickEndsTheRest)
 {
-    QWidget* const picture = window->findChild<QWidget*>("frmPicture");
     for (const char* entry : {"mnuCoffee", "mnuBeach", "mnuFavorite"}) {
         named<QAction>(entry)->trigger();
+        auto* const picture = named<QWidget>("frmPicture");
         picture->resize(160 * 5, 100 * 5);
         const QImage shown = picture->grab().toImage();
         for (const QPoint& corner : {QPoint(1, 1), QPoint(798, 1), QPoint(1, 498), QPoint(798, 498)})
@@ -301,7 +301,7 @@ TEST_F(Widgets, aPictureFillsItsWindowAndAClickEndsTheRest)
                           Qt::LeftButton, Qt::LeftButton, {});
         QApplication::sendEvent(picture, &click);
         EXPECT_FALSE(picture->isVisible());
-        EXPECT_TRUE(frmMain.enabled);
+        EXPECT_TRUE(isMainEnabled());
     }
 }
 

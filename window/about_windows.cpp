@@ -59,17 +59,16 @@ counts nothing. Try all three layers and Undo with a counter key before you coun
 
 } // namespace
 
-AboutWindow::AboutWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
-                         void (*closeIt)())
-    : FormWindow(main, name, title, visible, closeIt), text_(new QLabel)
+AboutWindow::AboutWindow(MainWindow& main, const char* name, const QString& title, void (*closeIt)())
+    : FormWindow(main, name, title, {{.name = "Label1"}, {.name = "Command1", .clicked = closeIt}}),
+      text_(bind(new QLabel, "Label1"))
 {
-    text_->setObjectName("Label1");
     text_->setTextFormat(Qt::RichText);
     text_->setWordWrap(true);
     text_->setFixedWidth(textWidth);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text_->setFocusPolicy(Qt::NoFocus);
-    QPushButton* const ok = button("Command1", "OK", closeIt);
+    QPushButton* const ok = button("Command1", "OK");
     ok->setDefault(true);
     setFirst(ok);
     auto* const whole = new QVBoxLayout(this);
@@ -81,7 +80,7 @@ AboutWindow::AboutWindow(MainWindow& main, const char* name, const QString& titl
 }
 
 AboutAppWindow::AboutAppWindow(MainWindow& main)
-    : AboutWindow(main, "frmAboutApp", "About TallyStrata", frmAboutApp.visible, frmAboutApp_Command1_Click)
+    : AboutWindow(main, "frmAboutApp", "About TallyStrata", frmAboutApp_Command1_Click)
 {
 }
 
@@ -100,8 +99,7 @@ void AboutAppWindow::presentMore()
 }
 
 AboutKeypadWindow::AboutKeypadWindow(MainWindow& main)
-    : AboutWindow(main, "frmAboutDX1", "About programmable keypads", frmAboutDX1.visible,
-                  frmAboutDX1_Command1_Click)
+    : AboutWindow(main, "frmAboutDX1", "About programmable keypads", frmAboutDX1_Command1_Click)
 {
     text_->setText(keypadText);
 }

@@ -5,8 +5,7 @@
 /// A window with a text and a button that closes it.
 class AboutWindow : public FormWindow {
 protected:
-    AboutWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
-                void (*closeIt)());
+    AboutWindow(MainWindow& main, const char* name, const QString& title, void (*closeIt)());
 
     QLabel* text_;
 };

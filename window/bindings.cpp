@@ -1,15 +1,20 @@
 #include "window/bindings.h"
 
 #include "platform/qt/text.h"
+#include "window/key_map.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QSlider>
+#include <algorithm>
 
 namespace {
 
@@ -32,8 +37,10 @@ void show(LineBinding& binding)
     if (now == was)
         return;
     QLineEdit& widget = *binding.widget;
-    if (now.text != was.text)
+    if (now.text != was.text) {
+        widget.setMaxLength(std::max(textLimit, static_cast<int>(now.text.size())));
         widget.setText(shownText(now.text));
+    }
     if (now.rightAligned != was.rightAligned)
         widget.setAlignment((now.rightAligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     widget.setCursorPosition(now.caret); // also decides which end of a long text is in view
@@ -48,28 +55,50 @@ void show(LineBinding& binding)
     was = now;
 }
 
-TypedText typedInto(LineBinding& binding)
+namespace {
+
+/// What of a widget's text goes into a record; it tells by itself how far a caret has moved, since a part of
+/// a text becomes a part of the result.
+QString accepted(const QString& text, bool oneLine)
 {
-    QLineEdit& widget = *binding.widget;
-    QString text = widget.text();
-    for (QChar& character : text)
+    QString composed = text.normalized(QString::NormalizationForm_C);
+    composed.remove(QChar::Null);
+    if (!oneLine)
+        return composed;
+    composed.replace("\r\n", " ");
+    for (QChar& character : composed)
         if (character.isSpace() && character != QChar::Nbsp)
             character = ' ';
-    const int caret = static_cast<int>(heldText(text.left(widget.cursorPosition())).size());
-    const std::string held = heldText(text);
-    if (const QString shown = shownText(held); shown != widget.text()) {
-        widget.setText(shown);
-        widget.setCursorPosition(caret);
-    }
-    binding.shown.text = held;
-    binding.shown.caret = caret;
-    return {held, caret};
+    return composed;
 }
 
 /// Records end their lines with CR LF, the widget with one character.
-static std::string heldLines(const QString& text)
+std::string heldLines(const QString& text)
 {
     return heldText(QString(text).replace('\n', "\r\n"));
+}
+
+} // namespace
+
+TypedText typedInto(QLineEdit& widget)
+{
+    const QString text = widget.text();
+    const std::string held = heldText(accepted(text, true));
+    const auto before = heldText(accepted(text.left(widget.cursorPosition()), true)).size();
+    const int caret = static_cast<int>(std::min(before, held.size()));
+    if (const QString shown = shownText(held); shown != text) {
+        widget.setText(shown);
+        widget.setCursorPosition(caret);
+    }
+    return {held, caret, text.size() >= widget.maxLength()};
+}
+
+TypedText typedInto(LineBinding& binding)
+{
+    const TypedText typed = typedInto(*binding.widget);
+    binding.shown.text = typed.text;
+    binding.shown.caret = typed.caret;
+    return typed;
 }
 
 static int caretInWidget(const TextBox& record)
@@ -81,14 +110,16 @@ static int caretInWidget(const TextBox& record)
 TypedText typedInto(NoteBinding& binding)
 {
     QPlainTextEdit& widget = *binding.widget;
+    const auto limit = std::max<qsizetype>(textLimit, static_cast<qsizetype>(binding.shown.text.size()));
     const QString text = widget.toPlainText();
-    const int caret = static_cast<int>(heldLines(text.left(widget.textCursor().position())).size());
-    const std::string held = heldLines(text);
+    const std::string held = heldLines(accepted(text.left(limit), false));
+    const auto before = heldLines(accepted(text.left(widget.textCursor().position()), false)).size();
+    const int caret = static_cast<int>(std::min(before, held.size()));
     binding.shown.text = held;
     binding.shown.caret = caret;
     if (shownText(held).remove('\r') != text)
         binding.shown.text += '?'; // so that it is shown anew
-    return {held, caret};
+    return {held, caret, text.size() >= limit};
 }
 
 void show(NoteBinding& binding)
@@ -136,6 +167,51 @@ void show(OptionBinding& binding)
     binding.widget->setAutoExclusive(false);
     binding.widget->setChecked(binding.record->selected);
     binding.widget->setAutoExclusive(true);
+}
+
+void show(CheckBinding& binding)
+{
+    binding.widget->setChecked(binding.record->checked);
+}
+
+void show(SliderBinding& binding)
+{
+    const QSignalBlocker quiet(binding.widget); // it has no signal for a user's changes alone
+    binding.widget->setRange(binding.record->min, binding.record->max);
+    binding.widget->setValue(binding.record->value);
+}
+
+void show(ScrollBinding& binding)
+{
+    const ScrollBar& now = *binding.record;
+    const QSignalBlocker quiet(binding.widget);
+    binding.widget->setRange(0, now.max);
+    binding.widget->setSingleStep(now.smallChange);
+    binding.widget->setPageStep(now.largeChange);
+    binding.widget->setValue(now.value);
+    binding.widget->setVisible(now.visible);
+}
+
+void show(KeyBinding& binding)
+{
+    if (const QString text = shownText(binding.record->text); text != binding.widget->text())
+        binding.widget->setText(text);
+    showRed(*binding.widget, binding.record->red);
+}
+
+void show(ListBinding& binding)
+{
+    const ListBox& now = *binding.record;
+    QListWidget& widget = *binding.widget;
+    const QSignalBlocker quiet(binding.widget);
+    if (now.items != binding.shown.items) {
+        widget.clear();
+        for (const std::string& item : now.items)
+            widget.addItem(shownText(item));
+        binding.shown.items = now.items;
+    }
+    if (widget.currentRow() != now.chosen)
+        widget.setCurrentRow(now.chosen);
 }
 
 void show(ActionBinding& binding)

@@ -1,10 +1,8 @@
 #include "window/capture_box.h"
 
-#include "window/main_window.h"
-
 #include <QKeyEvent>
 
-CaptureBox::CaptureBox(MainWindow& main, Handlers handlers) : main_(main), handlers_(std::move(handlers))
+CaptureBox::CaptureBox()
 {
     setReadOnly(true);
     setFocusPolicy(Qt::StrongFocus);
@@ -44,18 +42,12 @@ void CaptureBox::mousePressEvent(QMouseEvent* event)
 void CaptureBox::keyWentDown(int keyCode, const QString& typed)
 {
     lastDown_ = keyCode;
-    main_.onEvent([&] {
-        if (handlers_.keyDown)
-            handlers_.keyDown(keyCode);
-        if (handlers_.keyPress && !typed.isEmpty())
-            handlers_.keyPress(typed.toUcs4().front());
-    });
+    taker_({keyCode, true, typed.isEmpty() ? char32_t{0} : typed.toUcs4().front()});
 }
 
 void CaptureBox::keyCameUp(int keyCode)
 {
-    if (handlers_.keyUp)
-        main_.onEvent([&] { handlers_.keyUp(keyCode); });
+    taker_({keyCode, false, 0});
     if (!leavesAfterKey_ || keyCode != lastDown_)
         return;
     leavesAfterKey_ = false;

@@ -3,20 +3,21 @@
 #include <QLineEdit>
 #include <functional>
 
-class MainWindow;
-
 /// A box that takes the keys themselves: whatever is pressed in it, Tab, Enter, Esc, arrows and shortcuts
 /// included, reaches its handlers and nothing else. KeyInput hands it each key once, however long it is held.
 /// Tab only comes by: the box takes keys from a click on it, or from Enter or Space when it has the focus. In
 /// the latter case one key is all, and Tab goes on.
 class CaptureBox : public QLineEdit {
 public:
-    struct Handlers {
-        std::function<void(int keyCode)> keyDown;
-        std::function<void(char32_t character)> keyPress;
-        std::function<void(int keyCode)> keyUp;
+    struct Key {
+        int code;
+        bool isDown;
+        char32_t character; ///< what the key types; 0: nothing
     };
-    CaptureBox(MainWindow& main, Handlers handlers);
+    CaptureBox();
+
+    /// Who is told of the keys.
+    void giveTo(std::function<void(const Key&)> taker) { taker_ = std::move(taker); }
 
     /// False while Tab has only come by.
     bool takesKeys() const { return !comesBy_; }
@@ -36,8 +37,7 @@ protected:
 private:
     void comeAnew(Qt::FocusReason reason);
 
-    MainWindow& main_;
-    Handlers handlers_;
+    std::function<void(const Key&)> taker_ = [](const Key&) {};
     bool comesBy_ = false;
     bool leavesAfterKey_ = false;
     int lastDown_ = 0;

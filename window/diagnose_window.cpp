@@ -13,22 +13,24 @@
 #include <QVBoxLayout>
 
 DiagnoseWindow::DiagnoseWindow(MainWindow& main)
-    : FormWindow(main, "frmDiagnose", "Diagnose", frmDiagnose.visible, frmDiagnose_Command2_Click)
+    : FormWindow(main, "frmDiagnose", "Diagnose",
+                 {{.name = "Label1"},
+                  {.name = "Label2"},
+                  {.name = "Text1"},
+                  {.name = "Command1"}, // what is copied is what this window shows
+                  {.name = "Command2", .clicked = frmDiagnose_Command2_Click}})
 {
-    key_ = new QLabel;
-    key_->setObjectName("Label1");
+    key_ = bind(new QLabel, "Label1");
     QFont large = key_->font();
     large.setPointSizeF(2 * large.pointSizeF());
     large.setBold(true);
     key_->setFont(large);
-    meaning_ = new QLabel;
-    meaning_->setObjectName("Label2");
+    meaning_ = bind(new QLabel, "Label2");
     meaning_->setWordWrap(true);
     meaning_->setAlignment(Qt::AlignTop);
     meaning_->setFixedHeight(2 * meaning_->fontMetrics().lineSpacing()); // so that nothing below it moves
 
-    report_ = new QPlainTextEdit;
-    report_->setObjectName("Text1");
+    report_ = bind(new QPlainTextEdit, "Text1");
     report_->setAccessibleName("Report");
     report_->setReadOnly(true);
     report_->setFocusPolicy(Qt::NoFocus);
@@ -36,11 +38,12 @@ DiagnoseWindow::DiagnoseWindow(MainWindow& main)
     report_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
     copied_ = new QLabel;
-    copy_ = button("Command1", "Copy", [this] {
+    copy_ = button("Command1", "Copy");
+    connect(copy_, &QPushButton::clicked, this, [this] {
         QGuiApplication::clipboard()->setText(report_->toPlainText());
         copied_->setText("Copied to the clipboard.");
     });
-    close_ = button("Command2", "Close", frmDiagnose_Command2_Click);
+    close_ = button("Command2", "Close");
     auto* const foot = new QHBoxLayout;
     foot->addWidget(copied_, 1);
     foot->addWidget(copy_);

@@ -21,7 +21,6 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QSignalBlocker>
 #include <QSlider>
 #include <QStatusBar>
 #include <QTimer>
@@ -36,6 +35,27 @@ int pixels(int twips)
     return qRound(twips / twipsPerPixel);
 }
 
+std::vector<ControlRow> diagramControls()
+{
+    DiagramForm& f = frmDiagram;
+    return {
+        {.name = "Picture1"},
+        {.name = "Picture2"},
+        {.name = "Picture3"},
+        {.name = "Picture4"},
+        {.name = "HScroll1", .record = &f.HScroll1, .changed = HScroll1_Change},
+        {.name = "Slider1", .record = &f.Slider1, .changed = Slider1_Change},
+        {.name = "Slider2", .record = &f.Slider2, .changed = Slider2_Change},
+        {.name = "UpDown1_Up", .clicked = UpDown1_UpClick},
+        {.name = "UpDown1_Down", .clicked = UpDown1_DownClick},
+        {.name = "Check1", .record = &f.Check1, .clicked = Check1_Click},
+        {.name = "Combo2", .record = &f.Combo2, .chosen = frmDiagram_Combo2_Click},
+        {.name = "Command1", .clicked = frmDiagram_Command1_Click},
+        {.name = "Text1", .record = &f.Text1},
+        {.name = "Text2", .record = &f.Text2},
+    };
+}
+
 void put(QWidget* widget, const Place& place)
 {
     widget->setGeometry(
@@ -45,11 +65,10 @@ void put(QWidget* widget, const Place& place)
 
 } // namespace
 
-DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
+DiagramWindow::DiagramWindow(MainWindow& main) : BoundWindow(*this, main, diagramControls())
 {
     setObjectName("frmDiagram");
     makeMenus();
-    makePopups();
     statusBar()->setObjectName("StatusBar1");
     statusBar()->setSizeGripEnabled(true);
 
@@ -63,23 +82,16 @@ DiagramWindow::DiagramWindow(MainWindow& main) : main_(main)
     names_->setPaper(Paper::window);
     diagram_ = picture("Picture1", frmDiagram.Picture1, "Percentage diagram");
     dendrogram_ = picture("Picture2", frmDiagram.Picture2, "Dendrogram of the cluster analysis");
-    strip_ = new QWidget(surface);
-    strip_->setObjectName("Picture3");
+    strip_ = bind(new QWidget(surface), "Picture3");
     strip_->installEventFilter(this);
-    scroll_ = new QScrollBar(Qt::Horizontal, surface);
-    scroll_->setObjectName("HScroll1");
+    scroll_ = bind(new QScrollBar(Qt::Horizontal, surface), "HScroll1");
     scroll_->setAccessibleName("Scroll through the taxa");
-    connect(scroll_, &QScrollBar::valueChanged, this,
-            [this](int value) { onEvent([&] { HScroll1_Change(value); }); });
-    sample_ = new QSlider(Qt::Vertical, surface);
-    sample_->setObjectName("Slider1");
+    sample_ = bind(new QSlider(Qt::Vertical, surface), "Slider1");
     sample_->setAccessibleName("Selected sample");
     sample_->setToolTip("Selects a sample");
     sample_->setInvertedAppearance(true); // the first sample is at the top
     sample_->setInvertedControls(true);
-    connect(sample_, &QSlider::valueChanged, this,
-            [this](int value) { onEvent([&] { Slider1_Change(value); }); });
-    connect(sample_, &QSlider::sliderReleased, this, [this] { onEvent(Slider1_Click); });
+    connect(sample_, &QSlider::sliderReleased, this, [this] { runEvent(Slider1_Click); });
     buttons_ = sampleButtons();
     panel_ = samplePanel();
     corner_ = corner();
@@ -105,7 +117,7 @@ SurfaceView* DiagramWindow::picture(const char* name, Surface& surface, const QS
 {
     auto* const view = new SurfaceView(surface);
     view->setParent(centralWidget());
-    view->setObjectName(name);
+    bind(view, name);
     view->setAccessibleName(accessibleName);
     view->setMouseTracking(true);
     view->setFocusPolicy(Qt::TabFocus);
@@ -120,8 +132,8 @@ QWidget* DiagramWindow::sampleButtons()
     auto* const column = new QVBoxLayout(both);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    const auto add = [&](Qt::ArrowType arrow, const QString& says, void (*clicked)()) {
-        auto* const button = new QToolButton;
+    const auto add = [&](const char* name, Qt::ArrowType arrow, const QString& says) {
+        auto* const button = bind(new QToolButton, name);
         button->setArrowType(arrow);
         button->setFocusPolicy(Qt::NoFocus);
         button->setAutoRaise(true);
@@ -129,11 +141,10 @@ QWidget* DiagramWindow::sampleButtons()
         button->setToolTip(says);
         button->setAccessibleName(says);
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-        connect(button, &QToolButton::clicked, this, [this, clicked] { onEvent(clicked); });
         column->addWidget(button);
     };
-    add(Qt::UpArrow, "Sample above", UpDown1_UpClick);
-    add(Qt::DownArrow, "Sample below", UpDown1_DownClick);
+    add("UpDown1_Up", Qt::UpArrow, "Sample above");
+    add("UpDown1_Down", Qt::DownArrow, "Sample below");
     return both;
 }
 
@@ -146,12 +157,9 @@ QWidget* DiagramWindow::samplePanel()
     auto* const column = new QVBoxLayout(panel);
     column->setContentsMargins(5, 2, 5, 3);
     column->setSpacing(2);
-    check_ = new QCheckBox;
-    check_->setObjectName("Check1");
+    check_ = bind(new QCheckBox, "Check1");
     check_->setToolTip("Draws a line at this sample, and the panel goes with it");
-    connect(check_, &QCheckBox::clicked, this, [this](bool on) { onEvent([&] { Check1_Click(on); }); });
     auto* const names = new QComboBox;
-    names->setObjectName("Combo2");
     names->setAccessibleName("Choose a sample");
     names->setEditable(true);
     names->lineEdit()->setReadOnly(true);
@@ -162,10 +170,7 @@ QWidget* DiagramWindow::samplePanel()
     names->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     names->setMinimumContentsLength(4);
     names->installEventFilter(this);
-    connect(names, &QComboBox::activated, this, [this](int index) {
-        onEvent([&] { frmDiagram_Combo2_Click(std::string(frmDiagram.Combo2.items[index])); });
-    });
-    combos_.append({names, &frmDiagram.Combo2});
+    bind(names, "Combo2");
     column->addWidget(check_);
     column->addWidget(names);
     return panel;
@@ -179,52 +184,39 @@ QWidget* DiagramWindow::corner()
     auto* const grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(3);
-    zoom_ = new QSlider(Qt::Horizontal);
-    zoom_->setObjectName("Slider2");
-    zoom_->setAccessibleName("Zoom");
-    zoom_->setToolTip("Width of a percent: 5 is one to one");
-    zoom_->setRange(0, 10);
-    zoom_->setPageStep(1);
-    zoom_->setTickPosition(QSlider::TicksBelow);
-    connect(zoom_, &QSlider::valueChanged, this,
-            [this](int value) { onEvent([&] { Slider2_Change(value); }); });
+    auto* const zoom = bind(new QSlider(Qt::Horizontal), "Slider2");
+    zoom->setAccessibleName("Zoom");
+    zoom->setToolTip("Width of a percent: 5 is one to one");
+    zoom->setPageStep(1);
+    zoom->setTickPosition(QSlider::TicksBelow);
     auto* const zoomLabel = new QLabel("Zoom");
-    zoomLabel->setBuddy(zoom_);
-    for (QWidget* const part : {static_cast<QWidget*>(zoomLabel), static_cast<QWidget*>(zoom_)})
+    zoomLabel->setBuddy(zoom);
+    for (QWidget* const part : {static_cast<QWidget*>(zoomLabel), static_cast<QWidget*>(zoom)})
         part->setAutoFillBackground(true); // the paper of the names reaches under it, white in a dark theme
     grid->addWidget(zoomLabel, 0, 0, 1, 2);
-    grid->addWidget(zoom_, 1, 0, 1, 2);
+    grid->addWidget(zoom, 1, 0, 1, 2);
     grid->setRowStretch(2, 1);
     move_ = new QWidget;
     grid->addWidget(move_, 3, 0, 1, 2);
     auto* const moved = new QGridLayout(move_);
     moved->setContentsMargins(0, 0, 0, 0);
     moved->setVerticalSpacing(3);
-    auto* const move = new QPushButton("Moved sample");
-    move->setObjectName("Command1");
+    auto* const move = bind(new QPushButton("Moved sample"), "Command1");
     move->setAutoDefault(false);
     move->setToolTip("Shows from where to where a sample was dragged last");
-    connect(move, &QPushButton::clicked, this, [this] { onEvent(frmDiagram_Command1_Click); });
     moved->addWidget(move, 0, 0, 1, 2);
-    const auto number = [&](const char* name, const TextBox& record, const QString& says, int column) {
-        auto* const edit = new QLineEdit;
-        edit->setObjectName(name);
+    const auto number = [&](const char* name, const QString& says, int column) {
+        auto* const edit = bind(new QLineEdit, name);
         edit->setReadOnly(true);
         edit->setFocusPolicy(Qt::NoFocus);
         edit->setToolTip(says);
         edit->setAccessibleName(says);
         edit->setMinimumWidth(20);
-        lines_.append({edit, &record});
         moved->addWidget(edit, 1, column);
     };
-    number("Text1", frmDiagram.Text1, "Moved from place", 0);
-    number("Text2", frmDiagram.Text2, "Moved to place", 1);
+    number("Text1", "Moved from place", 0);
+    number("Text2", "Moved to place", 1);
     return box;
-}
-
-void DiagramWindow::onEvent(const std::function<void()>& handler)
-{
-    main_.onEvent(handler);
 }
 
 void DiagramWindow::present()
@@ -235,10 +227,8 @@ void DiagramWindow::present()
             hide();
         return;
     }
-    showAll(actions_);
-    showAll(combos_);
-    showAll(lines_);
-    presentScales();
+    showControls();
+    presentPanel();
     presentPlaces();
     move_->setVisible(sheet.NamesNotNumeric); // depths have their places
     for (SurfaceView* const view : {names_, diagram_, dendrogram_})
@@ -279,21 +269,9 @@ void DiagramWindow::takeSize(QSize wanted)
         resized();
 }
 
-void DiagramWindow::presentScales()
+void DiagramWindow::presentPanel()
 {
     const DiagramForm& f = frmDiagram;
-    const QSignalBlocker quietScroll(scroll_);
-    scroll_->setRange(0, f.HScroll1.max);
-    scroll_->setSingleStep(f.HScroll1.smallChange);
-    scroll_->setPageStep(f.HScroll1.largeChange);
-    scroll_->setValue(f.HScroll1.value);
-    scroll_->setVisible(f.HScroll1.visible);
-    const QSignalBlocker quietSample(sample_);
-    sample_->setRange(f.Slider1.min, f.Slider1.max);
-    sample_->setValue(f.Slider1.value);
-    const QSignalBlocker quietZoom(zoom_);
-    zoom_->setValue(f.Slider2.value);
-    check_->setChecked(f.Check1.checked);
     const QString sample = shownText(f.Check1.caption);
     constexpr int besideName = 36; // the tick and the margins
     const QString name =
@@ -334,7 +312,7 @@ void DiagramWindow::resized()
         resizeWaits_ = false;
         frmDiagram.chromeWidth = static_cast<int>((width() - centralWidget()->width()) * twipsPerPixel);
         frmDiagram.chromeHeight = static_cast<int>((height() - centralWidget()->height()) * twipsPerPixel);
-        onEvent([this] {
+        runEvent([this] {
             frmDiagram_Resize(static_cast<int>(width() * twipsPerPixel),
                               static_cast<int>(height() * twipsPerPixel));
         });
@@ -352,13 +330,13 @@ bool DiagramWindow::pictureEvent(SurfaceView* view, QMouseEvent& event)
     const bool right = event.button() == Qt::RightButton;
     bool menuOpens = false;
     if (event.type() == QEvent::MouseMove)
-        onEvent([&] { pictureMouseMove(which, x, y); });
+        runEvent([&] { pictureMouseMove(which, x, y); });
     else if (event.type() == QEvent::MouseButtonRelease)
-        onEvent(pictureMouseUp);
+        runEvent(pictureMouseUp);
     else if (event.button() == Qt::LeftButton || right)
-        onEvent([&] { menuOpens = pictureMouseDown(which, x, y, right); });
+        runEvent([&] { menuOpens = pictureMouseDown(which, x, y, right); });
     if (menuOpens)
-        (view == diagram_ ? diagramMenu_ : dendrogramMenu_)->popup(event.globalPosition().toPoint());
+        menuNamed(view == diagram_ ? "RB1" : "RBConiss")->popup(event.globalPosition().toPoint());
     return true;
 }
 
@@ -378,7 +356,7 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
     case QEvent::MouseMove:
         if (isPicture)
             return pictureEvent(static_cast<SurfaceView*>(target), static_cast<QMouseEvent&>(*event));
-        onEvent(target == centralWidget() || target == names_ ? mouseOverSurface : mouseOverControls);
+        runEvent(target == centralWidget() || target == names_ ? mouseOverSurface : mouseOverControls);
         return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -386,9 +364,9 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
             return pictureEvent(static_cast<SurfaceView*>(target), static_cast<QMouseEvent&>(*event));
         if (target == names_ && event->type() == QEvent::MouseButtonPress &&
             static_cast<QMouseEvent&>(*event).button() == Qt::RightButton)
-            namesMenu_->popup(static_cast<QMouseEvent&>(*event).globalPosition().toPoint());
+            menuNamed("RB3")->popup(static_cast<QMouseEvent&>(*event).globalPosition().toPoint());
         if (target == names_ || target == strip_)
-            onEvent(frmDiagram_Activate);
+            runEvent(frmDiagram_Activate);
         return false;
     default:
         return false;
@@ -398,11 +376,11 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
 void DiagramWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the record says whether it is open
-    onEvent(closeDiagram);
+    runEvent(closeDiagram);
 }
 
 void DiagramWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        onEvent(frmDiagram_Activate);
+        runEvent(frmDiagram_Activate);
 }

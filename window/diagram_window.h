@@ -1,7 +1,7 @@
 #pragma once
 
 #include "diagram/diagram_form.h"
-#include "window/bindings.h"
+#include "window/bound_window.h"
 
 #include <QMainWindow>
 #include <functional>
@@ -9,7 +9,6 @@
 class MainWindow;
 class QCheckBox;
 class QFrame;
-class QMenu;
 class QMouseEvent;
 class QScrollBar;
 class QSlider;
@@ -17,7 +16,7 @@ class SurfaceView;
 
 /// The widgets of frmDiagram, a window of its own beside the main one. Its controls stand where their records
 /// say.
-class DiagramWindow : public QMainWindow {
+class DiagramWindow : public QMainWindow, public BoundWindow {
 public:
     explicit DiagramWindow(MainWindow& main);
 
@@ -32,9 +31,6 @@ protected:
 private:
     // diagram_window_menus.cpp
     void makeMenus();
-    void makePopups();
-    QAction* entry(QMenu& menu, const char* name, const QString& caption, void (*handler)(),
-                   const MenuEntry* record = nullptr);
 
     SurfaceView* picture(const char* name, Surface& surface, const QString& accessibleName);
     QWidget* sampleButtons();
@@ -43,12 +39,10 @@ private:
     void resized();
     void presentPlaces();
     void takeSize(QSize wanted);
-    void presentScales();
+    void presentPanel();
     bool pictureEvent(SurfaceView* view, QMouseEvent& event);
     bool keyOnPicture(SurfaceView* view, QEvent& event);
-    void onEvent(const std::function<void()>& handler);
 
-    MainWindow& main_;
     QLabel* notice_ = nullptr;
     SurfaceView* diagram_ = nullptr;
     SurfaceView* dendrogram_ = nullptr;
@@ -57,18 +51,11 @@ private:
     QFrame* parting_ = nullptr;
     QScrollBar* scroll_ = nullptr;
     QSlider* sample_ = nullptr;
-    QSlider* zoom_ = nullptr;
     QWidget* move_ = nullptr; ///< what was moved from where to where
     QWidget* panel_ = nullptr;
     QWidget* buttons_ = nullptr;
     QWidget* corner_ = nullptr;
     QCheckBox* check_ = nullptr;
-    QMenu* diagramMenu_ = nullptr;    ///< RB1
-    QMenu* dendrogramMenu_ = nullptr; ///< RBConiss
-    QMenu* namesMenu_ = nullptr;      ///< RB3
-    QList<ActionBinding> actions_;
-    QList<ComboBinding> combos_;
-    QList<LineBinding> lines_;
     int forwardShown_ = 0;
     bool resizeWaits_ = false;
 };

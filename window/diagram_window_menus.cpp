@@ -21,102 +21,86 @@ void chooseStyle()
     frmDiagram_Style_Click(style);
 }
 
-template <int basis>
-void chooseBasis()
+const std::vector<MenuRow> menus = {{"mnuBasis", "% &Basis", nullptr},
+                                    {"mnuDrawMode", "&Style", nullptr},
+                                    {"mnuColour", "Colour", "mnuDrawMode"},
+                                    {"nmuTools", "&Tools", nullptr},
+                                    {"RB1", nullptr, nullptr},
+                                    {"RBConiss", nullptr, nullptr},
+                                    {"RB3", nullptr, nullptr},
+                                    {"RB2", nullptr, nullptr}};
+
+std::vector<EntryRow> entryTable()
 {
-    frmDiagram_Basis_Click(basis);
+    DiagramForm& f = frmDiagram;
+    return {
+        {"mnuBasis", "mnuSub1", "Subtotal-1", &f.mnuSub1, {frmDiagram_Basis_Click, 1}, true},
+        {"mnuBasis", "mnuSub2", "Subtotal-2", &f.mnuSub2, {frmDiagram_Basis_Click, 2}, true},
+        {"mnuBasis", "mnuAll", "All total", &f.mnuAll, {frmDiagram_Basis_Click, 0}, true},
+
+        {"mnuDrawMode", "mnuBar", "&Bar", &f.mnuBar, chooseStyle<DiagramStyle::bar>, true},
+        {"mnuDrawMode", "mnuArea", "&Curve", &f.mnuArea, chooseStyle<DiagramStyle::curve>, true},
+        {"mnuDrawMode", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, chooseStyle<DiagramStyle::dot>, true},
+        {"mnuDrawMode"},
+        {"mnuDrawMode", "mnuCurve", "Bar and curve", &f.mnuCurve, chooseStyle<DiagramStyle::barAndCurve>,
+         true},
+        {"mnuDrawMode", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve,
+         chooseStyle<DiagramStyle::dotAndCurve>, true},
+        {"mnuDrawMode"},
+        {"mnuColour", "mnuDefaultDGColour", "Default", nullptr, mnuDefaultDGColour_Click},
+        {"mnuColour", "mnuCustomDGColour", "Custom", nullptr, mnuCustomDGColour_Click},
+
+        {"nmuTools", "mnuVertical", "Vertical line", &f.mnuVertical, mnuVertical_Click, true},
+        {"nmuTools", "mnuHorizontal", "Horizontal line", &f.mnuHorizontal, mnuHorizontal_Click, true},
+        {"nmuTools", "mnuTaxaName", "Taxa name", &f.mnuTaxaName, mnuTaxaName_Click, true},
+        {"nmuTools"},
+        {"nmuTools", "nmuConiss", "&CONISS", &f.nmuConiss, nmuConiss_Click, true},
+        {.menu = "nmuTools", .hidden = true},
+        {.menu = "nmuTools",
+         .name = "mnuECC",
+         .caption = "&EOF-Climate correlation",
+         .clicked = mnuECC_Click,
+         .hidden = true},
+
+        {"RB1", "mnuCopyDiagram", "&Copy", nullptr, mnuCopyDiagram_Click},
+        {"RB1", "mnuSavePicture1", "Save picture...", nullptr, mnuSavePicture_Click},
+        {"RB1"},
+        {"RB1", "mnuVertical1", "Vertical line", &f.mnuVertical, mnuVertical_Click, true},
+        {"RB1", "mnuHorizontal1", "Horizontal line", &f.mnuHorizontal, mnuHorizontal_Click, true},
+
+        {"RBConiss", "mnuCopyConiss", "&Copy", nullptr, mnuCopyConiss_Click},
+        {"RBConiss", "mnuSavePicture2", "Save picture...", nullptr, mnuSavePicture_Click},
+        {"RBConiss"},
+        {"RBConiss", "mnuSaveConiss", "Save matrix", nullptr, mnuSaveConiss_Click},
+        {"RBConiss"},
+        {"RBConiss", "mnuVertical2", "Vertical line", &f.mnuVertical, mnuVertical_Click, true},
+        {"RBConiss", "mnuHorizontal2", "Horizontal line", &f.mnuHorizontal, mnuHorizontal_Click, true},
+
+        {"RB3", "mnuCopyTaxaName", "&Copy", nullptr, mnuCopyTaxaName_Click},
+        {"RB3", "mnuSavePicture4", "Save picture...", nullptr, mnuSavePicture_Click},
+
+        // Opened by nothing: for an analysis that does not exist yet.
+        {"RB2", "mnuCopyEOF", "&Copy", nullptr, mnuCopyEOF_Click},
+        {"RB2"},
+        {"RB2", "mnuSaveEOF", "&Save This EOF Only", nullptr, mnuSaveEOF_Click},
+        {"RB2", "mnuSaveAllEOF", "Save &All EOF", nullptr, mnuSaveAllEOF_Click},
+    };
 }
 
 } // namespace
 
-QAction* DiagramWindow::entry(QMenu& menu, const char* name, const QString& caption, void (*handler)(),
-                              const MenuEntry* record)
-{
-    QAction* const action = menu.addAction(caption);
-    action->setObjectName(name);
-    action->setMenuRole(QAction::NoRole);
-    action->setCheckable(record != nullptr);
-    connect(action, &QAction::triggered, this, [this, handler] { onEvent(handler); });
-    if (record != nullptr)
-        actions_.append({action, record});
-    return action;
-}
-
 void DiagramWindow::makeMenus()
 {
-    DiagramForm& f = frmDiagram;
-    const auto menu = [](QMenu* made, const char* name) -> QMenu& {
-        made->setObjectName(name);
-        return *made;
-    };
-    QMenu& basis = menu(menuBar()->addMenu("% &Basis"), "mnuBasis");
-    entry(basis, "mnuSub1", "Subtotal-1", chooseBasis<1>, &f.mnuSub1);
-    entry(basis, "mnuSub2", "Subtotal-2", chooseBasis<2>, &f.mnuSub2);
-    entry(basis, "mnuAll", "All total", chooseBasis<0>, &f.mnuAll);
-
-    QMenu& style = menu(menuBar()->addMenu("&Style"), "mnuDrawMode");
-    entry(style, "mnuBar", "&Bar", chooseStyle<DiagramStyle::bar>, &f.mnuBar);
-    entry(style, "mnuArea", "&Curve", chooseStyle<DiagramStyle::curve>, &f.mnuArea);
-    entry(style, "mnuDot", "&Dot (>0.5% only)", chooseStyle<DiagramStyle::dot>, &f.mnuDot);
-    style.addSeparator();
-    entry(style, "mnuCurve", "Bar and curve", chooseStyle<DiagramStyle::barAndCurve>, &f.mnuCurve);
-    entry(style, "mnuDotCurve", "Dot and curve", chooseStyle<DiagramStyle::dotAndCurve>, &f.mnuDotCurve);
-    style.addSeparator();
-    QMenu& colour = menu(style.addMenu("Colour"), "mnuColour");
-    entry(colour, "mnuDefaultDGColour", "Default", mnuDefaultDGColour_Click);
-    entry(colour, "mnuCustomDGColour", "Custom", mnuCustomDGColour_Click);
-
-    QMenu& tools = menu(menuBar()->addMenu("&Tools"), "nmuTools");
-    entry(tools, "mnuVertical", "Vertical line", mnuVertical_Click, &f.mnuVertical);
-    entry(tools, "mnuHorizontal", "Horizontal line", mnuHorizontal_Click, &f.mnuHorizontal);
-    entry(tools, "mnuTaxaName", "Taxa name", mnuTaxaName_Click, &f.mnuTaxaName);
-    tools.addSeparator();
-    entry(tools, "nmuConiss", "&CONISS", nmuConiss_Click, &f.nmuConiss);
-    tools.addSeparator()->setVisible(false);
-    entry(tools, "mnuECC", "&EOF-Climate correlation", mnuECC_Click)->setVisible(false);
-}
-
-void DiagramWindow::makePopups()
-{
-    DiagramForm& f = frmDiagram;
-    const auto popup = [this](const char* name) {
-        auto* const made = new QMenu(this);
-        made->setObjectName(name);
-        return made;
-    };
-    diagramMenu_ = popup("RB1");
-    entry(*diagramMenu_, "mnuCopyDiagram", "&Copy", mnuCopyDiagram_Click);
-    entry(*diagramMenu_, "mnuSavePicture1", "Save picture...", mnuSavePicture_Click);
-    diagramMenu_->addSeparator();
-    entry(*diagramMenu_, "mnuVertical1", "Vertical line", mnuVertical_Click, &f.mnuVertical);
-    entry(*diagramMenu_, "mnuHorizontal1", "Horizontal line", mnuHorizontal_Click, &f.mnuHorizontal);
-
-    dendrogramMenu_ = popup("RBConiss");
-    entry(*dendrogramMenu_, "mnuCopyConiss", "&Copy", mnuCopyConiss_Click);
-    entry(*dendrogramMenu_, "mnuSavePicture2", "Save picture...", mnuSavePicture_Click);
-    dendrogramMenu_->addSeparator();
-    entry(*dendrogramMenu_, "mnuSaveConiss", "Save matrix", mnuSaveConiss_Click);
-    dendrogramMenu_->addSeparator();
-    entry(*dendrogramMenu_, "mnuVertical2", "Vertical line", mnuVertical_Click, &f.mnuVertical);
-    entry(*dendrogramMenu_, "mnuHorizontal2", "Horizontal line", mnuHorizontal_Click, &f.mnuHorizontal);
-
-    namesMenu_ = popup("RB3");
-    entry(*namesMenu_, "mnuCopyTaxaName", "&Copy", mnuCopyTaxaName_Click);
-    entry(*namesMenu_, "mnuSavePicture4", "Save picture...", mnuSavePicture_Click);
-
-    // Opened by nothing: for an analysis that does not exist yet.
-    QMenu* const eof = popup("RB2");
-    entry(*eof, "mnuCopyEOF", "&Copy", mnuCopyEOF_Click);
-    eof->addSeparator();
-    entry(*eof, "mnuSaveEOF", "&Save This EOF Only", mnuSaveEOF_Click);
-    entry(*eof, "mnuSaveAllEOF", "Save &All EOF", mnuSaveAllEOF_Click);
+    BoundWindow::makeMenus(*menuBar(), menus, entryTable());
 }
 
 /// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
 bool DiagramWindow::keyOnPicture(SurfaceView* view, QEvent& event)
 {
     if (asksForMenu(event)) {
-        QMenu* const menu = view == diagram_ ? diagramMenu_ : view == names_ ? namesMenu_ : dendrogramMenu_;
+        QMenu* const menu = view == diagram_ ? menuNamed("RB1")
+                            : view == names_ ? menuNamed("RB3")
+                                             : menuNamed("RBConiss");
         menu->popup(view->mapToGlobal(view->rect().center()));
         return true;
     }

@@ -18,13 +18,9 @@ protected:
 
 private:
     QWidget* keyMap();
-    void presentList();
-    void presentKeyMap();
 
-    MainWindow& main_;
     QLineEdit* text_;
     QListWidget* list_;
-    QPushButton* count_;
     std::array<QPushButton*, 52> keys_{}; ///< Command1(1) to (51)
     QWidget* keySink_;                    ///< Command1(0)
 };

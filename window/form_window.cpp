@@ -1,12 +1,12 @@
 #include "window/form_window.h"
 
 #include "core/character_rule.h"
-#include "core/editing.h"
+#include "core/forms.h"
 #include "core/sheet_state.h"
-#include "platform/qt/text.h"
 #include "window/capture_box.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
+#include "window/text_area.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -16,11 +16,10 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
-#include <QSignalBlocker>
 
-FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title, const bool& visible,
-                       void (*cancel)())
-    : QDialog(&main), main_(main), shouldShow_(visible), cancel_(cancel)
+FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title,
+                       std::vector<ControlRow> table)
+    : QDialog(&main), BoundWindow(*this, main, std::move(table)), main_(main), form_(formNamed(name))
 {
     setObjectName(name);
     setWindowTitle(title);
@@ -29,85 +28,63 @@ FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title,
 
 void FormWindow::present()
 {
-    if (!shouldShow_ && !isVisible())
+    const bool shouldShow = form_.visible;
+    if (!shouldShow && !isVisible())
         return;
-    for (const auto& showOne : shows_)
-        showOne();
+    showControls();
     presentMore();
-    if (shouldShow_ == isVisible())
+    if (shouldShow == isVisible())
         return;
-    if (!shouldShow_)
+    if (!shouldShow)
         visited_ = nullptr;
-    if (shouldShow_ && (layout() == nullptr || layout()->sizeConstraint() != QLayout::SetFixedSize))
+    if (shouldShow && (layout() == nullptr || layout()->sizeConstraint() != QLayout::SetFixedSize))
         resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
-    setVisible(shouldShow_);
-    if (shouldShow_ && !main_.isVisible())
+    setVisible(shouldShow);
+    if (shouldShow && !main_.isVisible())
         move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());
-    if (shouldShow_ && first_ != nullptr)
+    if (shouldShow && first_ != nullptr)
         first_->setFocus();
-    if (auto* const box = qobject_cast<QLineEdit*>(first_); shouldShow_ && box != nullptr)
+    if (auto* const box = qobject_cast<QLineEdit*>(first_); shouldShow && box != nullptr)
         box->selectAll(); // typing replaces what it holds
-    if (!shouldShow_ && QApplication::activeModalWidget() == nullptr)
+    if (!shouldShow && QApplication::activeModalWidget() == nullptr)
         main_.activateWindow(); // a question in between may have left the keyboard with no window at all
 }
 
-QLineEdit* FormWindow::box(const QString& name, TextBox& record, BoxHandlers handlers)
+QLineEdit* FormWindow::box(const char* name, int index)
 {
-    if (!handlers.edited)
-        handlers.edited = [&record](std::string_view text, int caret) { typeInto(record, text, caret); };
-    auto* const edit = new QLineEdit(this);
-    edit->setObjectName(name);
-    edit->setMinimumWidth(220);
-    connect(edit, &QLineEdit::textEdited, this,
-            [this, edit, edited = std::move(handlers.edited)](const QString& text) {
-                main_.onEvent([&] { edited(heldText(text), edit->cursorPosition()); });
-            });
-    shows_ += [edit, &record] {
-        if (edit->text() == shownText(record.text))
-            return;
-        edit->setText(shownText(record.text));
-        edit->setCursorPosition(record.caret);
-    };
-    watchVisits(edit, std::move(handlers.entered), std::move(handlers.left));
-    return edit;
+    QLineEdit* const made = bind(new QLineEdit(this), name, index);
+    made->setMinimumWidth(220);
+    return made;
 }
 
-QPlainTextEdit* FormWindow::area(const QString& name, TextBox& record)
+QPlainTextEdit* FormWindow::area(const char* name, int index)
 {
-    auto* const edit = new QPlainTextEdit(this);
-    edit->setObjectName(name);
-    edit->setTabChangesFocus(true);
-    edit->setFixedHeight(4 * edit->fontMetrics().lineSpacing());
-    connect(edit, &QPlainTextEdit::textChanged, this, [this, edit, &record] {
-        const QString text = edit->toPlainText();
-        const QString before = text.left(edit->textCursor().position());
-        main_.onEvent([&] { // line ends are two characters in the record
-            typeInto(record, heldText(QString(text).replace("\n", "\r\n")),
-                     static_cast<int>(before.size() + before.count('\n')));
-        });
-    });
-    shows_ += [edit, &record] {
-        const QString text = shownText(record.text).replace("\r\n", "\n");
-        if (edit->toPlainText() == text)
-            return;
-        const QSignalBlocker quiet(edit);
-        edit->setPlainText(text);
-        edit->moveCursor(QTextCursor::End);
-    };
-    watchVisits(edit, {}, {});
-    return edit;
+    QPlainTextEdit* const made = bind(new TextArea(this), name, index);
+    made->setTabChangesFocus(true);
+    made->setFixedHeight(4 * made->fontMetrics().lineSpacing());
+    return made;
 }
 
-QPushButton* FormWindow::button(const QString& name, const QString& caption, std::function<void()> clicked,
-                                const Button* record)
+QPushButton* FormWindow::button(const char* name, const QString& caption, int index)
 {
-    auto* const made = new QPushButton(caption, this);
-    made->setObjectName(name);
+    QPushButton* const made = bind(new QPushButton(caption, this), name, index);
     made->setAutoDefault(false);
-    connect(made, &QPushButton::clicked, this,
-            [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
-    if (record != nullptr)
-        shows_ += [made, record] { made->setVisible(record->visible); };
+    return made;
+}
+
+QLabel* FormWindow::label(const char* name, int index)
+{
+    auto* const made = new ElidedLabel;
+    made->setParent(this);
+    made->setMaximumWidth(360); // captions of additional info are the user's own
+    return bind(made, name, index);
+}
+
+QLabel* FormWindow::fixedText(const QString& name, const QString& text)
+{
+    auto* const made = new QLabel(text, this);
+    made->setObjectName(name);
+    made->setTextFormat(Qt::PlainText);
     return made;
 }
 
@@ -120,46 +97,11 @@ QLayout* FormWindow::buttonRow(std::initializer_list<QWidget*> buttons)
     return row;
 }
 
-QLabel* FormWindow::label(const QString& name, const std::string& caption)
-{
-    auto* const made = new ElidedLabel;
-    made->setParent(this);
-    made->setObjectName(name);
-    made->setMaximumWidth(360); // captions of additional info are the user's own
-    shows_ += [made, &caption] { made->setText(shownText(caption)); };
-    return made;
-}
-
-QLabel* FormWindow::fixedText(const QString& name, const QString& text)
-{
-    auto* const made = new QLabel(text, this);
-    made->setObjectName(name);
-    made->setTextFormat(Qt::PlainText);
-    return made;
-}
-
-void FormWindow::watchVisits(QWidget* widget, std::function<void()> entered, std::function<void()> left)
-{
-    focusHandlers_[widget] = {std::move(entered), std::move(left)};
-    widget->installEventFilter(this);
-}
-
-void FormWindow::bindMark(QAbstractButton* widget, const bool& marked, std::function<void()> clicked)
-{
-    connect(widget, &QAbstractButton::clicked, this,
-            [this, clicked = std::move(clicked)] { main_.onEvent(clicked); });
-    shows_ += [widget, &marked] {
-        const bool exclusive = widget->autoExclusive(); // the arrow keys go by it
-        widget->setAutoExclusive(false);
-        widget->setChecked(marked);
-        widget->setAutoExclusive(exclusive);
-    };
-}
-
+/// A visit of a box begins and ends with its focus. A message or another program in front ends none.
 bool FormWindow::eventFilter(QObject* target, QEvent* event)
 {
-    const auto handlers = focusHandlers_.constFind(target);
-    if (handlers == focusHandlers_.constEnd())
+    const Control control = controlOf(target);
+    if (control.kind == nullptr)
         return false;
     const auto comesBy = [target, event] { // Tab, on its way over boxes that take any key
         return dynamic_cast<CaptureBox*>(target) != nullptr &&
@@ -168,17 +110,17 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
     if (event->type() == QEvent::FocusIn && visited_ != target && !comesBy()) {
         visited_ = target;
         sheet.LastKeyDown = noKeyYet;
-        if (handlers->first)
-            main_.onEvent(handlers->first);
+        if (control.kind->entered)
+            runEvent([&] { control.kind->entered(control.index); });
     }
     if (event->type() == QEvent::FocusOut && visited_ == target) {
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
         const bool lasts = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-        if (shouldShow_ && lasts)
+        if (form_.visible && lasts)
             return false;
         visited_ = nullptr;
-        if (shouldShow_ && handlers->second)
-            main_.onEvent(handlers->second);
+        if (form_.visible && control.kind->left)
+            runEvent([&] { control.kind->left(control.index); });
     }
     return false;
 }
@@ -186,5 +128,5 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
 /// Esc and the frame's own close button.
 void FormWindow::reject()
 {
-    main_.onEvent(cancel_);
+    runEvent(form_.close);
 }

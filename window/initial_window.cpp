@@ -1,15 +1,25 @@
 #include "window/initial_window.h"
 
-#include "platform/qt/text.h"
 #include "window/capture_box.h"
-#include "window/main_window.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
 InitialWindow::InitialWindow(MainWindow& main)
-    : FormWindow(main, "frmInitial", "Initialize", frmInitial.visible, closeInitial)
+    : FormWindow(
+          main, "frmInitial", "Initialize",
+          {{.name = "Text1",
+            .record = frmInitial.Text1.data(),
+            .first = 0,
+            .last = referenceKeys - 1,
+            .entered = frmInitial_Text1_GotFocus,
+            .keyDown = frmInitial_Text1_KeyDown},
+           {.name = "Label4", .record = frmInitial.Label4.data(), .first = 0, .last = referenceKeys - 1},
+           {.name = "Command1",
+            .record = &frmInitial.Command1,
+            .clicked = frmInitial_Command1_Click,
+            .entered = frmInitial_Command1_GotFocus}})
 {
     auto* const whole = new QVBoxLayout(this);
     QLabel* const welcome = fixedText("Label1", "Welcome to TallyStrata.");
@@ -29,9 +39,8 @@ InitialWindow::InitialWindow(MainWindow& main)
     columns->addStretch(1);
     columns->addWidget(column(referenceKeys / 2));
     whole->addLayout(columns);
-    ok_ = button("Command1", "OK", frmInitial_Command1_Click);
+    ok_ = button("Command1", "OK");
     ok_->setDefault(true);
-    watchVisits(ok_, [] { frmInitial.focus = referenceKeys; }, {});
     whole->addLayout(buttonRow({ok_}));
     whole->setSpacing(10);
     whole->setContentsMargins(20, 16, 20, 16);
@@ -46,12 +55,9 @@ QWidget* InitialWindow::column(int firstBox)
     QLabel* const head = fixedText("Label9", "Key code");
     grid->addWidget(head, 0, 1, Qt::AlignCenter);
     for (int i = firstBox; i < firstBox + referenceKeys / 2; ++i) {
-        labels_[i] = label(indexed("Label4", i), frmInitial.Label4[i].caption);
-        boxes_[i] =
-            new CaptureBox(mainWindow(), {[i](int code) { frmInitial_Text1_KeyDown(i, code); }, {}, {}});
-        boxes_[i]->setObjectName(indexed("Text1", i));
+        labels_[i] = label("Label4", i);
+        boxes_[i] = bind(new CaptureBox, "Text1", i);
         boxes_[i]->setFixedWidth(fontMetrics().horizontalAdvance("0000000000"));
-        watchVisits(boxes_[i], [i] { frmInitial_Text1_GotFocus(i); }, {});
         grid->addWidget(labels_[i], i - firstBox + 1, 0, Qt::AlignRight);
         grid->addWidget(boxes_[i], i - firstBox + 1, 1);
     }
@@ -61,13 +67,8 @@ QWidget* InitialWindow::column(int firstBox)
 void InitialWindow::presentMore()
 {
     const InitialForm& f = frmInitial;
-    for (int i = 0; i < referenceKeys; ++i) {
-        boxes_[i]->setText(shownText(f.Text1[i].text));
-        boxes_[i]->setEnabled(f.Text1[i].enabled);
-        labels_[i]->setEnabled(f.Label4[i].enabled);
+    for (int i = 0; i < referenceKeys; ++i)
         boxes_[i]->setAccessibleName(labels_[i]->text());
-    }
-    ok_->setEnabled(f.Command1.enabled);
     QWidget* const wanted = f.focus < referenceKeys ? static_cast<QWidget*>(boxes_[f.focus]) : ok_;
     if (f.visible && isVisible() && !wanted->hasFocus() && isActiveWindow())
         wanted->setFocus();

@@ -1,8 +1,8 @@
 #include "window/key_input.h"
 
 #include "core/dispatch_key.h"
+#include "core/forms.h"
 #include "core/main_keys.h"
-#include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_window.h"
 #include "extras/diagnose.h"
@@ -46,7 +46,7 @@ void KeyInput::keyboardLost()
 bool KeyInput::isForCounting(const QObject* target) const
 {
     return (target == window_.windowHandle() || target == window_.diagramWindow().windowHandle()) &&
-           frmMain.enabled && QApplication::activePopupWidget() == nullptr &&
+           isMainEnabled() && QApplication::activePopupWidget() == nullptr &&
            QApplication::activeModalWidget() == nullptr;
 }
 

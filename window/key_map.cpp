@@ -1,6 +1,5 @@
 #include "window/key_map.h"
 
-#include "platform/qt/text.h"
 #include "window/fitted_letters.h"
 #include "window/legible_style.h"
 
@@ -59,9 +58,6 @@ void KeyMap::present()
         const QRect place(x(entry.record->left), y(entry.record->top), x(keyBoxWidth), y(keyBoxHeight));
         if (place != entry.box->geometry())
             entry.box->setGeometry(place);
-        if (const QString text = shownText(entry.record->text); text != entry.box->text())
-            entry.box->setText(text);
-        showRed(*entry.box, entry.record->red);
         fitLetters(*entry.box, entry.record->red);
     }
     update();

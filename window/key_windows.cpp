@@ -21,13 +21,50 @@
 
 namespace {
 
-/// A box that only shows.
-QLineEdit* readBox(const QString& name)
+std::vector<ControlRow> keyEditorControls()
 {
-    auto* const box = new QLineEdit;
-    box->setObjectName(name);
-    box->setEnabled(false);
-    return box;
+    KeyCodeForm& f = frmKeyCode;
+    return {{.name = "Text1",
+             .record = f.Text1.data(),
+             .first = 1,
+             .last = keysPerLayer,
+             .entered = frmKeyCode_Text1_GotFocus,
+             .left = frmKeyCode_Text1_LostFocus,
+             .keyDown = frmKeyCode_Text1_KeyDown,
+             .keyPress = frmKeyCode_Text1_KeyPress,
+             .keyUp = frmKeyCode_Text1_KeyUp},
+            {.name = "Text1", .record = f.Text1.data(), .first = keysPerLayer + 1, .last = lastKeyBox},
+            {.name = "Text2", .record = f.Text2.data(), .first = 1, .last = lastKeyBox},
+            {.name = "Text3",
+             .record = f.Text3.data(),
+             .first = 1,
+             .last = keysPerLayer,
+             .edited = frmKeyCode_Text3_Edited,
+             .entered = frmKeyCode_Text3_GotFocus,
+             .left = frmKeyCode_Text3_LostFocus},
+            {.name = "Text3", .record = f.Text3.data(), .first = keysPerLayer + 1, .last = lastKeyBox},
+            {.name = "Text4",
+             .record = f.Text4.data(),
+             .first = 0,
+             .last = 4,
+             .entered = frmKeyCode_Text4_GotFocus,
+             .left = frmKeyCode_Text4_LostFocus,
+             .keyDown = frmKeyCode_Text4_KeyDown,
+             .keyPress = frmKeyCode_Text4_KeyPress,
+             .keyUp = frmKeyCode_Text4_KeyUp},
+            {.name = "Option1",
+             .record = f.Option1.data(),
+             .first = 0,
+             .last = 1,
+             .clicked = frmKeyCode_Option1_Click},
+            {.name = "Label2", .record = &f.Label2},
+            {.name = "Label4", .record = &f.Label4},
+            {.name = "ProgressBar1", .record = &f.ProgressBar1},
+            {.name = "Command1", .clicked = frmKeyCode_Command1_Click},
+            {.name = "Command2", .clicked = frmKeyCode_Command2_Click},
+            {.name = "Command3", .clicked = frmKeyCode_Command3_Click},
+            {.name = "Command4", .clicked = frmKeyCode_Command4_Click},
+            {.name = "Command5", .record = &f.Command5, .clicked = frmKeyCode_Command5_Click}};
 }
 
 /// Of a box that takes a key.
@@ -58,9 +95,9 @@ private:
 } // namespace
 
 KeyCodeWindow::KeyCodeWindow(MainWindow& main)
-    : FormWindow(main, "frmKeyCode", "Key settings", frmKeyCode.visible, frmKeyCode_Command1_Click)
+    : FormWindow(main, "frmKeyCode", "Key settings", keyEditorControls())
 {
-    ok_ = actionButton("Command4", "OK", frmKeyCode_Command4_Click);
+    ok_ = actionButton("Command4", "OK");
     ok_->setDefault(true);
 
     pages_ = new QTabWidget;
@@ -71,25 +108,23 @@ KeyCodeWindow::KeyCodeWindow(MainWindow& main)
     pages_->addTab(numberPage(), "Key number");
     connect(pages_, &QTabWidget::tabBarClicked, ok_, [this] { ok_->setFocus(); });
     connect(pages_, &QTabWidget::currentChanged, this,
-            [this](int page) { mainWindow().onEvent([page] { frmKeyCode_SSTab1_Click(page); }); });
+            [this](int page) { runEvent([page] { frmKeyCode_SSTab1_Click(page); }); });
     setFirst(pages_);
 
-    progress_ = new QProgressBar;
-    progress_->setObjectName("ProgressBar1");
-    progress_->setTextVisible(false);
+    auto* const progress = bind(new QProgressBar, "ProgressBar1");
+    progress->setTextVisible(false);
     auto* const foot = new QHBoxLayout;
     for (const int side : {0, 1}) {
-        auto* const choice = mark<QRadioButton>(indexed("Option1", side), frmKeyCode.Option1[side].selected,
-                                                [side] { frmKeyCode_Option1_Click(side); });
+        auto* const choice = mark<QRadioButton>("Option1", side);
         choice->setText(side == 0 ? "Left handed" : "Right handed");
         foot->addWidget(choice);
     }
-    foot->addWidget(progress_, 1);
+    foot->addWidget(progress, 1);
     foot->addStretch(1);
-    foot->addWidget(actionButton("Command5", "Default", frmKeyCode_Command5_Click, &frmKeyCode.Command5));
-    foot->addWidget(actionButton("Command2", "All clear", frmKeyCode_Command2_Click));
+    foot->addWidget(actionButton("Command5", "Default"));
+    foot->addWidget(actionButton("Command2", "All clear"));
     foot->addWidget(ok_);
-    foot->addWidget(actionButton("Command1", "Cancel", frmKeyCode_Command1_Click));
+    foot->addWidget(actionButton("Command1", "Cancel"));
 
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(pages_);
@@ -99,11 +134,17 @@ KeyCodeWindow::KeyCodeWindow(MainWindow& main)
 }
 
 /// A click on a button leaves the box in visit first, on systems too where buttons do not take the focus.
-QPushButton* KeyCodeWindow::actionButton(const char* name, const char* caption, void (*clicked)(),
-                                         const Button* record)
+QPushButton* KeyCodeWindow::actionButton(const char* name, const char* caption)
 {
-    QPushButton* const made = button(name, caption, clicked, record);
+    QPushButton* const made = button(name, caption);
     connect(made, &QPushButton::pressed, made, [made] { made->setFocus(); });
+    return made;
+}
+
+QLineEdit* KeyCodeWindow::readBox(const char* name, int index)
+{
+    QLineEdit* const made = bind(new QLineEdit, name, index);
+    made->setEnabled(false);
     return made;
 }
 
@@ -123,28 +164,21 @@ QWidget* KeyCodeWindow::definitionPage()
     for (int key = 1; key <= lastKeyBox; ++key) {
         QLineEdit* box = nullptr;
         if (key <= keysPerLayer) {
-            auto* const taking = new CaptureBox(
-                mainWindow(), {[key](int code) { frmKeyCode_Text1_KeyDown(key, code); },
-                               [key](char32_t character) { frmKeyCode_Text1_KeyPress(key, character); },
-                               [key](int code) { frmKeyCode_Text1_KeyUp(key, code); }});
+            auto* const taking = bind(new CaptureBox, "Text1", key);
             tellHowToUse(*taking);
             box = taking;
-            box->setObjectName(indexed("Text1", key));
-            watchVisits(
-                box, [key] { frmKeyCode_Text1_GotFocus(key); }, [key] { frmKeyCode_Text1_LostFocus(key); });
         } else {
-            box = readBox(indexed("Text1", key));
+            box = readBox("Text1", key);
         }
         box->setAccessibleName(QString("Definition of key %1").arg(key));
         map->add(box, frmKeyCode.Text1[key]);
     }
-    characterCode_ = fixedText("Label4", {});
     auto* const page = new QWidget;
     auto* const rows = new QGridLayout(page);
     rows->addWidget(fixedText("Label6", "Place cursor in the text box and press a key of your choice: "), 0,
                     0);
     rows->addWidget(fixedText("Label3", "Ascii code: "), 0, 2);
-    rows->addWidget(characterCode_, 0, 3);
+    rows->addWidget(label("Label4"), 0, 3);
     rows->addWidget(framed("Frame1", "Key definition map", map), 1, 0, 1, 4);
     rows->setColumnStretch(1, 1);
     rows->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("0000"));
@@ -155,7 +189,7 @@ QWidget* KeyCodeWindow::codePage()
 {
     auto* const map = new KeyMap;
     for (int key = 1; key <= lastKeyBox; ++key) {
-        QLineEdit* const box = readBox(indexed("Text2", key));
+        QLineEdit* const box = readBox("Text2", key);
         box->setAccessibleName(QString("Code of key %1").arg(key));
         map->add(box, frmKeyCode.Text2[key]);
     }
@@ -167,7 +201,7 @@ QWidget* KeyCodeWindow::codePage()
     functionRow->setAccessibleName("[F1] key, for the nine function keys from it on");
     rows->addWidget(functionRow, 0, 1);
     rows->addWidget(fixedText("Label1", "Key code: "), 0, 3);
-    rows->addWidget(label("Label2", frmKeyCode.Label2.caption), 0, 4);
+    rows->addWidget(label("Label2"), 0, 4);
     rows->addWidget(framed("Frame2", "Key code map (automatically linked to the definition map)", map), 1, 0,
                     1, 5);
     rows->setColumnStretch(2, 1);
@@ -178,19 +212,11 @@ QWidget* KeyCodeWindow::numberPage()
 {
     auto* const map = new KeyMap;
     for (int position = 1; position <= lastKeyBox; ++position) {
-        const QString name = indexed("Text3", position);
         QLineEdit* box = nullptr;
         if (position <= keysPerLayer) {
-            box = new NumberBox(*ok_);
-            box->setObjectName(name);
-            connect(box, &QLineEdit::textEdited, this, [this, position](const QString& text) {
-                mainWindow().onEvent([&] { frmKeyCode.Text3[position].text = heldText(text); });
-            });
-            watchVisits(
-                box, [position] { frmKeyCode_Text3_GotFocus(position); },
-                [position] { frmKeyCode_Text3_LostFocus(position); });
+            box = bind(new NumberBox(*ok_), "Text3", position);
         } else {
-            box = readBox(name);
+            box = readBox("Text3", position);
         }
         box->setAccessibleName(QString("Key number at position %1").arg(position));
         map->add(box, frmKeyCode.Text3[position]);
@@ -204,17 +230,9 @@ QWidget* KeyCodeWindow::numberPage()
 
 CaptureBox* KeyCodeWindow::functionBox(int function)
 {
-    auto* const box = new CaptureBox(
-        mainWindow(), {[function](int code) { frmKeyCode_Text4_KeyDown(function, code); },
-                       [function](char32_t character) { frmKeyCode_Text4_KeyPress(function, character); },
-                       [function](int code) { frmKeyCode_Text4_KeyUp(function, code); }});
-    box->setObjectName(indexed("Text4", function));
+    auto* const box = bind(new CaptureBox, "Text4", function);
     box->setFixedWidth(fontMetrics().horizontalAdvance("[ScrollLock]") + 16);
-    watchVisits(
-        box, [function] { frmKeyCode_Text4_GotFocus(function); },
-        [function] { frmKeyCode_Text4_LostFocus(function); });
     tellHowToUse(*box);
-    functions_[function] = box;
     return box;
 }
 
@@ -237,8 +255,7 @@ QWidget* KeyCodeWindow::functionKeys()
     }
     grid->setColumnStretch(2, 1);
     grid->setColumnStretch(5, 1);
-    grid->addWidget(actionButton("Command3", "Notice", frmKeyCode_Command3_Click), 0, 6, 2, 1,
-                    Qt::AlignVCenter);
+    grid->addWidget(actionButton("Command3", "Notice"), 0, 6, 2, 1, Qt::AlignVCenter);
     return frame;
 }
 
@@ -246,18 +263,8 @@ void KeyCodeWindow::presentMore()
 {
     for (KeyMap* const map : maps_)
         map->present();
-    for (int function = 0; function < 5; ++function) {
-        const KeyBox& record = frmKeyCode.Text4[function];
-        functions_[function]->setText(shownText(record.text));
-        showRed(*functions_[function], record.red);
-    }
-    characterCode_->setText(shownText(frmKeyCode.Label4.caption));
     const QSignalBlocker quiet(pages_);
     pages_->setCurrentIndex(frmKeyCode.SSTab1);
-    const ProgressBar& bar = frmKeyCode.ProgressBar1;
-    progress_->setVisible(bar.visible);
-    progress_->setMaximum(bar.max);
-    progress_->setValue(bar.value);
 }
 
 /// On the window or a frame: the box in visit is left.
@@ -267,7 +274,8 @@ void KeyCodeWindow::mousePressEvent(QMouseEvent*)
 }
 
 KeyNoteWindow::KeyNoteWindow(MainWindow& main)
-    : FormWindow(main, "frmNote", "Message from TallyStrata", frmNote.visible, frmNote_Command1_Click)
+    : FormWindow(main, "frmNote", "Message from TallyStrata",
+                 {{.name = "Command1", .clicked = frmNote_Command1_Click}})
 {
     auto* const whole = new QVBoxLayout(this);
     QLabel* const heading = fixedText("Label1", "Useful information:");
@@ -278,7 +286,7 @@ KeyNoteWindow::KeyNoteWindow(MainWindow& main)
     int number = 2;
     for (const char* const paragraph : keyNoteParagraphs)
         whole->addWidget(fixedText(QString("Label%1").arg(number++), shownText(paragraph).trimmed()));
-    QPushButton* const ok = button("Command1", "OK", frmNote_Command1_Click);
+    QPushButton* const ok = button("Command1", "OK");
     ok->setDefault(true);
     setFirst(ok);
     whole->addLayout(buttonRow({ok}));

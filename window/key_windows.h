@@ -4,8 +4,6 @@
 
 class CaptureBox;
 class KeyMap;
-class QLabel;
-class QProgressBar;
 class QTabWidget;
 
 /// frmKeyCode.
@@ -24,14 +22,12 @@ private:
     QWidget* functionKeys();
     CaptureBox* functionBox(int function);
     QWidget* framed(const char* name, const char* title, KeyMap* map);
-    QPushButton* actionButton(const char* name, const char* caption, void (*clicked)(),
-                              const Button* record = nullptr);
+    QPushButton* actionButton(const char* name, const char* caption);
+    /// A box that only shows.
+    QLineEdit* readBox(const char* name, int index);
 
     QTabWidget* pages_;
     QList<KeyMap*> maps_;
-    std::array<CaptureBox*, 5> functions_{};
-    QLabel* characterCode_ = nullptr;
-    QProgressBar* progress_;
     QPushButton* ok_;
 };
 

@@ -8,18 +8,9 @@
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
-#include "window/about_windows.h"
 #include "window/bring_forward.h"
-#include "window/diagnose_window.h"
 #include "window/diagram_window.h"
-#include "window/find_window.h"
-#include "window/initial_window.h"
-#include "window/key_windows.h"
 #include "window/manual_window.h"
-#include "window/picture_window.h"
-#include "window/sample_windows.h"
-#include "window/subtotal_window.h"
-#include "window/summary_window.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 
@@ -72,7 +63,7 @@ void keepDisabledTextsLegible(QWidget& widget)
 
 } // namespace
 
-MainWindow::MainWindow()
+MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
 {
     setObjectName("frmMain");
     setMinimumSize(designSize * 0.65);
@@ -112,13 +103,7 @@ MainWindow::MainWindow()
     scaleFont();
     plainColours_ = surface->palette();
 
-    forms_ = {new SiteNameWindow(*this), new NextWindow(*this),     new ParameterNameWindow(*this),
-              new SubtotalWindow(*this), new SummaryWindow(*this),  new FindWindow(*this),
-              new PictureWindow(*this),  new AboutAppWindow(*this), new AboutKeypadWindow(*this),
-              new DiagnoseWindow(*this), new InitialWindow(*this),  new KeyCodeWindow(*this),
-              new KeyNoteWindow(*this)};
     diagram_ = std::make_unique<DiagramWindow>(*this);
-    manual_ = std::make_unique<ManualWindow>(*this);
     takeCtrlLetters();
 
     // The user moves the focus with Tab among the buttons; the record follows.
@@ -141,11 +126,11 @@ void MainWindow::beginEvent()
 /// Modify template mode the boxes are edited.
 bool MainWindow::eventFilter(QObject* target, QEvent* event)
 {
-    const QString name = target->objectName();
-    const bool isCell = name.startsWith("Text1(") || name.startsWith("Text2(");
+    const Control control = controlOf(target);
+    const bool isCell = control.kind != nullptr && control.kind->hovered != nullptr;
     switch (event->type()) {
     case QEvent::MouseMove:
-        onEvent(isCell ? Text1_MouseMove : Form_MouseMove);
+        onEvent(isCell ? control.kind->hovered : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
@@ -270,15 +255,7 @@ void MainWindow::present()
 {
     // A box that is disabled passes the focus on, which is not the user's doing.
     const MainFocus wanted = frmMain.focus;
-    showAll(lines_);
-    showAll(notes_);
-    showAll(labels_);
-    showAll(buttons_);
-    showAll(options_);
-    showAll(actions_);
-    showAll(bars_);
-    showAll(combos_);
-    showAll(logs_);
+    showControls();
     presentNames();
     for (TaxonPage* const page : pages_) {
         page->placeCells();
@@ -298,10 +275,7 @@ void MainWindow::present()
     presentFocusAndPointer();
     if (isVisible() != frmMain.visible)
         setVisible(frmMain.visible);
-    for (FormWindow* const form : forms_)
-        form->present();
-    diagram_->present();
-    manual_->present();
+    presentForms();
     if (frmMain.forwardRevision != forwardShown_) {
         forwardShown_ = frmMain.forwardRevision;
         bringForward(*this);

@@ -2,7 +2,7 @@
 
 #include "core/user_event.h"
 #include "files/recovery.h"
-#include "window/bindings.h"
+#include "window/bound_window.h"
 
 #include <QMainWindow>
 #include <QPalette>
@@ -10,8 +10,8 @@
 #include <functional>
 #include <memory>
 
-struct MainMenuEntry;
 class DiagramWindow;
+struct Form;
 class FormWindow;
 class ManualWindow;
 class QHelpEvent;
@@ -21,9 +21,12 @@ class QTabWidget;
 class SurfaceView;
 class TaxonPage;
 
+/// The controls of frmMain.
+std::vector<ControlRow> mainControls();
+
 /// The widgets of frmMain. They show the record and turn what the user does into handler calls; they decide
 /// nothing. Each widget's object name is its control's name with its index, as in "Text2(12)".
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, public BoundWindow {
 public:
     MainWindow();
     ~MainWindow() override;
@@ -66,17 +69,12 @@ private:
     QWidget* notePanel();
     QWidget* historyPanel();
     QWidget* curvePanel();
-    QLabel* boundLabel(const QString& name, const Label& record, QLabel* label = nullptr);
-    /// The user's edits of the box bound last reach `edited`.
-    void listen(void (*edited)(int, std::string_view, int), int index);
-    QLineEdit* boundBox(const QString& name, const TextBox& record);
-    QAbstractButton* boundButton(const QString& name, const Button& record, const QString& caption,
-                                 std::function<void()> clicked);
-    QComboBox* boundCombo(const QString& name, const QString& accessibleName, const ComboBox& record);
+    QLineEdit* readBox(const char* name, int index = noIndex);
+    QAbstractButton* toolButton(const char* name, const QString& caption, int index = noIndex);
+    QComboBox* nameList(const char* name, const QString& accessibleName);
 
     // main_window_menus.cpp
     void makeMenus();
-    void addEntry(QMenu& menu, const MainMenuEntry& entry);
     void makeRowMenu();
     void takeCtrlLetters();
 
@@ -99,29 +97,28 @@ private:
     std::array<QLineEdit*, 3> sums_{};
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QPlainTextEdit* location_ = nullptr;  ///< Text6
-    QMenu* rowMenu_ = nullptr;            ///< mnuRightButton
+    QList<QLineEdit*> editedBoxes_;       ///< of the sample: its name and additional info
     QLineEdit* enteredByMouse_ = nullptr; ///< a box that is selected when the button comes up
     std::array<QLabel*, 3> hundredMarks_{};
     QAbstractButton* percent_ = nullptr; ///< Command6
     QComboBox* samples_ = nullptr;       ///< Combo2
     SurfaceView* curve_ = nullptr;       ///< Picture2
-    QMenu* curveMenu_ = nullptr;         ///< mnuDiversityRB
     bool modifyingShown_ = false;
     QPalette plainColours_; ///< of the sheet outside Modify template mode
 
-    QList<LineBinding> lines_;
-    QList<NoteBinding> notes_;
-    QList<LabelBinding> labels_;
-    QList<ButtonBinding> buttons_;
-    QList<OptionBinding> options_;
-    QList<ActionBinding> actions_;
-    QList<BarBinding> bars_;
-    QList<ComboBinding> combos_;
-    QList<LogBinding> logs_;
+    struct SmallWindow { ///< above this one
+        SmallWindow(const char* name, FormWindow* (*maker)(MainWindow&));
+        const Form& form;
+        FormWindow* (*make)(MainWindow&);
+        FormWindow* window = nullptr; ///< built when it is opened for the first time
+    };
+    static std::vector<SmallWindow> smallWindows();
+    void presentForms();
+
     std::array<std::string, taxonSlots + 1> namesShown_;
     std::unique_ptr<DiagramWindow> diagram_;
     std::unique_ptr<ManualWindow> manual_;
     int forwardShown_ = 0;
-    QList<FormWindow*> forms_; ///< the small windows above this one
+    std::vector<SmallWindow> smallWindows_ = smallWindows();
     Pointer pointerShown_ = Pointer::arrow;
 };

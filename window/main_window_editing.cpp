@@ -1,12 +1,9 @@
 // Modify template mode in the main window: what makes its boxes editable, and what the mouse and the focus do
 // on them.
 
-#include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "sheet/focus_and_pointer.h"
-#include "sheet/live_curve.h"
-#include "sheet/modify_mode.h"
 #include "sheet/percent_view.h"
 #include "window/main_window.h"
 #include "window/menu_key.h"
@@ -15,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
@@ -23,21 +21,6 @@
 #include <QTabWidget>
 
 namespace {
-
-/// The control that a widget stands for, as in "Text2(12)".
-struct Control {
-    QString name;
-    int index = 0;
-};
-
-Control controlOf(const QWidget* widget)
-{
-    const QString name = widget->objectName();
-    const qsizetype bracket = name.indexOf('(');
-    if (bracket < 0)
-        return {name == "Text4.text" ? "Text4" : name};
-    return {name.left(bracket), name.mid(bracket + 1).chopped(1).toInt()};
-}
 
 void makeEditable(QLineEdit* box, bool editable)
 {
@@ -48,7 +31,7 @@ void makeEditable(QLineEdit* box, bool editable)
 }
 
 /// What stands in the box of a row without a taxon, and of a sheet without a sample.
-bool isNoName(const std::string& name)
+bool isNoName(const QString& name)
 {
     return name == "---" || name == "-9999";
 }
@@ -67,29 +50,17 @@ QPalette modifyColours(QPalette colours, Colour sheet)
 /// True if the press goes no further.
 bool MainWindow::boxPressed(QWidget* box, const QMouseEvent& press)
 {
-    const auto [name, index] = controlOf(box);
+    const auto [kind, index] = controlOf(box);
     const bool right = press.button() == Qt::RightButton;
     bool menuOpens = false;
-    onEvent([&, name = name, index = index] {
-        if (name == "Label1")
-            menuOpens = Label1_Click(index);
-        else if (name == "Text1")
-            menuOpens = Text1_MouseDown(index, right);
-        else if (name == "Text2")
-            menuOpens = Text2_MouseDown(index, right);
-        else if (name == "Label10")
-            Label10_Click(index);
-        else if (box == percent_ && press.button() == Qt::LeftButton)
-            Command6_MouseDown();
-        else if (box == curve_ && right)
-            mnuDiversityRB_Open();
+    onEvent([&, row = kind, place = index] {
+        if (row != nullptr && row->pressed != nullptr)
+            menuOpens = row->pressed(place, right);
         else if (qobject_cast<QAbstractButton*>(box) == nullptr)
             giveFocusBack();
     });
-    if (box == curve_ && right)
-        curveMenu_->popup(press.globalPosition().toPoint());
     if (menuOpens)
-        rowMenu_->popup(press.globalPosition().toPoint());
+        menuNamed(kind->menu)->popup(press.globalPosition().toPoint());
     return menuOpens;
 }
 
@@ -97,8 +68,8 @@ bool MainWindow::boxPressed(QWidget* box, const QMouseEvent& press)
 bool MainWindow::keyOnControl(QWidget* control, const QEvent& event)
 {
     if (asksForMenu(event)) {
-        const QString name = controlOf(control).name;
-        if (control != curve_ && name != "Text1" && name != "Text2")
+        const ControlRow* const kind = controlOf(control).kind;
+        if (kind == nullptr || kind->menu == nullptr || qobject_cast<QLabel*>(control) != nullptr)
             return false;
         const QPoint middle = control->rect().center();
         return boxPressed(control, QMouseEvent(QEvent::MouseButtonPress, middle, control->mapToGlobal(middle),
@@ -114,34 +85,24 @@ bool MainWindow::keyOnControl(QWidget* control, const QEvent& event)
 
 void MainWindow::boxDoubleClicked(const QWidget* box)
 {
-    const QString name = controlOf(box).name;
-    if (name == "Text1")
-        onEvent(Text1_DblClick);
-    else if (name == "Text2")
-        onEvent(Text2_DblClick);
-    else if (name == "Text4")
-        onEvent(Text4_DblClick);
+    if (const ControlRow* const kind = controlOf(box).kind; kind != nullptr && kind->doubleClicked != nullptr)
+        onEvent(kind->doubleClicked);
 }
 
 void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)
 {
     if (!sheet.Modifying || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
         return;
-    const auto [name, index] = controlOf(box);
-    onEvent([&, name = name, index = index] {
-        if (name == "Text1")
-            Text1_GotFocus(index);
-        else if (name == "Text2")
-            Text2_GotFocus(index);
-        else if (name == "Text4")
-            Text4_GotFocus();
-        else if (name == "Text5")
-            Text5_GotFocus(index);
+    const auto [kind, index] = controlOf(box);
+    onEvent([&, row = kind, place = index] {
+        if (row != nullptr)
+            row->entered(place);
     });
+    auto* const line = qobject_cast<QLineEdit*>(box);
     // Typing replaces a count, and what stands for a name. Tab selects by itself; of a click, the press would
     // take the selection away.
-    const bool replaced = name == "Text2" || (name == "Text1" && isNoName(frmMain.Text1[index].text));
-    enteredByMouse_ = replaced && reason == Qt::MouseFocusReason ? static_cast<QLineEdit*>(box) : nullptr;
+    const bool replaced = kind != nullptr && line != nullptr && (kind->isNumber || isNoName(line->text()));
+    enteredByMouse_ = replaced && reason == Qt::MouseFocusReason ? line : nullptr;
 }
 
 void MainWindow::presentMode()
@@ -159,11 +120,8 @@ void MainWindow::presentMode()
     tabs_->tabBar()->setPalette(tabs);
     for (TaxonPage* const page : pages_)
         page->makeEditable(on);
-    for (const LineBinding& line : lines_) {
-        const Control control = controlOf(line.widget);
-        if (control.name == "Text5" || (control.name == "Text1" && control.index == 0))
-            makeEditable(line.widget, on);
-    }
+    for (QLineEdit* const box : editedBoxes_)
+        makeEditable(box, on);
     makeEditable(samples_->lineEdit(), on);
     samples_->setFocusPolicy(on ? Qt::StrongFocus : Qt::TabFocus);
     QPalette path = colours; // stands on the window itself

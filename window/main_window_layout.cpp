@@ -1,23 +1,14 @@
 // What stands where in the main window.
 
-#include "core/editing.h"
-#include "core/endings.h"
 #include "core/main_screen.h"
-#include "files/next_sample.h"
-#include "files/open_sheet.h"
-#include "files/rename_info.h"
-#include "files/save_sheet.h"
 #include "platform/qt/text.h"
-#include "sheet/basis.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/live_curve.h"
-#include "sheet/modify_mode.h"
-#include "sheet/name_display.h"
-#include "sheet/sample_choice.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
+#include "window/text_area.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -41,17 +32,15 @@ QLabel* fixedLabel(const char* name, const QString& text)
     return label;
 }
 
-QPlainTextEdit* textArea(const char* name, const QString& accessibleName)
+QPlainTextEdit* textArea(const QString& accessibleName)
 {
-    auto* const area = new QPlainTextEdit;
-    area->setObjectName(name);
+    auto* const area = new TextArea;
     area->setAccessibleName(accessibleName);
     area->setReadOnly(true);
     area->setUndoRedoEnabled(false);
     area->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard); // shows a caret
     area->setTabChangesFocus(true);
     area->setFocusPolicy(Qt::TabFocus);
-    area->viewport()->setObjectName(QString(name) + ".text");
     return area;
 }
 
@@ -76,16 +65,6 @@ QPixmap bellPicture(qreal devicePixelRatio)
     return picture;
 }
 
-void modify()
-{
-    Command3_Click(0);
-}
-
-void resume()
-{
-    Command3_Click(1);
-}
-
 template <class Layout>
 QWidget* panel(Layout* layout)
 {
@@ -97,52 +76,25 @@ QWidget* panel(Layout* layout)
 
 } // namespace
 
-QLabel* MainWindow::boundLabel(const QString& name, const Label& record, QLabel* label)
+QLineEdit* MainWindow::readBox(const char* name, int index)
 {
-    if (label == nullptr)
-        label = new QLabel;
-    label->setObjectName(name);
-    labels_.append({label, &record});
-    return label;
-}
-
-QLineEdit* MainWindow::boundBox(const QString& name, const TextBox& record)
-{
-    auto* const box = new QLineEdit;
-    box->setObjectName(name);
+    QLineEdit* const box = bind(new QLineEdit, name, index);
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
-    lines_.append({box, &record});
     return box;
 }
 
-void MainWindow::listen(void (*edited)(int, std::string_view, int), int index)
+QAbstractButton* MainWindow::toolButton(const char* name, const QString& caption, int index)
 {
-    const qsizetype at = lines_.size() - 1;
-    connect(lines_[at].widget, &QLineEdit::textEdited, this, [this, edited, index, at] {
-        const TypedText typed = typedInto(lines_[at]);
-        onEvent([&] { edited(index, typed.text, typed.caret); });
-        if (edited == Text2_Edited && lines_[at].record->text != typed.text)
-            lines_[at].widget->selectAll(); // a number was refused: typing replaces the one that came back
-    });
-}
-
-QAbstractButton* MainWindow::boundButton(const QString& name, const Button& record, const QString& caption,
-                                         std::function<void()> clicked)
-{
-    auto* const button = new QToolButton;
+    QToolButton* const button = bind(new QToolButton, name, index);
     button->setText(caption);
-    button->setObjectName(name);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the keys count
-    connect(button, &QToolButton::clicked, this, [this, clicked = std::move(clicked)] { onEvent(clicked); });
-    buttons_.append({button, &record});
     return button;
 }
 
-QComboBox* MainWindow::boundCombo(const QString& name, const QString& accessibleName, const ComboBox& record)
+QComboBox* MainWindow::nameList(const char* name, const QString& accessibleName)
 {
     auto* const combo = new QComboBox;
-    combo->setObjectName(name);
     combo->setAccessibleName(accessibleName);
     combo->setEditable(true); // its text need not be one of its items
     combo->lineEdit()->setReadOnly(true);
@@ -152,25 +104,18 @@ QComboBox* MainWindow::boundCombo(const QString& name, const QString& accessible
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // never measures its list
     combo->setMinimumContentsLength(12);
     combo->setCompleter(nullptr);
-    combos_.append({combo, &record});
-    return combo;
+    return bind(combo, name);
 }
 
 QWidget* MainWindow::sampleStrip()
 {
     auto* const row = new QHBoxLayout;
-    row->addWidget(boundLabel("Label1(0)", frmMain.Label1[0]));
-    QLineEdit* const name = boundBox("Text1(0)", frmMain.Text1[0]);
-    listen(Text1_Edited, 0);
+    row->addWidget(bind(new QLabel, "Label1", 0));
+    QLineEdit* const name = readBox("Text1", 0);
+    editedBoxes_ += name;
     name->setAccessibleName("Sample name");
     row->addWidget(name, 2);
-    QComboBox* const samples = boundCombo("Combo2", "Choose a sample", frmMain.Combo2);
-    connect(samples, &QComboBox::activated, this,
-            [this](int index) { onEvent([&] { Combo2_Click(std::string(frmMain.Combo2.items[index])); }); });
-    connect(samples->lineEdit(), &QLineEdit::textEdited, this, [this, samples](const QString& text) {
-        const auto caret = heldText(text.left(samples->lineEdit()->cursorPosition())).size();
-        onEvent([&] { Combo2_Change(heldText(text), static_cast<int>(caret)); });
-    });
+    QComboBox* const samples = nameList("Combo2", "Choose a sample");
     // Leaving the box, or Enter in it, is no pick.
     samples->lineEdit()->disconnect(SIGNAL(editingFinished()), samples);
     samples->lineEdit()->disconnect(SIGNAL(returnPressed()), samples);
@@ -178,19 +123,19 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(samples, 2);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label3", "Serial No.:"));
-    QLabel* const serial = boundLabel("Label4", frmMain.Label4);
+    QLabel* const serial = bind(new QLabel, "Label4");
     serial->setMinimumWidth(serial->fontMetrics().horizontalAdvance("888/888")); // nothing moves with it
     row->addWidget(serial);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
-    row->addWidget(boundButton("Command9", frmMain.Command9, "Go", Command9_Click));
+    row->addWidget(toolButton("Command9", "Go"));
     row->addStretch(1);
-    row->addWidget(boundButton("Command4(0)", frmMain.Command4[0], "Open", mnuOpen_Click));
-    row->addWidget(boundButton("Command5(0)", frmMain.Command5[0], "Save", mnuSave_Click));
-    row->addWidget(boundButton("Command5(1)", frmMain.Command5[1], "Next sample", mnuNext_Click));
-    row->addWidget(boundButton("Command3(0)", frmMain.Command3[0], "Modify", modify));
-    row->addWidget(boundButton("Command3(1)", frmMain.Command3[1], "Resume", resume));
-    row->addWidget(boundButton("Command2(0)", frmMain.Command2[0], "Reset", AbortCount));
+    row->addWidget(toolButton("Command4", "Open", 0));
+    row->addWidget(toolButton("Command5", "Save", 0));
+    row->addWidget(toolButton("Command5", "Next sample", 1));
+    row->addWidget(toolButton("Command3", "Modify", 0));
+    row->addWidget(toolButton("Command3", "Resume", 1));
+    row->addWidget(toolButton("Command2", "Reset", 0));
     return panel(row);
 }
 
@@ -214,14 +159,9 @@ QWidget* MainWindow::sheetPages()
         page->setObjectName(indexed("Frame1", layer));
         page->setAccessibleName(captions[layer]);
         for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
-            page->nameBox(slot)->setObjectName(indexed("Text1", slot));
-            page->countBox(slot)->setObjectName(indexed("Text2", slot));
-            page->indexLabel(slot)->setObjectName(indexed("Label1", slot));
-            lines_.append({page->nameBox(slot), &frmMain.Text1[slot]});
-            listen(Text1_Edited, slot);
-            lines_.append({page->countBox(slot), &frmMain.Text2[slot]});
-            listen(Text2_Edited, slot);
-            labels_.append({page->indexLabel(slot), &frmMain.Label1[slot]});
+            bind(page->nameBox(slot), "Text1", slot);
+            bind(page->countBox(slot), "Text2", slot);
+            bind(page->indexLabel(slot), "Label1", slot);
         }
         tabs_->addTab(page, captions[layer]);
     }
@@ -234,9 +174,9 @@ QWidget* MainWindow::sumStrip()
     row->setSpacing(4);
     const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
     for (int total = 0; total < 3; ++total) {
-        row->addWidget(boundLabel(indexed("Label2", total), frmMain.Label2[total],
-                                  total == 0 ? nullptr : new ElidedLabel)); // groups are named by the user
-        QLineEdit* const sum = sums_[total] = boundBox(indexed("Text3", total), frmMain.Text3[total]);
+        QLabel* const caption = total == 0 ? new QLabel : new ElidedLabel; // groups are named by the user
+        row->addWidget(bind(caption, "Label2", total));
+        QLineEdit* const sum = sums_[total] = readBox("Text3", total);
         sum->setAccessibleName(names[total]);
         sum->setAlignment(Qt::AlignRight);
         sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
@@ -255,20 +195,16 @@ QWidget* MainWindow::sumStrip()
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
     for (int total = 0; total < 3; ++total) {
-        auto* const option = new QRadioButton("Set alarm");
-        option->setObjectName(indexed("Option1", total));
+        auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
         option->setAccessibleName(QString("Set alarm on ") + names[total]);
         option->setFocusPolicy(Qt::TabFocus);
-        connect(option, &QRadioButton::clicked, this,
-                [this, total] { onEvent([&] { selectBasis(total); }); });
-        options_.append({option, &frmMain.Option1[total]});
         row->insertWidget(4 * total + 3, option);
     }
-    percent_ = boundButton("Command6", frmMain.Command6, "%", [] {}); // works while it is held: boxPressed()
+    percent_ = toolButton("Command6", "%");
     percent_->setAccessibleName("Show percentages while held down");
     percent_->setToolTip("Percentages while held down, by the mouse or the space bar");
     row->addWidget(percent_);
-    row->addWidget(boundButton("Command8", frmMain.Command8, "Alignment", Command8_Click));
+    row->addWidget(toolButton("Command8", "Alignment"));
     return panel(row);
 }
 
@@ -277,18 +213,17 @@ QWidget* MainWindow::infoPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     for (int item = 1; item <= infoItems; ++item) {
-        QLabel* const caption = boundLabel(indexed("Label10", item), frmMain.Label10[item], new ElidedLabel);
+        auto* const caption = bind(new ElidedLabel, "Label10", item);
         QSizePolicy size = caption->sizePolicy();
         size.setRetainSizeWhenHidden(true); // the boxes stay where they are when counting goes on
         caption->setSizePolicy(size);
         grid->addWidget(caption, item, 0);
-        QLineEdit* const box = boundBox(indexed("Text5", item), frmMain.Text5[item]);
-        listen(Text5_Edited, item);
+        QLineEdit* const box = readBox("Text5", item);
+        editedBoxes_ += box;
         box->setAccessibleName(QString("Additional info %1").arg(item));
         box->setMinimumWidth(72);
         grid->addWidget(box, item, 1);
-        QAbstractButton* const rename = boundButton(indexed("Command7", item), frmMain.Command7[item],
-                                                    "Rename", [item] { Command7_Click(item); });
+        QAbstractButton* const rename = toolButton("Command7", "Rename", item);
         rename->setAccessibleName(QString("Rename additional info %1").arg(item));
         grid->addWidget(rename, item, 2);
     }
@@ -302,21 +237,13 @@ QWidget* MainWindow::notePanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     grid->addWidget(fixedLabel("Label7(0)", "Note:"), 0, 0, 1, 2);
-    QPlainTextEdit* const note = textArea("Text4", "Note of the sample");
-    notes_.append({note, &frmMain.Text4});
-    connect(note, &QPlainTextEdit::textChanged, this, [this, at = notes_.size() - 1] {
-        onEvent([&] {
-            const TypedText typed = typedInto(notes_[at]);
-            Text4_Edited(typed.text, typed.caret);
-        });
-    });
-    note_ = note;
-    grid->addWidget(note, 1, 0, 1, 2);
+    note_ = bind(textArea("Note of the sample"), "Text4");
+    grid->addWidget(note_, 1, 0, 1, 2);
     const char* const captions[] = {"Sheet created:", "Count start:", "Last saved: "};
     const char* const names[] = {"Label11", "Label12", "Label13"};
     for (int date = 0; date < 3; ++date) {
         grid->addWidget(fixedLabel(names[date], captions[date]), 2 + date, 0);
-        QLabel* const stamp = boundLabel(indexed("Label14", date), frmMain.Label14[date]);
+        QLabel* const stamp = bind(new QLabel, "Label14", date);
         stamp->setMinimumWidth(stamp->fontMetrics().horizontalAdvance("88/88/8888 (88:88:88)"));
         grid->addWidget(stamp, 2 + date, 1);
     }
@@ -330,13 +257,9 @@ QWidget* MainWindow::historyPanel()
     auto* const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     grid->addWidget(fixedLabel("Label7(1)", "History:"), 0, 0, 1, 2);
-    QPlainTextEdit* const history = textArea("Text7", "History of all actions");
-    logs_.append({history, &frmMain.Text7});
-    grid->addWidget(history, 1, 0, 1, 2);
+    grid->addWidget(bind(textArea("History of all actions"), "Text7"), 1, 0, 1, 2);
     grid->addWidget(fixedLabel("Label5", "Latest:"), 2, 0);
-    QComboBox* const latest = boundCombo("Combo1", "Latest action", frmMain.Combo1);
-    connect(latest, &QComboBox::activated, this, [this] { onEvent(giveFocusBack); });
-    grid->addWidget(latest, 2, 1);
+    grid->addWidget(nameList("Combo1", "Latest action"), 2, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
     return panel(grid);
@@ -352,8 +275,7 @@ QWidget* MainWindow::curvePanel()
     grid->addWidget(axis, 0, 1);
     auto* const frame = new QFrame;
     frame->setFrameShape(QFrame::StyledPanel);
-    curve_ = new SurfaceView(frmMain.Picture2, Picture2_Resize);
-    curve_->setObjectName("Picture2");
+    curve_ = bind(new SurfaceView(frmMain.Picture2, Picture2_Resize), "Picture2");
     curve_->setAccessibleName("Taxa diversity vs. total count");
     curve_->setToolTip("Taxa diversity vs. total count");
     curve_->setFocusPolicy(Qt::TabFocus);
@@ -361,17 +283,13 @@ QWidget* MainWindow::curvePanel()
     inside->setContentsMargins(1, 1, 1, 1);
     inside->addWidget(curve_);
     grid->addWidget(frame, 1, 0, 1, 2);
-    location_ = textArea("Text6", "File location");
+    location_ = bind(textArea("File location"), "Text6");
     location_->setFrameShape(QFrame::NoFrame);
     location_->viewport()->setAutoFillBackground(false);
     location_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     location_->document()->setDocumentMargin(0); // whole lines, see scaleFont()
-    notes_.append({location_, &frmMain.Text6});
     grid->addWidget(location_, 2, 0, 1, 2);
-    auto* const progress = new QProgressBar;
-    progress->setObjectName("ProgressBar1");
-    bars_.append({progress, &frmMain.ProgressBar1});
-    grid->addWidget(progress, 3, 0, 1, 2);
+    grid->addWidget(bind(new QProgressBar, "ProgressBar1"), 3, 0, 1, 2);
     grid->setRowStretch(1, 1);
     return panel(grid);
 }

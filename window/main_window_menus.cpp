@@ -28,165 +28,93 @@
 #include "window/main_window.h"
 
 #include <QAction>
-#include <QMap>
 #include <QMenu>
 #include <QMenuBar>
 
-struct MainMenuEntry {
-    const char* menu; ///< name of the menu it stands in; see `menus`
-    const char* name; ///< nullptr: a line between entries
-    const char* caption;
-    MenuEntry* record = nullptr; ///< entries without one are always enabled
-    void (*handler)() = nullptr;
-    bool checkable = false;
-};
-
 namespace {
 
-struct Menu {
-    const char* name;
-    const char* caption;
-    const char* parent; ///< nullptr: stands in the bar
+const std::vector<MenuRow> menus = {
+    {"mnuFile", "&File", nullptr},        {"mnuPercent", "Save percentage table", "mnuFile"},
+    {"mnuEdit", "&Edit", nullptr},        {"mnuDiagram", "&Diagram", nullptr},
+    {"mnuTools", "&Tools", nullptr},      {"mnuView", "&View", nullptr},
+    {"mnuFont", "Font size", "mnuView"},  {"mnuAlignment", "Alignment", "mnuView"},
+    {"mnuHelp", "&Help", nullptr},        {"mnuTired", "Are you tired?", "mnuHelp"},
+    {"mnuDiversityRB", nullptr, nullptr},
 };
 
-constexpr Menu menus[] = {
-    {"mnuFile", "&File", nullptr},       {"mnuPercent", "Save percentage table", "mnuFile"},
-    {"mnuEdit", "&Edit", nullptr},       {"mnuDiagram", "&Diagram", nullptr},
-    {"mnuTools", "&Tools", nullptr},     {"mnuView", "&View", nullptr},
-    {"mnuFont", "Font size", "mnuView"}, {"mnuAlignment", "Alignment", "mnuView"},
-    {"mnuHelp", "&Help", nullptr},       {"mnuTired", "Are you tired?", "mnuHelp"},
-};
-
-void undo()
-{
-    Undo();
-    giveFocusBack();
-}
-
-template <int points>
-void fontSize()
-{
-    mnuFontSize_Click(points);
-}
-
-template <int side>
-void align()
-{
-    mnuAlign_Click(side);
-}
-
-QList<MainMenuEntry> entries()
+std::vector<EntryRow> entryTable()
 {
     MainScreen& f = frmMain;
     return {
         {"mnuFile", "mnuNew", "New", &f.mnuNew, mnuNew_Click},
         {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen, mnuOpen_Click},
-        {"mnuFile", nullptr, nullptr},
+        {"mnuFile"},
         {"mnuFile", "mnuSave", "Save", &f.mnuSave, mnuSave_Click},
         {"mnuFile", "mnuSaveAs", "Save as...", &f.mnuSaveAs, mnuSaveAs_Click},
         {"mnuFile", "mnuSaveCopy", "Save copy...", &f.mnuSaveCopy, mnuSaveCopy_Click},
         {"mnuFile", "mnuTemplate", "Create template", nullptr, mnuTemplate_Click},
-        {"mnuFile", nullptr, nullptr},
+        {"mnuFile"},
         {"mnuFile", "mnuNext", "Next sample", &f.mnuNext, mnuNext_Click},
-        {"mnuFile", nullptr, nullptr},
+        {"mnuFile"},
         {"mnuFile", "mnuSaveHistory", "Save history", &f.mnuSaveHistory, mnuSaveHistory_Click},
         {"mnuFile", "mnuSaveSaturation", "Save Saturation curve", nullptr, mnuSaveSaturation_Click},
         {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll, mnuPercentAll_Click},
         {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1, mnuPercentSub1_Click},
         {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2, mnuPercentSub2_Click},
-        {"mnuFile", nullptr, nullptr},
+        {"mnuFile"},
         {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 
-        {"mnuEdit", "mnuUndo", "Undo", &f.mnuUndo, undo},
+        {"mnuEdit", "mnuUndo", "Undo", &f.mnuUndo, mnuUndo_Click},
         {"mnuEdit", "mnuReset", "Reset", &f.mnuReset, AbortCount},
-        {"mnuEdit", nullptr, nullptr},
+        {"mnuEdit"},
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
-        {"mnuEdit", nullptr, nullptr},
+        {"mnuEdit"},
         {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 
         {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar, mnuBar_Click},
         {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea, mnuArea_Click},
         {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, mnuDot_Click},
-        {"mnuDiagram", nullptr, nullptr},
+        {"mnuDiagram"},
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
         {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},
         {"mnuTools", "mnuSubtotal", "Subtotal settings", nullptr, mnuSubtotal_Click},
-        {"mnuTools", nullptr, nullptr},
+        {"mnuTools"},
         {"mnuTools", "mnuSummary", "Summary", nullptr, LaunchSummary},
         {"mnuTools", "mnuDiagnose", "Diagnose", nullptr, mnuDiagnose_Click},
 
         {"mnuView", "mnuItalic", "Italics", &f.mnuItalic, mnuItalic_Click, true},
-        {"mnuFont", "mnuFontSize(6)", "6", &f.mnuFontSize[6], fontSize<6>, true},
-        {"mnuFont", "mnuFontSize(7)", "7", &f.mnuFontSize[7], fontSize<7>, true},
-        {"mnuFont", "mnuFontSize(8)", "8", &f.mnuFontSize[8], fontSize<8>, true},
-        {"mnuFont", "mnuFontSize(9)", "9", &f.mnuFontSize[9], fontSize<9>, true},
-        {"mnuFont", "mnuFontSize(10)", "10", &f.mnuFontSize[10], fontSize<10>, true},
-        {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], align<0>, true},
-        {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], align<1>, true},
+        {"mnuFont", "mnuFontSize(6)", "6", &f.mnuFontSize[6], {mnuFontSize_Click, 6}, true},
+        {"mnuFont", "mnuFontSize(7)", "7", &f.mnuFontSize[7], {mnuFontSize_Click, 7}, true},
+        {"mnuFont", "mnuFontSize(8)", "8", &f.mnuFontSize[8], {mnuFontSize_Click, 8}, true},
+        {"mnuFont", "mnuFontSize(9)", "9", &f.mnuFontSize[9], {mnuFontSize_Click, 9}, true},
+        {"mnuFont", "mnuFontSize(10)", "10", &f.mnuFontSize[10], {mnuFontSize_Click, 10}, true},
+        {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], {mnuAlign_Click, 0}, true},
+        {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], {mnuAlign_Click, 1}, true},
 
         {"mnuTired", "mnuCoffee", "Coffee", nullptr, mnuCoffee_Click},
         {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
         {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite, mnuFavorite_Click},
-        {"mnuHelp", nullptr, nullptr},
+        {"mnuHelp"},
         {"mnuHelp", "mnuManual", "Manual", nullptr, mnuManual_Click},
         {"mnuHelp", "mnuAboutDX1", "About programmable keypads", nullptr, mnuAboutDX1_Click},
         {"mnuHelp", "mnuAboutApp", "About TallyStrata", nullptr, mnuAboutApp_Click},
+
+        {"mnuDiversityRB", "mnuCopyDiversity", "Copy image", &f.mnuCopyDiversity, mnuCopyDiversity_Click},
+        {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &f.mnuSaveDiversity, SaveDiversity},
     };
 }
 
 } // namespace
 
-void MainWindow::addEntry(QMenu& menu, const MainMenuEntry& entry)
-{
-    QAction* const action = menu.addAction(entry.caption);
-    action->setObjectName(entry.name);
-    action->setMenuRole(QAction::NoRole); // entries stay in their menus on every system
-    action->setCheckable(entry.checkable);
-    connect(action, &QAction::triggered, this, [this, handler = entry.handler] { onEvent(handler); });
-    if (entry.record != nullptr)
-        actions_.append({action, entry.record});
-}
-
 void MainWindow::makeMenus()
 {
-    QMap<QString, QMenu*> made;
-    // A submenu comes where its first entry stands; the menus of the bar come first of all, in their order.
-    for (const Menu& menu : menus)
-        if (menu.parent == nullptr) {
-            made[menu.name] = menuBar()->addMenu(menu.caption);
-            made[menu.name]->setObjectName(menu.name);
-        }
-    const auto menuOf = [&](const QString& name) {
-        for (const Menu& menu : menus)
-            if (made[name] == nullptr && name == menu.name) {
-                made[name] = made[menu.parent]->addMenu(menu.caption);
-                made[name]->setObjectName(menu.name);
-            }
-        return made[name];
-    };
-
-    for (const MainMenuEntry& entry : entries()) {
-        QMenu* const menu = menuOf(entry.menu);
-        if (entry.name == nullptr) {
-            menu->addSeparator();
-            continue;
-        }
-        addEntry(*menu, entry);
-    }
-    // The menu of percentage tables is one entry of its own.
-    actions_.append({made["mnuPercent"]->menuAction(), &frmMain.mnuPercent});
-
+    BoundWindow::makeMenus(*menuBar(), menus, entryTable());
+    bindAction(menuNamed("mnuPercent")->menuAction(), frmMain.mnuPercent); // one entry of its own
     makeRowMenu();
-    curveMenu_ = new QMenu(this);
-    curveMenu_->setObjectName("mnuDiversityRB");
-    addEntry(*curveMenu_, {"mnuDiversityRB", "mnuCopyDiversity", "Copy image", &frmMain.mnuCopyDiversity,
-                           mnuCopyDiversity_Click});
-    addEntry(*curveMenu_,
-             {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &frmMain.mnuSaveDiversity, SaveDiversity});
 }
 
 /// mnuByPass: Ctrl and a letter is taken and does nothing. It counts nothing either, here and where the
@@ -206,9 +134,9 @@ void MainWindow::takeCtrlLetters()
 /// done its work, since a menu closes first.
 void MainWindow::makeRowMenu()
 {
-    rowMenu_ = new QMenu("RB", this);
-    rowMenu_->setObjectName("mnuRightButton");
-    QMenu* const move = rowMenu_->addMenu("Move");
+    auto* const rowMenu = new QMenu("RB", this);
+    rowMenu->setObjectName("mnuRightButton");
+    QMenu* const move = rowMenu->addMenu("Move");
     move->setObjectName("mnuMove2");
     const char* const names[] = {"mnu1to45", "mnu46to90", "mnu91to135"};
     const char* const captions[] = {"1-45 (Neutral)", "46-90 (Shift 1 or 2)", "91-135 (Shift 1 and 2)"};
@@ -222,11 +150,13 @@ void MainWindow::makeRowMenu()
             Qt::QueuedConnection);
         for (int key = 1; key <= keysPerLayer; ++key) {
             const int slot = layer * keysPerLayer + key;
-            QAction* const target = targets->addAction(QString::number(slot));
-            target->setObjectName(QString("mnuMoveTo%1(%2)").arg(layer + 1).arg(slot));
-            connect(target, &QAction::triggered, this,
-                    [this, slot] { onEvent([&] { mnuMoveTo_Click(slot); }); });
-            actions_.append({target, &frmMain.mnuMoveTo[slot]});
+            const std::string number = std::to_string(slot);
+            const std::string name = "mnuMoveTo" + std::to_string(layer + 1) + "(" + number + ")";
+            addEntry(*targets, {names[layer],
+                                name.c_str(),
+                                number.c_str(),
+                                &frmMain.mnuMoveTo[slot],
+                                {mnuMoveTo_Click, slot}});
         }
     }
 }

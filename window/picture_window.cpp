@@ -9,8 +9,7 @@
 #include <QPainter>
 #include <algorithm>
 
-PictureWindow::PictureWindow(MainWindow& main)
-    : FormWindow(main, "frmPicture", "Are you tired?", frmPicture.visible, closePicture)
+PictureWindow::PictureWindow(MainWindow& main) : FormWindow(main, "frmPicture", "Are you tired?", {})
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     resize(864, 540);

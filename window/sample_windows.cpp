@@ -3,7 +3,6 @@
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/rename_info.h"
-#include "platform/qt/text.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -12,28 +11,51 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-QWidget* SampleWindow::entryBoxes(SampleForm& form, const std::function<QWidget*(int item)>& beside)
+namespace {
+
+/// The rows that both windows of a sample have.
+std::vector<ControlRow> sampleControls(SampleForm& form, void (*entered)(int), void (*left)(int))
+{
+    return {{.name = "Label1", .record = &form.Label1},
+            {.name = "Text1", .record = &form.Text1},
+            {.name = "Text2", .record = &form.Text2},
+            {.name = "Label3", .record = form.Label3.data(), .first = 1, .last = infoItems},
+            {.name = "Text3",
+             .record = form.Text3.data(),
+             .first = 1,
+             .last = infoItems,
+             .entered = entered,
+             .left = left}};
+}
+
+std::vector<ControlRow> with(std::vector<ControlRow> rows, std::initializer_list<ControlRow> more)
+{
+    rows.insert(rows.end(), more);
+    return rows;
+}
+
+} // namespace
+
+QWidget* SampleWindow::entryBoxes(const std::function<QWidget*(int item)>& beside)
 {
     auto* const frame = new QWidget;
     auto* const grid = new QGridLayout(frame);
     grid->setContentsMargins(0, 0, 0, 0);
-    QLabel* const nameLabel = label("Label1", form.nameLabel);
-    QLineEdit* const name = box("Text1", form.Text1);
+    QLabel* const nameLabel = label("Label1");
+    QLineEdit* const name = box("Text1");
     nameLabel->setBuddy(name);
     setFirst(name);
     grid->addWidget(nameLabel, 0, 0);
     grid->addWidget(name, 0, 1);
     auto* const noteLabel = new QLabel("Note: ");
     noteLabel->setObjectName("Label2");
-    QPlainTextEdit* const note = area("Text2", form.Text2);
+    QPlainTextEdit* const note = area("Text2");
     note->setAccessibleName("Note");
     grid->addWidget(noteLabel, 1, 0, Qt::AlignTop);
     grid->addWidget(note, 1, 1);
     for (int item = 1; item <= infoItems; ++item) {
-        grid->addWidget(label(indexed("Label3", item), form.Label3[item].caption), item + 1, 0);
-        QLineEdit* const info = box(indexed("Text3", item), form.Text3[item],
-                                    {.entered = [&form, item] { form.enterInfo(item); },
-                                     .left = [&form, item] { form.leaveInfo(item); }});
+        grid->addWidget(label("Label3", item), item + 1, 0);
+        QLineEdit* const info = box("Text3", item);
         info->setAccessibleName(QString("Additional info %1").arg(item));
         grid->addWidget(info, item + 1, 1);
         if (beside)
@@ -43,41 +65,50 @@ QWidget* SampleWindow::entryBoxes(SampleForm& form, const std::function<QWidget*
 }
 
 SiteNameWindow::SiteNameWindow(MainWindow& main)
-    : SampleWindow(main, "frmSiteName", "TallyStrata", frmSiteName.visible, frmSiteName_Command3_Click)
+    : SampleWindow(main, "frmSiteName", "TallyStrata",
+                   with(sampleControls(frmSiteName, frmSiteName_Text3_GotFocus, frmSiteName_Text3_LostFocus),
+                        {{.name = "Command1", .clicked = frmSiteName_Command1_Click},
+                         {.name = "Command3", .clicked = frmSiteName_Command3_Click}}))
 {
     auto* const frame = new QGroupBox(" Create a new data file");
     frame->setObjectName("Frame1");
-    (new QVBoxLayout(frame))->addWidget(entryBoxes(frmSiteName));
-    QPushButton* const ok = button("Command1", "OK", frmSiteName_Command1_Click);
+    (new QVBoxLayout(frame))->addWidget(entryBoxes());
+    QPushButton* const ok = button("Command1", "OK");
     ok->setDefault(true);
     auto* const whole = new QVBoxLayout(this);
     whole->addWidget(frame);
-    whole->addLayout(buttonRow({ok, button("Command3", "Cancel", frmSiteName_Command3_Click)}));
+    whole->addLayout(buttonRow({ok, button("Command3", "Cancel")}));
     whole->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 NextWindow::NextWindow(MainWindow& main)
-    : SampleWindow(main, "frmNext", "Next sample", frmNext.visible, frmNext_Command3_Click)
+    : SampleWindow(main, "frmNext", "Next sample",
+                   with(sampleControls(frmNext, frmNext_Text3_GotFocus, frmNext_Text3_LostFocus),
+                        {{.name = "Command1", .clicked = frmNext_Command1_Click},
+                         {.name = "Command2", .record = &frmNext.Command2, .clicked = frmNext_Command2_Click},
+                         {.name = "Command3", .record = &frmNext.Command3, .clicked = frmNext_Command3_Click},
+                         {.name = "Command4", .record = &frmNext.Command4, .clicked = frmNext_Command4_Click},
+                         {.name = "Command5",
+                          .record = frmNext.Command5.data(),
+                          .first = 1,
+                          .last = infoItems,
+                          .clicked = frmNext_Command5_Click}}))
 {
-    entries_ = entryBoxes(frmNext, [this](int item) {
-        QPushButton* const rename = button(
-            indexed("Command5", item), "Rename", [item] { frmNext_Command5_Click(item); },
-            &frmNext.Command5[item]);
+    entries_ = entryBoxes([this](int item) {
+        QPushButton* const rename = button("Command5", "Rename", item);
         rename->setAccessibleName(QString("Rename additional info %1").arg(item));
         return rename;
     });
     entries_->setObjectName("Frame1");
-    ok_ = button("Command1", "OK", frmNext_Command1_Click);
+    ok_ = button("Command1", "OK");
     ok_->setDefault(true);
     auto* const choice = new QHBoxLayout;
-    choice->addWidget(button("Command4", "Create new data file", frmNext_Command4_Click, &frmNext.Command4));
-    choice->addWidget(
-        button("Command2", "Open data file or template", frmNext_Command2_Click, &frmNext.Command2));
+    choice->addWidget(button("Command4", "Create new data file"));
+    choice->addWidget(button("Command2", "Open data file or template"));
     auto* const whole = new QVBoxLayout(this);
     whole->addLayout(choice);
     whole->addWidget(entries_);
-    whole->addLayout(
-        buttonRow({ok_, button("Command3", "Cancel", frmNext_Command3_Click, &frmNext.Command3)}));
+    whole->addLayout(buttonRow({ok_, button("Command3", "Cancel")}));
     whole->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -91,21 +122,25 @@ void NextWindow::presentMore()
 }
 
 ParameterNameWindow::ParameterNameWindow(MainWindow& main)
-    : FormWindow(main, "frmParaName", "Parameter name", frmParaName.visible, frmParaName_Command2_Click)
+    : FormWindow(main, "frmParaName", "Parameter name",
+                 {{.name = "Label2", .record = &frmParaName.Label2},
+                  {.name = "Text1", .record = &frmParaName.Text1},
+                  {.name = "Command1", .clicked = frmParaName_Command1_Click},
+                  {.name = "Command2", .clicked = frmParaName_Command2_Click}})
 {
     auto* const grid = new QGridLayout;
     grid->addWidget(new QLabel("Old name:"), 0, 0);
-    grid->addWidget(label("Label2", frmParaName.Label2.caption), 0, 1);
+    grid->addWidget(label("Label2"), 0, 1);
     auto* const newLabel = new QLabel("New name: ");
-    QLineEdit* const name = box("Text1", frmParaName.Text1);
+    QLineEdit* const name = box("Text1");
     newLabel->setBuddy(name);
     setFirst(name);
     grid->addWidget(newLabel, 1, 0);
     grid->addWidget(name, 1, 1);
-    QPushButton* const ok = button("Command1", "OK", frmParaName_Command1_Click);
+    QPushButton* const ok = button("Command1", "OK");
     ok->setDefault(true);
     auto* const whole = new QVBoxLayout(this);
     whole->addLayout(grid);
-    whole->addLayout(buttonRow({ok, button("Command2", "Cancel", frmParaName_Command2_Click)}));
+    whole->addLayout(buttonRow({ok, button("Command2", "Cancel")}));
     whole->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -10,7 +10,7 @@ class SampleWindow : public FormWindow {
 protected:
     using FormWindow::FormWindow;
     /// Lays the boxes out in rows of label, box and, in the third column, what `beside` makes for an item.
-    QWidget* entryBoxes(SampleForm& form, const std::function<QWidget*(int item)>& beside = {});
+    QWidget* entryBoxes(const std::function<QWidget*(int item)>& beside = {});
 };
 
 class SiteNameWindow : public SampleWindow {

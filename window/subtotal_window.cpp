@@ -87,28 +87,41 @@ void CheckPage::orderBoxes()
 }
 
 SubtotalWindow::SubtotalWindow(MainWindow& main)
-    : FormWindow(main, "frmSubtotal", "Subtotal setting", frmSubtotal.visible, frmSubtotal_Command3_Click)
+    : FormWindow(main, "frmSubtotal", "Subtotal setting",
+                 {{.name = "Option1",
+                   .record = frmSubtotal.Option1.data(),
+                   .first = 1,
+                   .last = 2,
+                   .clicked = frmSubtotal_Option1_Click},
+                  {.name = "Text1",
+                   .record = frmSubtotal.Text1.data(),
+                   .first = 1,
+                   .last = 2,
+                   .edited = frmSubtotal_Text1_Edited},
+                  {.name = "Check1",
+                   .record = frmSubtotal.Check1.data(),
+                   .first = 1,
+                   .last = taxonSlots,
+                   .clicked = frmSubtotal_Check1_Click},
+                  {.name = "Command2", .first = 0, .last = 1, .clicked = frmSubtotal_Command2_Click},
+                  {.name = "Command1", .clicked = frmSubtotal_Command1_Click},
+                  {.name = "Command3", .clicked = frmSubtotal_Command3_Click}})
 {
     auto* const groups = new QHBoxLayout;
     for (int group = 1; group <= 2; ++group) {
-        auto* const option =
-            mark<QRadioButton>(indexed("Option1", group), frmSubtotal.Option1[group].selected,
-                               [group] { frmSubtotal_Option1_Click(group); });
+        auto* const option = mark<QRadioButton>("Option1", group);
         option->setText(QString("Subtotal-%1").arg(group));
         if (group == 1)
             setFirst(option);
-        QLineEdit* const name = box(indexed("Text1", group), frmSubtotal.Text1[group],
-                                    {.edited = [group](std::string_view text, int caret) {
-                                        frmSubtotal_Text1_Edited(group, text, caret);
-                                    }});
+        QLineEdit* const name = box("Text1", group);
         name->setAccessibleName(QString("Name of subtotal %1").arg(group));
         groups->addWidget(option);
         groups->addWidget(name);
         groups->addSpacing(24);
     }
     groups->addStretch(1);
-    groups->addWidget(button("Command2(0)", "Clear", [] { frmSubtotal_Command2_Click(0); }));
-    groups->addWidget(button("Command2(1)", "Select all", [] { frmSubtotal_Command2_Click(1); }));
+    groups->addWidget(button("Command2", "Clear", 0));
+    groups->addWidget(button("Command2", "Select all", 1));
 
     auto* const whole = new QVBoxLayout(this);
     whole->addLayout(groups);
@@ -116,14 +129,13 @@ SubtotalWindow::SubtotalWindow(MainWindow& main)
     for (int layer = 0; layer < 3; ++layer) {
         QList<QCheckBox*> boxes;
         for (int slot = layer * keysPerLayer + 1; slot <= (layer + 1) * keysPerLayer; ++slot)
-            boxes << mark<QCheckBox>(indexed("Check1", slot), frmSubtotal.Check1[slot].checked,
-                                     [slot] { frmSubtotal_Check1_Click(slot); });
+            boxes << mark<QCheckBox>("Check1", slot);
         pages_ << new CheckPage(captions[layer], layer, boxes);
         whole->addWidget(pages_.back());
     }
-    QPushButton* const ok = button("Command1", "OK", frmSubtotal_Command1_Click);
+    QPushButton* const ok = button("Command1", "OK");
     ok->setDefault(true);
-    whole->addLayout(buttonRow({ok, button("Command3", "Cancel", frmSubtotal_Command3_Click)}));
+    whole->addLayout(buttonRow({ok, button("Command3", "Cancel")}));
     resize(std::min(1280, screen()->availableGeometry().width() - 24), 520); // wide: names are long
 }
 

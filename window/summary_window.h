@@ -5,10 +5,4 @@
 class SummaryWindow : public FormWindow {
 public:
     explicit SummaryWindow(MainWindow& main);
-
-protected:
-    void presentMore() override;
-
-private:
-    QPlainTextEdit* ranking_; ///< fills the window
 };

@@ -99,8 +99,7 @@ std::vector<DayEvent> eventsOfDiagram()
                     s.event(
                         [name = s.chance.oneOf(frmDiagram.Combo2.items)] { frmDiagram_Combo2_Click(name); });
                 }),
-        control("Check1 of the diagram", 3,
-                [](Session& s) { s.event([] { Check1_Click(!frmDiagram.Check1.checked); }); }),
+        control("Check1 of the diagram", 3, [](Session& s) { s.event(Check1_Click); }),
         control("Command1 of the diagram", 1, [](Session& s) { s.event(frmDiagram_Command1_Click); }),
         control("diagram in front", 3, [](Session& s) { s.event(frmDiagram_Activate); }),
         control("size of the diagram", 5,

@@ -2,6 +2,7 @@
 
 #include "core/editing.h"
 #include "core/endings.h"
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "extras/about.h"
@@ -73,6 +74,12 @@ DayEvent find(const char* name, int weight, void (*handler)(Session&))
             }};
 }
 
+/// A window stands above the main one and takes all that the user does.
+bool isBelowForm()
+{
+    return !isMainEnabled();
+}
+
 void closeWindow()
 {
     bool cancel = false;
@@ -88,8 +95,8 @@ std::vector<DayEvent> eventsOfForms()
     const bool& paraName = frmParaName.visible;
     const bool& subtotal = frmSubtotal.visible;
     return {
-        {"timer below a form", 1, Effect::none, isFormOpen, [](Session& s) { s.runOutTimer(); }},
-        {"keyboard lost below a form", 1, Effect::none, isFormOpen, [](Session& s) { s.loseKeyboard(); }},
+        {"timer below a form", 1, Effect::none, isBelowForm, [](Session& s) { s.runOutTimer(); }},
+        {"keyboard lost below a form", 1, Effect::none, isBelowForm, [](Session& s) { s.loseKeyboard(); }},
 
         {"first sample described", 4, Effect::none, on(siteName),
          [](Session& s) { describeSample(s, frmSiteName); }},
@@ -161,7 +168,7 @@ std::vector<DayEvent> eventsOfForms()
         button(frmAboutApp.visible, "About closed", 1, frmAboutApp_Command1_Click),
         button(frmAboutDX1.visible, "About keypads closed", 1, frmAboutDX1_Command1_Click),
         {"computer shut down", 1, Effect::replaced,
-         [] { return isFormOpen() && sheet.ActionCount % 50 == 0; },
+         [] { return isBelowForm() && sheet.ActionCount % 50 == 0; },
          [](Session& s) { s.event(closeWindow); }},
     };
 }

@@ -1,5 +1,6 @@
 #include "trials/days/rules.h"
 
+#include "core/forms.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -7,18 +8,8 @@
 #include "core/show_sample.h"
 #include "core/user_event.h"
 #include "diagram/diagram_form.h"
-#include "extras/about.h"
-#include "extras/diagnose.h"
-#include "extras/pictures.h"
-#include "files/new_sheet.h"
-#include "files/next_sample.h"
-#include "files/rename_info.h"
 #include "files/sheet_on_screen.h"
-#include "keys/first_run.h"
-#include "keys/key_editor.h"
 #include "sheet/find.h"
-#include "sheet/subtotals.h"
-#include "sheet/summary.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -143,8 +134,8 @@ void checkModesAndWindows()
     require(frmMain.Command5[0].enabled == frmMain.mnuSave.enabled, "Save by button and menu");
     require(sheet.Edited == EditedBox::none || sheet.Modifying, "a box is visited in its mode only");
 
-    const bool mainRests = !frmMain.enabled || !frmMain.visible; // on a first run it is not even there
-    require(mainRests == isFormOpen(), "the main window rests below another one, and only then");
+    require(frmMain.visible || !isMainEnabled(),
+            "on a first run a form stands where the main window will be");
     require(!frmMain.ProgressBar1.visible && frmMain.pointer != Pointer::hourglass, "work that was ended");
     require(frmMain.SSTab1 >= 0 && frmMain.SSTab1 <= 2 && sheet.Layer >= 0 && sheet.Layer <= 2,
             "page and layer");
@@ -202,13 +193,6 @@ std::string keptName(const std::string& name)
 }
 
 } // namespace
-
-bool isFormOpen()
-{
-    return frmSiteName.visible || frmNext.visible || frmParaName.visible || frmSubtotal.visible ||
-           frmSummary.visible || frmFind.visible || frmPicture.visible || frmAboutApp.visible ||
-           frmAboutDX1.visible || frmDiagnose.visible || frmInitial.visible || frmKeyCode.visible;
-}
 
 void checkWhatIsAlwaysTrue()
 {

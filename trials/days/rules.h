@@ -16,9 +16,6 @@ void require(bool held, const char* rule, int at = -1);
 /// Boxes and tables agree, totals are the sums, maps are inverse, modes and windows fit together.
 void checkWhatIsAlwaysTrue();
 
-/// True if a window stands above the main one and takes all that the user does.
-bool isFormOpen();
-
 /// What a data sheet keeps of the sheet, as one number.
 std::size_t keptInFile();
 

@@ -4,6 +4,7 @@
 #include "core/built_in_keys.h"
 #include "core/editing.h"
 #include "core/endings.h"
+#include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/main_screen.h"
@@ -261,7 +262,7 @@ void Session::setFaults()
 
 const DayEvent& Session::choose()
 {
-    const std::vector<DayEvent>& events = isFormOpen() ? formEvents_ : mainEvents_;
+    const std::vector<DayEvent>& events = !isMainEnabled() ? formEvents_ : mainEvents_;
     std::vector<const DayEvent*> possible;
     int weights = 0;
     for (const DayEvent& one : events)
@@ -293,7 +294,7 @@ void Session::step()
         latest_.erase(latest_.begin());
     expectedNewest_ = sheet.UndoStack[0];
     const std::size_t lines = sheet.ActionText.size();
-    const bool below = isFormOpen();
+    const bool below = !isMainEnabled();
     one.happen(*this);
     if (!sheet.Modifying) {
         focused = {};
@@ -303,7 +304,7 @@ void Session::step()
         focused = {EditedBox::Text4, 0};
         event(Text4_GotFocus);
     }
-    if (isFormOpen() && !below) // it takes the keyboard
+    if (!isMainEnabled() && !below) // it takes the keyboard
         loseKeyboard();
     if (ended) {
         event(Form_Terminate);
@@ -330,7 +331,7 @@ void Session::beginStretch()
 void Session::check(Effect effect, UndoEntry newest)
 {
     checkWhatIsAlwaysTrue();
-    if (!sheet.Modifying && !isFormOpen())
+    if (!sheet.Modifying && isMainEnabled())
         require(sheet.Layer == hands_.layer(), "the layer of the keys that are held");
     const UndoEntry& found = sheet.UndoStack[0];
     if (effect == Effect::none)
@@ -359,7 +360,7 @@ void Session::checkUnsavedWork(bool replaced, std::size_t linesBefore)
 
 void Session::saveAndReopen()
 {
-    while (isFormOpen())
+    while (!isMainEnabled())
         event([] {
             if (frmNote.visible)
                 frmNote_Command1_Click();

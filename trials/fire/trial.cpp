@@ -1,5 +1,6 @@
 #include "trials/fire/trial.h"
 
+#include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
@@ -42,7 +43,7 @@ Seen look()
         seen.fileDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr;
         seen.diagram = sheet.DiagramOpen;
         seen.active = main.isActiveWindow();
-        seen.enabled = frmMain.enabled;
+        seen.enabled = isMainEnabled();
         seen.modifying = sheet.Modifying;
         seen.main = main.geometry();
         seen.front = front != nullptr ? front->geometry() : main.geometry();
