@@ -46,7 +46,8 @@ int main(int argc, char* argv[])
     const DeliveredCopy delivered(DELIVERED_FOLDER);
     Program program(delivered.path());
     const std::string path = folder.filePath("full.csv").toStdString();
-    ports.files->write(path, fullSheetText());
+    if (!ports.files->write(path, fullSheetText()))
+        return 1;
 
     measure("open the fullest sheet to ready on screen", 100, [&] {
         sheet.SheetPristine = true; // nothing to ask about
@@ -56,11 +57,12 @@ int main(int argc, char* argv[])
         QApplication::processEvents();
     });
     std::printf("samples %d, total of the last %s\n", sheet.SampleCount, frmMain.Text3[0].text.c_str());
-    measure("save the fullest sheet", 10, [] { SaveSheet(0); });
+    measure("save the fullest sheet", 10, [] { SaveSheet(SaveMode::plain); });
     measure("backup inside a key press", 70, AutoBackup);
 
     const std::string almost = folder.filePath("almost.csv").toStdString();
-    ports.files->write(almost, fullSheetText(sampleLimit - 1));
+    if (!ports.files->write(almost, fullSheetText(sampleLimit - 1)))
+        return 1;
     const auto open = [&] {
         sheet.SheetPristine = true; // nothing to ask about
         frmMain.Command5[0].enabled = false;

@@ -13,7 +13,8 @@ int main(int argc, char* argv[])
     const DeliveredCopy delivered(DELIVERED_FOLDER);
     Program program(delivered.path());
     const std::string path = delivered.path().toStdString() + "/full.csv";
-    ports.files->write(path, fullSheetText());
+    if (!ports.files->write(path, fullSheetText()))
+        return 1;
     program.window().onEvent([&] { openDropped(path); });
     program.window().onEvent(mnuCurve_Click);
     return reportMemory();

@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/main_screen.h"
+#include "core/offers.h"
 #include "core/sheet_state.h"
 
 static void showIndexes(bool shown)
@@ -52,6 +53,8 @@ void AmendingOnOff(int turnOff)
     }
     logAction(on ? "(Modify)" : "(Resume)");
     // A sheet that has not been counted can neither be reset nor followed by a next sample.
-    if (!on && sheet.SheetPristine)
-        frmMain.Command2[0].enabled = frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = false;
+    if (!on && sheet.SheetPristine) {
+        frmMain.Command2[0].enabled = false;
+        offerNextSample(false);
+    }
 }

@@ -6,6 +6,7 @@
 #include "core/layer_keys.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/record_count.h"
 #include "core/sheet_state.h"
 #include "platform/ports.h"
@@ -94,7 +95,7 @@ void DispatchKey(int keyCode, int shift)
     }
     // 6. The Save key goes on: it may count something as well.
     if (isSaveKey(keyCode))
-        hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+        hooks.SaveSheet(plainOrUntouched());
     // 7.
     if (!sheet.KeysActive || !isAccepted(keyCode))
         return;
@@ -108,8 +109,8 @@ void DispatchKey(int keyCode, int shift)
     // 10.
     const bool counts = !isShiftKey(keyCode) && keyCode != sheet.MinusKey;
     if (counts && !sheet.Modifying) {
-        frmMain.Command2[0].enabled = frmMain.mnuReset.enabled = true;
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        offerReset(true);
+        offerSave(true);
         frmMain.mnuSaveHistory.enabled = true;
     }
     // 11.

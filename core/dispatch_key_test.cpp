@@ -4,7 +4,7 @@
 
 namespace {
 
-int savedMode = -1;
+std::optional<SaveMode> savedMode;
 int backups = 0;
 int refreshes = 0;
 
@@ -12,9 +12,9 @@ class Keyboard : public ProgramTest {
 protected:
     Keyboard()
     {
-        savedMode = -1;
+        savedMode.reset();
         backups = refreshes = 0;
-        hooks.SaveSheet = [](int mode) { savedMode = mode; };
+        hooks.SaveSheet = [](SaveMode mode) { savedMode = mode; };
         hooks.AutoBackup = [] { ++backups; };
         hooks.RefreshDiagram = [] { ++refreshes; };
     }
@@ -81,12 +81,12 @@ TEST_F(Keyboard, saveKeySavesAndCountsIfItIsACounterKeyToo)
     sheet.KeySetting[rowSave].Code = decimalText('P');
     sheet.DiagramOpen = true; // follows every key that is taken but the shift keys
     tap('P');
-    EXPECT_EQ(99, savedMode);
+    EXPECT_EQ(SaveMode::untouched, savedMode);
     EXPECT_TRUE(sheet.FreshSheet);
     sheet.KeySetting[rowSave].Code = decimalText('Q');
     for (const int key : {int{'Q'}, int{'Q'}, shift1, undoKey})
         tap(key);
-    EXPECT_EQ(0, savedMode);
+    EXPECT_EQ(SaveMode::plain, savedMode);
     EXPECT_EQ(1, all());
     EXPECT_EQ(3, refreshes);
 }
@@ -154,7 +154,7 @@ TEST_F(Keyboard, asksBeforeItCountsInAnOlderSampleUntilAnsweredYes)
 TEST_F(Keyboard, forgetsHeldKeysWithTheFocusButNotBeforeTheKeyInWorkHasCounted)
 {
     sheet.KeySetting[rowSave].Code = decimalText('Q');
-    hooks.SaveSheet = [](int) { Form_Deactivate(); };
+    hooks.SaveSheet = [](SaveMode) { Form_Deactivate(); };
     down(shift1);
     down('Q');
     EXPECT_EQ(1, shown(46));

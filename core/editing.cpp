@@ -4,9 +4,11 @@
 #include "core/character_rule.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "platform/ports.h"
 
@@ -46,7 +48,7 @@ void markUnsavedWork()
     if (sheet.Modifying)
         sheet.UnsavedEdits = true;
     else
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true;
+        offerSave(true);
 }
 
 void Text1_Edited(int slot, std::string_view text, int caret)
@@ -131,7 +133,7 @@ void Text4_GotFocus()
 void Text5_GotFocus(int item)
 {
     TextBox& box = frmMain.Text5[item];
-    if (visit(EditedBox::Text5, item, box) && box.text == "---")
+    if (visit(EditedBox::Text5, item, box) && box.text == noText)
         box.text.clear(); // an offer to type, no edit: nothing is stored
 }
 
@@ -191,7 +193,7 @@ static void leaveText5(int item)
 {
     if (!frmMain.Text5[item].text.empty())
         return;
-    frmMain.Text5[item].text = "---";
+    frmMain.Text5[item].text = noText;
     storeText5(item);
 }
 

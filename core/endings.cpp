@@ -1,26 +1,22 @@
 #include "core/endings.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
 
-static void playCaution()
-{
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
-}
-
 void AbortCount()
 {
     // 1.
-    playCaution();
+    playCue(Cue::SoundError);
     // 2 to 5.
     if (sheet.SampleTotal != 0) {
         if (ports.dialogs->ask("This action will abort all inputs after last saving. Do you proceed?",
@@ -52,9 +48,8 @@ static void endProgram(bool lossConfirmed)
 
 void mnuQuit_Click()
 {
-    playCaution();
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes)
+    playCue(Cue::SoundError);
+    if (!mayLoseCounts())
         return;
     RestoreSnapshot();
     sheet.SoundOn = false;
@@ -81,7 +76,7 @@ void Form_Unload(bool& cancel)
             return;
         }
         if (answer == Answer::yes)
-            hooks.SaveSheet(sheet.SheetPristine ? 99 : 0);
+            hooks.SaveSheet(plainOrUntouched());
         if (answer == Answer::yes && sheet.SaveResult == 2) {
             cancel = true;
             hooks.AutoBackup(); // the program ends, the counts do not
@@ -108,5 +103,5 @@ void Form_Terminate()
 void CheckIfReallyEnd()
 {
     TakeSnapshot();
-    hooks.SaveSheet(0);
+    hooks.SaveSheet(SaveMode::plain);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/save_mode.h"
+
 /// What a handler of the core sets off in rooms above it. app/wiring.cpp connects them; what is not connected
 /// does nothing.
 struct Hooks {
@@ -7,7 +9,7 @@ struct Hooks {
     void (*ArrangeTaxonCells)() = [] {};
     void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
-    void (*SaveSheet)(int) = [](int) {};  ///< argument: the save mode, 0 plain, 99 plain and untouched
+    void (*SaveSheet)(SaveMode) = [](SaveMode) {};
     void (*AutoBackup)() = [] {};
     void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
     void (*EndProgram)() = [] {};

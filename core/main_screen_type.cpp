@@ -1,11 +1,12 @@
 #include "core/main_screen_type.h"
 
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 MainScreen::MainScreen()
 {
     for (int slot = 1; slot <= taxonSlots; ++slot) {
-        Text1[slot].text = "---";
+        Text1[slot].text = noText;
         Text2[slot].text = "0";
         Text2[slot].fontSize = 9;
         Label1[slot].caption = decimalText(slot);
@@ -25,16 +26,16 @@ MainScreen::MainScreen()
         sum.text = "0";
     Option1[0].selected = true;
 
-    Text4.text = "---";
+    Text4.text = noText;
     Text4.enabled = false;
     for (int item = 1; item <= infoItems; ++item) {
-        Text5[item].text = "---";
+        Text5[item].text = noText;
         Text5[item].enabled = false;
         Label10[item].caption = "Additional info-" + decimalText(item) + ":";
         Command7[item].visible = false;
     }
     for (Label& date : Label14)
-        date.caption = "---";
+        date.caption = noText;
     Text6.text = "File location: ---";
 
     for (Button* button : {&Command2[0], &Command3[1], &Command5[0], &Command5[1]})

@@ -13,7 +13,7 @@ bool isDigit(char c)
 }
 
 /// The number of a text that is nothing but a few digits, perhaps with a minus: nearly every text that is
-/// parsed, and a key press parses a thousand of them.
+/// parsed, and a key press parses hundreds of them.
 bool isShortWhole(std::string_view text, std::int32_t& number)
 {
     const bool negative = !text.empty() && text.front() == '-';

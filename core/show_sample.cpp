@@ -5,6 +5,7 @@
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@ ShowingSample::~ShowingSample()
 
 std::string orDashes(const std::string& text)
 {
-    return text.empty() ? "---" : text;
+    return text.empty() ? noText : text;
 }
 
 void forgetCurve()
@@ -42,7 +43,7 @@ void showSample(int sample)
 
     setText1(0, sheet.SampleField(sample, 2));
     frmMain.Combo2.text = sheet.SampleField(sample, 2);
-    setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(sample);
     frmMain.Text4.text = sheet.SampleNote(sample, 0);
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Text5[item].text = orDashes(sheet.AdditionalInfo(sample, item));

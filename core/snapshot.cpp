@@ -6,6 +6,7 @@
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 
 /// Runs `keep(table, saved)` for each table that a reset brings back.
@@ -39,7 +40,7 @@ void RestoreSnapshot()
     }
     for (int item = 1; item <= infoItems; ++item) {
         const std::string& info = sheet.SavedInfo(sheet.CurrentSample, item);
-        frmMain.Text5[item].text = info.empty() ? "---" : info;
+        frmMain.Text5[item].text = info.empty() ? noText : info;
         frmMain.Label10[item].caption = sheet.SavedInfo(0, item);
     }
     RecountTotals(sheet.CurrentSample);

@@ -1,9 +1,11 @@
 #include "core/text_changes.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "platform/ports.h"
@@ -50,11 +52,16 @@ void setLabel4(std::string_view caption)
     Label4_Change();
 }
 
-// The steps stay in this order: the write that empties the carrier runs this handler once more, and that run
-// reads what the first one wrote.
+void showSerial(int sample)
+{
+    setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
+}
+
 void Text0_Change()
 {
-    if (frmMain.Text0.text.size() == 1) // never a slot: single digits come as "01" to "09"
+    // Never a slot: single digits come as "01" to "09". Emptying the carrier runs this handler once more; a
+    // second recount of the same boxes would find the same.
+    if (frmMain.Text0.text.size() <= 1)
         return;
     sheet.SampleTotal = 0;
     const int delta = sheet.MinusArmed ? -1 : 1;
@@ -75,15 +82,14 @@ void Text1_Change(int slot)
     if (slot != 0)
         return;
     frmMain.Combo2.text = frmMain.Text1[0].text;
-    setLabel4(sheet.SampleField(sheet.CurrentSample, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(sheet.CurrentSample);
     if (sheet.Modifying)
         sheet.SampleField(sheet.CurrentSample, 2) = frmMain.Text1[0].text;
 }
 
 static void refuseCount(int slot)
 {
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+    playCue(Cue::SoundError);
     ports.dialogs->ask("Please input digit(s).", "Error", Buttons::ok, Icon::exclamation);
     setText2(slot, decimalText(within32Bits(static_cast<std::int64_t>(sheet.PreviousCount))));
 }
@@ -110,7 +116,7 @@ void Text3_Change(int total)
     hooks.DrawDiversity();
     const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
     if (all != 0 && !sheet.Modifying) // no next sample while this one is edited
-        frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
+        offerNextSample(true);
     if (all == 1 && !sheet.SampleSwitching) // a sample that is only shown began earlier
         frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) =
             dateStamp(ports.clock->now());

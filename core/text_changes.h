@@ -11,6 +11,8 @@ void setText1(int slot, std::string_view text);
 void setText2(int slot, std::string_view text);
 void setText3(int total, std::string_view text);
 void setLabel4(std::string_view caption);
+/// "serial number of the sample/highest one of the sheet", into Label4.
+void showSerial(int sample);
 
 /// Slot of a key -> one more individual of it, or one less while MinusArmed. The one place where a slot
 /// becomes a count.

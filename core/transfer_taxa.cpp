@@ -5,9 +5,11 @@
 #include "core/editing.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "platform/ports.h"
 
@@ -45,9 +47,7 @@ void targetMenuClosed(int layer)
 
 void mnuMoveTo_Click(int target)
 {
-    if (target != sheet.MoveSource && isTaxon(target) && hasCounts(target) &&
-        ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes)
+    if (target != sheet.MoveSource && isTaxon(target) && hasCounts(target) && !mayLoseCounts())
         return;
     TransferTaxa(target);
 }
@@ -66,11 +66,11 @@ void TransferTaxa(int target)
     TaxonFields& to = sheet.TaxonRecord[target];
     to.Subtotal1 = std::exchange(from.Subtotal1, "0");
     to.Subtotal2 = std::exchange(from.Subtotal2, "0");
-    to.Name = std::exchange(from.Name, "---");
+    to.Name = std::exchange(from.Name, noText);
     // 4.
     setText1(target, frmMain.Text1[source].text);
     setText2(target, frmMain.Text2[source].text);
-    setText1(source, "---");
+    setText1(source, noText);
     setText2(source, "0");
     frmMain.Label1[source].bold = false;
     // 5.

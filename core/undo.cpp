@@ -1,11 +1,13 @@
 #include "core/undo.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
@@ -39,8 +41,7 @@ static void takeBack(UndoEntry entry)
     sheet.Count(sheet.CurrentSample, slot) = wholeNumber(frmMain.Text2[slot].text);
     // 5, 6.
     const bool rings = touchesHundred();
-    if (sheet.SoundOn)
-        ports.sound->play(rings ? Cue::SoundAlarm : Cue::SoundUndo);
+    playCue(rings ? Cue::SoundAlarm : Cue::SoundUndo);
     // 7.
     highlight(slot, takenBackRow);
     // 8.
@@ -48,7 +49,7 @@ static void takeBack(UndoEntry entry)
     sheet.UndoStack.back() = {};
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
               frmMain.Text1[slot].text);
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = true; // taking back is work to save too
+    offerSave(true); // taking back is work to save too
 }
 
 void Undo()

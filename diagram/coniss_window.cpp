@@ -1,7 +1,9 @@
 #include "diagram/coniss_window.h"
 
+#include "core/cue.h"
 #include "core/fields.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "diagram/dendrogram.h"
@@ -103,10 +105,8 @@ void mnuSaveConiss_Click()
     if (!path)
         return;
     if (!ports.files->write(*path, matrixText(frmDiagram.merges))) {
-        ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
-                           "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
         return;
     }
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundSave);
+    playCue(Cue::SoundSave);
 }

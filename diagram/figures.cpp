@@ -1,5 +1,6 @@
 #include "diagram/figures.h"
 
+#include "core/messages.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "diagram/dendrogram.h"
@@ -114,6 +115,5 @@ void mnuSavePicture_Click()
         return;
     }
     if (!ports.files->write(*path, ports.pictures->encode(wholeFigure(), *format)))
-        ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
-                           "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
 }

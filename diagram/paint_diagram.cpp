@@ -1,5 +1,6 @@
 #include "diagram/paint_diagram.h"
 
+#include "core/taxon_name.h"
 #include <cmath>
 
 namespace {
@@ -90,11 +91,6 @@ private:
     const int samples_;
 };
 
-bool isFamily(const std::string& name)
-{
-    return name.ends_with("ae") || name.ends_with("AE");
-}
-
 } // namespace
 
 Scale rowScale(int samples, float width)
@@ -134,8 +130,8 @@ Drawing planDiagram(const PlotData& plot, const std::vector<float>& rows, const 
 Letters nameLetters(const std::string& name, bool italic, float longest)
 {
     constexpr float letterHeight = 10.4F; // the letters of a font 12 pixels high from line to line
-    if (name.empty() || name == "---")
-        return {"---", letterHeight, false, longest, true};
+    if (name.empty() || name == noText)
+        return {noText, letterHeight, false, longest, true};
     return {name, letterHeight, italic, longest, true};
 }
 

@@ -1,6 +1,7 @@
 #include "files/data_sheet_reader.h"
 
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 #include "files/note_migration.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ int completeKeyIndexes(SheetTables& tables)
         do
             ++missing;
         while (rowOf[missing] != 0);
-        tables.TaxonRecord[missing] = {decimalText(missing), decimalText(missing), "0", "0", "---"};
+        tables.TaxonRecord[missing] = {decimalText(missing), decimalText(missing), "0", "0", noText};
         if (keyIndex == 0 && rowOf[0] == row) {
             std::swap(tables.TaxonRecord[missing].Name, tables.TaxonRecord[0].Name);
             tables.TaxonRecord[missing].Subtotal1 = tables.TaxonRecord[0].Subtotal1;
@@ -215,18 +216,18 @@ bool DataSheetReader::readTexts()
 {
     for (int column = 1; column <= 3; ++column) {
         for (auto& head : sheet_.AdditionalHeader)
-            head[column] = "---";
+            head[column] = noText;
         for (auto& head : sheet_.DateHeader)
-            head[column] = "---";
+            head[column] = noText;
     }
     // No leftovers of the sheet before: neither what this layout has no lines for, nor what a template leaves
     // out.
     for (int sample = 1; sample <= sheet_.SampleCount; ++sample) {
         for (int item = 1; item <= infoItems; ++item)
-            sheet_.AdditionalInfo(sample, item) = "---";
-        sheet_.SampleNote(sample, 0) = "---";
+            sheet_.AdditionalInfo(sample, item) = noText;
+        sheet_.SampleNote(sample, 0) = noText;
         for (int date = 1; date <= 3; ++date)
-            sheet_.SampleStamp(sample, date) = "---";
+            sheet_.SampleStamp(sample, date) = noText;
     }
     return readAdditional() && readNotes() && readDates();
 }

@@ -182,6 +182,7 @@ TEST(DataSheet, serialNumbersEndAtTheFirstTextThatIsNone)
     std::string many = "Serial No.";
     for (int i = 1; i <= 256; ++i)
         many += "," + std::to_string(1000 + i);
+    EXPECT_EQ(serials(many.substr(0, many.rfind(',')) + ",Key index,"), std::pair(255, 1255));
     EXPECT_EQ(serials(many + ",Key index,").first, 1) << "no room: the sheet keeps its size";
 }
 
@@ -201,6 +202,20 @@ TEST(DataSheet, anEarlyEndOrANumberOutOfRangeFailsWhereverItStands)
     EXPECT_EQ(readInto(tables, replaced(text, "\r\n135,0", "\r\n7,0")), End::repeated);
     EXPECT_EQ(readInto(tables, replaced(text, "\"Pinus\",12", "\"Pinus\",many")), End::complete);
     EXPECT_EQ(tables.Count(1, 1), 0) << "a number that does not parse holds 0";
+}
+
+TEST(DataSheet, ofEqualKeyIndexesInABrokenFileTheFirstRowKeepsIts)
+{
+    SheetTables tables;
+    const std::string broken = replaced(lakeText(), "\r\n3,0,1", "\r\n2,0,1");
+    ASSERT_EQ(readInto(tables, broken.substr(0, broken.find("\r\n9,"))), End::early);
+    EXPECT_EQ(completeKeyIndexes(tables), 3);
+    EXPECT_EQ(tables.KeyIndexOfRow[2], 2);
+    EXPECT_EQ(tables.KeyIndexOfRow[3], 3);
+    for (int row = 1; row <= taxonSlots; ++row)
+        EXPECT_EQ(tables.RowOfKeyIndex[tables.KeyIndexOfRow[row]], row);
+    EXPECT_EQ(tables.TaxonRecord[3].Name, "---") << "its line was read into the other's row";
+    EXPECT_EQ(tables.Count(1, 3), 0);
 }
 
 TEST(DataSheet, totalsBeyondWhatAFileHoldsAreRefused)

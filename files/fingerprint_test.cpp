@@ -28,12 +28,12 @@ TEST_F(KnownFile, isTheOneLastReadOrWritten)
     files.contents[lake].back() = ' '; // another program has been at it
     EXPECT_TRUE(sheetFileHasChanged());
     tap('Q');
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_FALSE(sheetFileHasChanged());
     const std::string elsewhere = files.contents[lake];
 
     dialogs.paths = {"/home/Copy.csv"};
-    SaveSheet(55);
+    SaveSheet(SaveMode::copy);
     EXPECT_FALSE(sheetFileHasChanged()) << "a copy is another file";
     files.contents[lake] = elsewhere + "\r\n";
     sheet.SheetPristine = true;
@@ -54,7 +54,7 @@ TEST_F(KnownFile, isWhatAFailedWriteHasLeft)
     };
     files.cutShort = {lake, "/home/Other.csv"};
     failing();
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_FALSE(sheetFileHasChanged()) << "cut short by this program itself";
     failing();
     saveAs("/home/Other.csv");

@@ -4,13 +4,16 @@
 #include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/reset_sheet.h"
 #include "core/sample_names.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "files/sheet_on_screen.h"
 #include "platform/ports.h"
@@ -22,8 +25,7 @@ void mnuNew_Click()
 {
     if (frmMain.Text3[0].text != "0" && sheet.SoundOn)
         ports.sound->play(Cue::SoundError);
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes)
+    if (!mayLoseCounts())
         return;
     hooks.CloseDiagram();
     resetSheet();
@@ -61,7 +63,7 @@ void frmSiteName_Command1_Click()
     // 6.
     frmMain.Label14[0].caption = sheet.SampleStamp(1, 1) = dateStamp(ports.clock->now());
     for (int date = 2; date <= 3; ++date)
-        frmMain.Label14[date - 1].caption = sheet.SampleStamp(1, date) = "---";
+        frmMain.Label14[date - 1].caption = sheet.SampleStamp(1, date) = noText;
     // 7, 8.
     frmMain.Text4.text = sheet.SampleNote(1, 0) = orDashes(frmSiteName.Text2.text);
     for (int item = 1; item <= infoItems; ++item)
@@ -69,11 +71,12 @@ void frmSiteName_Command1_Click()
     TakeSnapshot();
     // What was typed is work to save.
     sheet.SheetPristine = false;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = frmMain.mnuNew.enabled = true;
+    offerSave(true);
+    frmMain.mnuNew.enabled = true;
     // 9.
     closeSiteName();
     // 10.
-    setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(1);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     // 11. A second stamp of the same text, as every history has it here.
     StampAction();

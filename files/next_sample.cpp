@@ -4,12 +4,15 @@
 #include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/sample_move.h"
 #include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/snapshot.h"
+#include "core/taxon_name.h"
 #include "core/text_changes.h"
 #include "files/open_sheet.h"
 #include "platform/ports.h"
@@ -58,8 +61,7 @@ bool mayEmptyPlaceholder()
         counted = counted || sheet.Count(1, slot) != 0;
     if (!counted)
         return true;
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes)
+    if (!mayLoseCounts())
         return false;
     for (UndoEntry& entry : sheet.UndoStack)
         if (entry.sample == 1)
@@ -127,7 +129,7 @@ bool AddSample()
         frmMain.Text5[item].text = sheet.AdditionalInfo(sample, item) = orDashes(frmNext.Text3[item].text);
     }
     // 13.
-    setLabel4(sheet.SampleField(sample, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(sample);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     sheet.SampleTotal = 0;
     for (int total = 0; total < 3; ++total)
@@ -139,7 +141,8 @@ bool AddSample()
     // 15.
     TakeSnapshot();
     sheet.SheetPristine = false;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = frmMain.mnuNew.enabled = true;
+    offerSave(true);
+    frmMain.mnuNew.enabled = true;
     return true;
 }
 
@@ -184,7 +187,7 @@ void frmNext_Command1_Click()
     if (sheet.FreshSheet)
         hooks.CloseDiagram();
     frmMain.Label14[0].caption = dateStamp(ports.clock->now());
-    frmMain.Label14[1].caption = frmMain.Label14[2].caption = "---";
+    frmMain.Label14[1].caption = frmMain.Label14[2].caption = noText;
     for (int date = 0; date < 3; ++date)
         sheet.SampleStamp(sheet.CurrentSample, date + 1) = frmMain.Label14[date].caption;
     close();

@@ -1,5 +1,6 @@
 #include "files/note_migration.h"
 
+#include "core/taxon_name.h"
 #include <string_view>
 
 namespace {
@@ -87,5 +88,5 @@ void NoteMigration::clean(std::string& note, std::string& created, std::string& 
     while (std::string_view(note).ends_with(lineEnd))
         note = trimmed(std::string_view(note).substr(0, note.size() - 2));
     if (note.empty())
-        note = "---";
+        note = noText;
 }

@@ -6,7 +6,9 @@
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/offers.h"
 #include "core/recount_totals.h"
 #include "core/reset_sheet.h"
 #include "core/sample_names.h"
@@ -47,8 +49,7 @@ bool mayGo(bool dropped)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
         return true;
-    if (ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!", Buttons::yesNo,
-                           Icon::question) != Answer::yes) {
+    if (!mayLoseCounts()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
         sheet.FreshSheet = false;
@@ -66,7 +67,7 @@ void showHeads()
 {
     const int last = sheet.SampleCount;
     frmMain.Text99.text = decimalText(last);
-    setLabel4(sheet.SampleField(last, 1) + "/" + decimalText(sheet.LatestSerial));
+    showSerial(last);
     showSubtotalNames();
 
     listSampleNames();
@@ -125,7 +126,7 @@ Reading readSheet(std::string_view text, const std::string& path, const std::opt
         showTaxon(row);
     if (sheet.SampleCount == 0) {
         reader.beginFromTemplate(frmMain.Text1[0].text);
-        setLabel4(sheet.SampleField(1, 1) + "/" + decimalText(sheet.LatestSerial));
+        showSerial(1);
     }
     RecountTotals(sheet.CurrentSample);
     return reader.readTexts() ? Reading::complete : Reading::failed;
@@ -195,8 +196,8 @@ void settle()
     logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
     frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
     WrapFileLocation();
-    frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = true;
-    frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    offerNextSample(true);
+    offerSave(false);
     selectBasis(0);
     AutoBackup();
     ApplyItalics();

@@ -70,7 +70,7 @@ TEST_F(Recovery, copyIsThereWithinTenSecondsAndGoesWithTheSave)
     EXPECT_EQ(files.contents.count(copyPath), 1);
     EXPECT_EQ(recoveryTimer.milliseconds, 0) << "an idle program writes nothing";
     dialogs.paths = {"/core.csv"};
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     watchUnsavedWork();
     EXPECT_EQ(files.contents.count(copyPath), 0);
 }
@@ -79,7 +79,7 @@ TEST_F(Recovery, crashedSheetIsTakenUpWithItsFileAndItsCounts)
 {
     dialogs.paths = {"/cores/Lake.csv"};
     count(2);
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     watchUnsavedWork();
     count(5);
     timePasses();
@@ -93,7 +93,7 @@ TEST_F(Recovery, crashedSheetIsTakenUpWithItsFileAndItsCounts)
     EXPECT_TRUE(frmMain.Command5[0].enabled && !sheet.SheetPristine);
     EXPECT_EQ(files.contents["/cores/Lake.csv"], saved) << "until it is saved";
     EXPECT_EQ(files.contents.count(copyPath), 1) << "still unsaved work";
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     watchUnsavedWork();
     EXPECT_EQ(files.contents.count(copyPath), 0);
     crashAndStart();
@@ -104,14 +104,14 @@ TEST_F(Recovery, sheetThatIsCutShortByItsOwnSaveIsWholeInTheCopy)
 {
     dialogs.paths = {"/cores/Lake.csv"};
     count(2);
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     watchUnsavedWork();
     files.cutShort = {"/cores/Lake.csv"};
     for (const int counted : {0, 3}) { // what was saved would be lost too
         count(counted);
         dialogs.expect("The file is being used by another software. Please close the file and try again.",
                        "Error", Answer::ok);
-        SaveSheet(0);
+        SaveSheet(SaveMode::plain);
         watchUnsavedWork();
         crashAndStart();
         expectOffer("Lake", Answer::yes);

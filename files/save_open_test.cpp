@@ -106,6 +106,11 @@ TEST_F(SheetFiles, aCopyLeavesTheSheetItsNameAndItsUnsavedWork)
     RestoreSnapshot();
     EXPECT_EQ(shown(2), 0) << "a reset goes back to the sheet's own file";
     EXPECT_EQ(shown(1), 3);
+
+    dialogs.paths.push_back("/home/Lake1.csv");
+    mnuSaveCopy_Click();
+    EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.mnuSave.enabled)
+        << "written over the sheet's own file";
 }
 
 TEST_F(SheetFiles, everyFailedWriteIsToldAndCostsNothing)
@@ -187,7 +192,10 @@ TEST_F(SheetFiles, openingShowsTheLastSampleAndForgetsTheSheetBefore)
     frmMain = MainScreen();
     sheet.SoundOn = true;
     sheet.SheetUnnamed = false;
+    sheet.DiversityCurve = {0, 10, 20};
     open("/home/Lake1.csv");
+    for (const int point : sheet.DiversityCurve)
+        EXPECT_EQ(point, 0) << "of the sheet before";
     EXPECT_EQ(sheet.CurrentSample, 2);
     EXPECT_EQ(shown(1), 3);
     EXPECT_EQ(frmMain.Text3[0].text, "3");

@@ -1,8 +1,11 @@
 #include "files/save_sheet.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
+#include "core/offers.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
@@ -17,16 +20,14 @@
 
 namespace {
 
-enum Mode { plain = 0, copy = 55, saveAs = 77, untouched = 99, percentageTable = 100 };
-
-bool isPercentageTable(int mode)
+bool isPercentageTable(SaveMode mode)
 {
-    return mode >= percentageTable;
+    return mode >= SaveMode::percentAll;
 }
 
-std::string proposedName(int mode)
+std::string proposedName(SaveMode mode)
 {
-    if (mode == copy)
+    if (mode == SaveMode::copy)
         return proposedCopyName(sheet.SheetPath, ports.clock->now().date);
     return isPercentageTable(mode) ? proposedTableName(sheet.SheetPath) : sheet.SheetPath;
 }
@@ -42,23 +43,23 @@ void endCancelled()
 void endFailed()
 {
     sheet.SaveResult = 2;
-    ports.dialogs->ask("The file is being used by another software. Please close the file and try again.",
-                       "Error", Buttons::ok, Icon::exclamation);
+    tellFileInUse();
     endProgress();
 }
 
-std::string fileText(int mode, const std::vector<SampleTotals>& totals)
+std::string fileText(SaveMode mode, const std::vector<SampleTotals>& totals)
 {
     if (!isPercentageTable(mode))
         return dataSheetText(sheet, totals);
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         ComputePercentages(sample);
-    return percentageTableText(sheet, sheet.Share, totals, mode - percentageTable);
+    return percentageTableText(sheet, sheet.Share, totals,
+                               static_cast<int>(mode) - static_cast<int>(SaveMode::percentAll));
 }
 
 /// Writes the sheet; what the writing has changed in it goes back if it fails. `sheetPath`: what the file
 /// calls the sheet.
-bool write(int mode, const std::string& path, const std::string& sheetPath,
+bool write(SaveMode mode, const std::string& path, const std::string& sheetPath,
            const std::vector<SampleTotals>& totals)
 {
     const Moment now = ports.clock->now();
@@ -68,7 +69,7 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
 
     copyBeforeOverwriting();
     stampHead("Last modified (dd/mm/yyyy):", sheetPath, now);
-    if (mode == plain && !sheet.FreshSheet)
+    if (mode == SaveMode::plain && !sheet.FreshSheet)
         modified = dateStamp(now);
     fillEmptyCells(sheet, shownCaptions());
     const std::string text = fileText(mode, totals);
@@ -82,7 +83,7 @@ bool write(int mode, const std::string& path, const std::string& sheetPath,
             markUnsavedWork(); // what was saved there may be cut short
         return false;
     }
-    if (mode == plain && !sheet.FreshSheet)
+    if (mode == SaveMode::plain && !sheet.FreshSheet)
         frmMain.Label14[2].caption = modified;
     return true;
 }
@@ -98,7 +99,7 @@ void takeName(const std::string& path, const std::string& name)
 
 } // namespace
 
-void SaveSheet(int mode)
+void SaveSheet(SaveMode mode)
 {
     if (!sheet.KeysActive) { // the boxes show percentages, which must not become counts
         sheet.SaveResult = 2;
@@ -113,11 +114,11 @@ void SaveSheet(int mode)
         return;
     }
     const bool isTable = isPercentageTable(mode);
-    if (!isTable && (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != copy)))
-        mode = saveAs;
+    if (!isTable && (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != SaveMode::copy)))
+        mode = SaveMode::saveAs;
 
     std::string path = sheet.SheetPath;
-    if (mode == saveAs || mode == copy || isTable) {
+    if (mode == SaveMode::saveAs || mode == SaveMode::copy || isTable) {
         const auto chosen = ports.dialogs->chooseFileToSave(proposedName(mode));
         if (!chosen) {
             endCancelled();
@@ -125,7 +126,8 @@ void SaveSheet(int mode)
         }
         path = *chosen;
     }
-    const bool namesSheet = mode == saveAs || (isTable && sheet.SheetUnnamed); // on purpose of a table too
+    const bool namesSheet =
+        mode == SaveMode::saveAs || (isTable && sheet.SheetUnnamed); // on purpose of a table too
     const auto name = baseName(path);
     if (namesSheet &&
         !name) { // a name without a point: the file is there, empty, and the sheet stays unnamed
@@ -145,40 +147,44 @@ void SaveSheet(int mode)
     if (isTable) {
         if (path == sheet.SheetPath)
             markUnsavedWork(); // the sheet's own file holds no counts now
-    } else if (mode != copy || path == sheet.SheetPath) {
-        frmMain.Command5[0].enabled = frmMain.mnuSave.enabled = false;
+    } else if (mode != SaveMode::copy || path == sheet.SheetPath) {
+        offerSave(false);
         sheet.TemplateOpened = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
     }
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundSave);
+    playCue(Cue::SoundSave);
     if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows
-        frmMain.Command5[1].enabled = frmMain.mnuNext.enabled = frmMain.mnuSaveCopy.enabled = true;
-    logAction(mode == saveAs ? "(Save as)" : mode == copy ? "(Save copy)" : "(Save)");
-    if (mode == plain && !sheet.Modifying)
+    {
+        offerNextSample(true);
+        frmMain.mnuSaveCopy.enabled = true;
+    }
+    logAction(mode == SaveMode::saveAs ? "(Save as)" : mode == SaveMode::copy ? "(Save copy)" : "(Save)");
+    if (mode == SaveMode::plain && !sheet.Modifying)
         frmMain.focus = MainFocus::Text99;
     endProgress();
 }
 
 void mnuSave_Click()
 {
-    SaveSheet(sheet.SheetPristine ? untouched : plain);
+    SaveSheet(plainOrUntouched());
 }
 
 void mnuSaveAs_Click()
 {
-    SaveSheet(saveAs);
+    SaveSheet(SaveMode::saveAs);
 }
 
 void mnuSaveCopy_Click()
 {
-    SaveSheet(copy);
+    SaveSheet(SaveMode::copy);
 }
 
 static void savePercentageTable(int basis)
 {
     selectBasis(basis); // on the main window too, and it stays so
-    SaveSheet(percentageTable + basis);
+    constexpr SaveMode tables[] = {SaveMode::percentAll, SaveMode::percentSubtotal1,
+                                   SaveMode::percentSubtotal2};
+    SaveSheet(tables[basis]);
     sheet.AlarmArmed = true;
 }
 

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "core/save_mode.h"
+
 /// The one writer of data sheets and percentage tables.
-/// `mode`: 0 plain save of a touched sheet, 99 plain save of an untouched one, 77 save as, 55 save a copy,
-/// 100 to 102 percentages by the all total and the two subtotals, whose basis is to be selected first. A
-/// sheet without a file, and one begun from a template, is saved as. The file is composed before it is
+/// The basis of a table of percentages is to be selected first. A sheet without a file, and one begun from a
+/// template, is saved as. The file is composed before it is
 /// opened. A percentage table gives its name to a sheet that no dialog has named, and is no save of the
 /// counts. A cancelled dialog and a failure set SaveResult to 2 and leave the sheet, its name and its marks
 /// of unsaved work as they were; a failure is told.
-void SaveSheet(int mode);
+void SaveSheet(SaveMode mode);
 
 void mnuSave_Click();
 void mnuSaveAs_Click();

@@ -2,6 +2,7 @@
 
 #include "core/fields.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 #include <cmath>
 
@@ -130,7 +131,7 @@ private:
                  {sheet_.SheetHeader[2][3], &SampleTotals::subtotal2},
                  {"All total", &SampleTotals::all}}};
     }
-    void totalHead(const std::string& name) { fields_.text("---").text("---").text("---").text(name); }
+    void totalHead(const std::string& name) { fields_.text(noText).text(noText).text(noText).text(name); }
 
     const SheetTables& sheet_;
     int samples_;
@@ -142,7 +143,7 @@ private:
 void fill(std::string& text)
 {
     if (text.empty())
-        text = "---";
+        text = noText;
 }
 
 } // namespace

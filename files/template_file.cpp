@@ -1,5 +1,6 @@
 #include "files/template_file.h"
 
+#include "core/cue.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/sheet_on_screen.h"
@@ -15,8 +16,7 @@ void mnuTemplate_Click()
         if (ports.files->write(*path, templateText(sheet))) {
             if (!sheet.Modifying)
                 frmMain.focus = MainFocus::Text99;
-            if (sheet.SoundOn)
-                ports.sound->play(Cue::SoundSave);
+            playCue(Cue::SoundSave);
         }
     }
     endProgress();

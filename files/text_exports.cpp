@@ -1,6 +1,7 @@
 #include "files/text_exports.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
 #include "files/export_text.h"
@@ -18,8 +19,7 @@ void mnuSaveHistory_Click()
     beginProgress(sheet.ActionCount);
     if (const auto path = chooseExport("History.csv")) {
         if (ports.files->write(*path, historyText(sheet, logTime(ports.clock->now())))) {
-            if (sheet.SoundOn)
-                ports.sound->play(Cue::SoundSave);
+            playCue(Cue::SoundSave);
             giveFocusBack();
         } else {
             ports.dialogs->ask("Save failed (file is being usd by another application).", "Error!",

@@ -1,5 +1,6 @@
 #include "keys/key_commit.h"
 
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/sheet_state.h"
 #include "keys/key_editor.h"
@@ -12,8 +13,7 @@ namespace {
 
 void refuse(const char* message, int page, KeyBox& one, KeyBox& other)
 {
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+    playCue(Cue::SoundError);
     frmKeyCode_SSTab1_Click(page);
     one.red = other.red = true;
     ports.dialogs->ask(message, "Error", Buttons::ok, Icon::exclamation);

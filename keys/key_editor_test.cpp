@@ -198,6 +198,11 @@ TEST_F(KeyEditor, whatIsCommittedIsInForceAndOnDisk)
     expected[rowUndo] = {"[Delete]", "46", "n/a"};
     EXPECT_EQ(keySettingsText(expected), files.contents[path]);
     EXPECT_EQ(keySettingsText(expected), keySettingsText(sheet.KeySetting));
+
+    sheet.KeySetting[rowShift1Copy].Code = "99";
+    mnuKeyCodeReader_Click();
+    frmKeyCode_Command4_Click();
+    EXPECT_EQ(keySettingsText(expected), files.contents[path]) << "also if Shift-1 is left alone";
 }
 
 TEST_F(KeyEditor, aFileThatCannotBeWrittenLeavesAllAsItWas)

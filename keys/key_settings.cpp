@@ -1,5 +1,6 @@
 #include "keys/key_settings.h"
 
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
@@ -43,8 +44,7 @@ const KeySettingTable& knownKeySettings()
 bool WriteKeySettings(const KeySettingTable& table, bool inForce)
 {
     const bool written = ports.files->write(settingsPath(), keySettingsText(table));
-    if (sheet.SoundOn)
-        ports.sound->play(written ? Cue::SoundSave : Cue::SoundError);
+    playCue(written ? Cue::SoundSave : Cue::SoundError);
     if (!written) {
         ports.dialogs->ask("TallyStrata could not write the key settings (KeySetting.csv). The settings that "
                            "were in use stay in use. Please check that the file is not read-only and that "

@@ -15,19 +15,19 @@ class Files {
 public:
     virtual ~Files() = default;
     /// The bytes of a file; nothing if it is missing, cannot be read, is no file or is larger than `limit`.
-    virtual std::optional<std::string> read(const std::string& path, std::size_t limit) = 0;
+    [[nodiscard]] virtual std::optional<std::string> read(const std::string& path, std::size_t limit) = 0;
     /// Writes a whole file over what is there. False if any step failed: open, room on the disk, write,
     /// flush, close. The old bytes are left alone if the file cannot be opened or the disk has no room for
     /// the new ones.
-    virtual bool write(const std::string& path, std::string_view bytes) = 0;
+    [[nodiscard]] virtual bool write(const std::string& path, std::string_view bytes) = 0;
     /// Makes an empty file where there is none; one that is there keeps its bytes.
     virtual bool create(const std::string& path) = 0;
     /// Puts a whole file in place of what is there: whatever happens, the old or the new one stands.
-    virtual bool replace(const std::string& path, std::string_view bytes) = 0;
+    [[nodiscard]] virtual bool replace(const std::string& path, std::string_view bytes) = 0;
     virtual bool remove(const std::string& path) = 0;
     /// Claims a path for this program until it ends, however it ends, or gives the path free. False if
     /// another running program has it or the folder cannot be written.
-    virtual bool claim(const std::string& path) = 0;
+    [[nodiscard]] virtual bool claim(const std::string& path) = 0;
     virtual void release(const std::string& path) = 0;
 };
 

@@ -91,6 +91,24 @@ TEST_F(LiveCurve, beginsAgainWithAnotherSample)
     EXPECT_EQ(pictures.copied[0].panels[0].drawing.marks, frmMain.Picture2.picture.marks);
 }
 
+TEST_F(LiveCurve, endsWhereItsLengthEndsAndIsEmptyInASampleWithoutCounts)
+{
+    frmMain.Text2[1].text = "32764";
+    tap('Q', 4);
+    EXPECT_EQ(sheet.DiversityTotal, 32767);
+    ASSERT_EQ(sheet.DiversityCurve.size(), 32768);
+    EXPECT_EQ(sheet.DiversityCurve[32766], 10);
+    EXPECT_EQ(sheet.DiversityCurve[32767], 10) << "the last total that has a point";
+
+    Combo2_Click("10");
+    EXPECT_TRUE(frmMain.Picture2.picture.marks.empty());
+    EXPECT_EQ(sheet.DiversityCurve, std::vector<std::int16_t>{0});
+    expectStaleQuestion(Answer::yes);
+    tap('Q');
+    EXPECT_EQ(sheet.DiversityCurve, (std::vector<std::int16_t>{0, 10}));
+    EXPECT_EQ(redLines().size(), 1);
+}
+
 TEST(LongCurve, isDrawnWithNoMoreLinesThanPixelsAndLooksTheSame)
 {
     constexpr int total = 32767;

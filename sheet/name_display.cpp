@@ -1,6 +1,7 @@
 #include "sheet/name_display.h"
 
 #include "core/main_screen.h"
+#include "core/taxon_name.h"
 #include "sheet/focus_and_pointer.h"
 
 #include <algorithm>
@@ -8,8 +9,7 @@
 
 static bool isUpright(std::string_view name)
 {
-    const std::string_view ending = name.size() < 2 ? name : name.substr(name.size() - 2);
-    return ending == "ae" || ending == "AE" || name == "---";
+    return isFamily(name) || name == noText;
 }
 
 void ApplyItalics()

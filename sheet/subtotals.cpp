@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "core/recount_totals.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 
 SubtotalForm frmSubtotal;
 static const Form form("frmSubtotal", frmSubtotal.visible, frmSubtotal_Command3_Click);
@@ -64,7 +65,7 @@ void mnuSubtotal_Click()
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         const std::string& name = sheet.TaxonRecord[slot].Name;
         CheckBox& box = frmSubtotal.Check1[slot];
-        box.caption = name.empty() || name == "---" ? decimalText(slot) + ": ---" : name;
+        box.caption = name.empty() || name == noText ? decimalText(slot) + ": ---" : name;
         box.top = frmMain.Text1[slot].top;
         box.left = frmMain.Text1[slot].left;
     }

@@ -3,6 +3,7 @@
 #include "core/forms.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ void LaunchSummary()
     for (const int slot : slots)
         frmSummary.Text1.text += decimalText(rank++) + ": " + frmMain.Text1[slot].text +
                                  " (n = " + decimalText(wholeNumber(frmMain.Text2[slot].text)) + ")\r\n";
-    frmSummary.Text1.text += "---";
+    frmSummary.Text1.text += noText;
 }
 
 void frmSummary_Unload()

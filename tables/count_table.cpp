@@ -279,8 +279,6 @@ void CountTableReader::name()
         if (result_.samples.back().empty())
             result_.samples.back() = decimalText(static_cast<long long>(result_.samples.size())) + ": ---";
     }
-    remarkEqualNames(result_.taxa, "taxa");
-    remarkEqualNames(result_.samples, "samples");
 }
 
 void CountTableReader::remarkEqualNames(const std::vector<std::string>& names, const char* what)

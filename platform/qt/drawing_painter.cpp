@@ -14,32 +14,6 @@ QColor shownColour(Colour colour)
     return {colour.red, colour.green, colour.blue};
 }
 
-/// Cuts a line at the edges of a panel, for files whose readers know no clipping. False if nothing is left.
-bool clip(QLineF& line, const QRectF& panel)
-{
-    double begin = 0;
-    double end = 1;
-    const QPointF from = line.p1();
-    const QPointF along = line.p2() - from;
-    const struct {
-        double step;
-        double room;
-    } edges[] = {{-along.x(), from.x() - panel.left()},
-                 {along.x(), panel.right() - from.x()},
-                 {-along.y(), from.y() - panel.top()},
-                 {along.y(), panel.bottom() - from.y()}};
-    for (const auto& [step, room] : edges) {
-        if (step == 0 && room < 0)
-            return false;
-        if (step < 0)
-            begin = std::max(begin, room / step);
-        if (step > 0)
-            end = std::min(end, room / step);
-    }
-    line = QLineF(from + begin * along, from + end * along);
-    return begin <= end;
-}
-
 class DrawingPainter {
 public:
     DrawingPainter(QPainter& painter, const Drawing& drawing, const Scale& scale, const QRectF& target,
@@ -85,9 +59,9 @@ private:
         const Colour pen = mark->pen;
         segments_.clear();
         for (; mark != drawing_.marks.end() && mark->kind == Mark::Kind::line && mark->pen == pen; ++mark) {
-            QLineF line(x(mark->x1), y(mark->y1), x(mark->x2), y(mark->y2));
+            const QLineF line(x(mark->x1), y(mark->y1), x(mark->x2), y(mark->y2));
             // A share of 0 must not leave a dot.
-            if (line.p1() != line.p2() && (lines_ == LineWidth::onePixel || clip(line, target_)))
+            if (line.p1() != line.p2())
                 segments_.push_back(line);
         }
         setPen(pen);

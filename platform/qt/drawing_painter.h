@@ -17,6 +17,5 @@ enum class LineWidth {
 QFont fontOf(const Letters& letters, int dotsPerInch);
 
 /// Paints a drawing so that its scale fills `target` (in the painter's own units, pixels of the design).
-/// Hairlines are cut at its edges.
 void paintDrawing(QPainter& painter, const Drawing& drawing, const Scale& scale, const QRectF& target,
                   LineWidth lines);

@@ -1,6 +1,8 @@
 #include "platform/qt/figures.h"
 
+#include "platform/page_svg.h"
 #include "platform/qt/drawing_painter.h"
+#include "platform/qt/figure_page.h"
 #include "platform/qt/text.h"
 
 #include <QBuffer>
@@ -12,7 +14,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QScreen>
-#include <QSvgGenerator>
 #include <algorithm>
 #include <cmath>
 
@@ -58,24 +59,6 @@ QByteArray pngOf(const QImage& image)
     return bytes;
 }
 
-QByteArray figureSvg(const Figure& figure)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    const QSizeF size(figure.width, figure.height);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setResolution(96);
-    generator.setSize(size.toSize());
-    generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle("TallyStrata");
-    QPainter painter(&generator);
-    paintFigure(painter, figure, LineWidth::hairline);
-    painter.end();
-    return bytes;
-}
-
 QByteArray figurePdf(const Figure& figure)
 {
     QByteArray bytes;
@@ -101,16 +84,16 @@ void QtPictures::copy(const Figure& figure)
     const QImage image = figureImage(figure);
     data->setImageData(image);
     data->setData("image/png", pngOf(image));
-    data->setData("image/svg+xml", figureSvg(figure));
+    data->setData("image/svg+xml", QByteArray::fromStdString(svgText(pageOf(figure))));
     data->setData("application/pdf", figurePdf(figure));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
 std::string QtPictures::encode(const Figure& figure, PictureFormat format)
 {
-    const QByteArray bytes = format == PictureFormat::svg   ? figureSvg(figure)
-                             : format == PictureFormat::pdf ? figurePdf(figure)
-                                                            : pngOf(figureImage(figure));
+    if (format == PictureFormat::svg)
+        return svgText(pageOf(figure));
+    const QByteArray bytes = format == PictureFormat::pdf ? figurePdf(figure) : pngOf(figureImage(figure));
     return bytes.toStdString();
 }
 

@@ -1,0 +1,68 @@
+#include "figure/figure_data.h"
+
+#include "core/number_text.h"
+#include "core/sample_names.h"
+#include "core/sheet_name.h"
+#include "platform/code_page.h"
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+/// A name that stands twice gets a number, so that settings can tell the taxa apart.
+std::string uniqueName(std::map<std::string, int>& seen, const std::string& name)
+{
+    const int times = ++seen[name];
+    return times == 1 ? name : uniqueName(seen, name + " (" + decimalText(times) + ")");
+}
+
+void collectSamples(FigureData& data, const SheetState& sheet)
+{
+    data.byDepth = true;
+    for (int column = 1; column <= sheet.SampleCount; ++column) {
+        const std::string& name = sheet.SampleField(column, 2);
+        data.byDepth = data.byDepth && isDepth(name);
+        data.samples.push_back({utf8FromCodePage(name), leadingNumber(name), column});
+    }
+    const auto shallower = [](const FigureSample& a, const FigureSample& b) { return a.depth < b.depth; };
+    const auto [least, most] = std::minmax_element(data.samples.begin(), data.samples.end(), shallower);
+    data.byDepth = data.byDepth && least != data.samples.end() &&
+                   (data.samples.size() == 1 || least->depth < most->depth);
+    if (data.byDepth)
+        std::stable_sort(data.samples.begin(), data.samples.end(), shallower);
+    else
+        for (FigureSample& sample : data.samples)
+            sample.depth = sample.column;
+}
+
+} // namespace
+
+FigureData figureData(const SheetState& sheet)
+{
+    FigureData data;
+    collectSamples(data, sheet);
+    std::map<std::string, int> seen;
+    for (int row = 1; row <= taxonSlots; ++row) {
+        const int slot = sheet.KeyIndexOfRow[row];
+        const TaxonFields& fields = sheet.TaxonRecord[slot];
+        FigureTaxon taxon;
+        taxon.counts.reserve(data.samples.size());
+        bool counted = false;
+        for (const FigureSample& sample : data.samples) {
+            taxon.counts.push_back(std::max(0, sheet.Count(sample.column, slot))); // no share is below 0
+            counted = counted || taxon.counts.back() > 0;
+        }
+        if (!counted)
+            continue;
+        const bool named = !fields.Name.empty() && fields.Name != "---";
+        taxon.name = uniqueName(seen, named ? utf8FromCodePage(fields.Name) : "Unnamed " + decimalText(slot));
+        taxon.inSubtotal1 = fields.Subtotal1 == "1";
+        taxon.inSubtotal2 = fields.Subtotal2 == "1";
+        data.taxa.push_back(std::move(taxon));
+    }
+    data.totals = {"all individuals", utf8FromCodePage(sheet.SheetHeader[2][2]),
+                   utf8FromCodePage(sheet.SheetHeader[2][3])};
+    data.sheetName = sheet.SheetPath.size() < 4 ? "" : baseName(sheet.SheetPath).value_or("");
+    return data;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/sheet_state_type.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What figures and clusters are made from: the sheet's counts, without anything that only the screen needs.
+
+struct FigureSample {
+    std::string name; ///< UTF-8
+    double depth = 0; ///< if FigureData::byDepth; else its place in the sheet, from 1
+    int column = 0;   ///< in the sheet, from 1
+};
+
+struct FigureTaxon {
+    std::string
+        name; ///< UTF-8, unique: "Unnamed 17" for a row without one, " (2)" behind a name that repeats
+    bool inSubtotal1 = false;
+    bool inSubtotal2 = false;
+    std::vector<double> counts; ///< of each sample, in the order of `samples`
+};
+
+struct FigureData {
+    bool byDepth = false;              ///< all names are depths, and not all the same one
+    std::vector<FigureSample> samples; ///< by depth, the shallowest first, equal ones as in the sheet
+    std::vector<FigureTaxon> taxa;     ///< that have a count somewhere, in the order of the sheet's rows
+    std::array<std::string, 3> totals; ///< names of the basis: "all individuals" and the two subtotals
+    std::string sheetName;             ///< of the file; empty: it has none yet
+};
+
+FigureData figureData(const SheetState& sheet);
