@@ -1,5 +1,6 @@
 #include "tables/table_exports.h"
 
+#include "core/cue.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_name.h"
@@ -27,13 +28,12 @@ std::string tidyTableOfSheet(const SheetTables& state)
 
 struct Export {
     const char* ending;
-    const char* dialogTitle;
     std::string (*text)(const SheetTables&);
 };
 
-constexpr Export counts = {"_counts.csv", "Export table of counts", countsTable};
-constexpr Export tidy = {"_tidy.csv", "Export tidy table", tidyTableOfSheet};
-constexpr Export taxa = {"_taxa.csv", "Export table of taxa", taxaTable};
+constexpr Export counts = {"_counts.csv", countsTable};
+constexpr Export tidy = {"_tidy.csv", tidyTableOfSheet};
+constexpr Export taxa = {"_taxa.csv", taxaTable};
 
 std::size_t endOfFolder(const std::string& path)
 {
@@ -77,15 +77,14 @@ bool write(const Export& table, const std::string& path)
 
 void tellWritten(const std::string& what)
 {
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundSave);
+    playCue(Cue::SoundSave);
     frmMain.notice = what + " written. The sheet itself is not saved by that.";
 }
 
 void exportOne(const Export& table)
 {
     storeShownSample();
-    const auto path = ports.dialogs->chooseFileToSave(table.dialogTitle, besideTheSheet(table));
+    const auto path = ports.dialogs->chooseFileToSave(besideTheSheet(table));
     if (path && write(table, *path))
         tellWritten("'" + fileName(*path) + "'");
 }

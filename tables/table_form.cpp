@@ -1,11 +1,14 @@
 #include "tables/table_form.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/forms.h"
 #include "core/main_screen.h"
+#include "core/messages.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "files/open_sheet.h"
 #include "files/sheet_text.h"
 #include "platform/code_page.h"
@@ -70,8 +73,12 @@ void showTable()
         f.Text1.text = "\"?\" stands for " +
                        numberOf(static_cast<std::size_t>(f.replaced), "character", "characters") +
                        " that a data sheet cannot hold.\r\n";
-    for (const std::string& remark : table.remarks)
-        f.Text1.text += remark + "\r\n";
+    constexpr std::size_t shown = 100; // of a table that is none, there may be any number
+    for (std::size_t i = 0; i < std::min(shown, table.remarks.size()); ++i)
+        f.Text1.text += table.remarks[i] + "\r\n";
+    if (table.remarks.size() > shown)
+        f.Text1.text += "And " + decimalText(static_cast<long long>(table.remarks.size() - shown)) +
+                        " more of this kind.\r\n";
     if (f.Text1.text.empty())
         f.Text1.text = "Nothing is left out.";
     f.Check1.visible = table.surplusTaxa > 0;
@@ -86,10 +93,8 @@ bool sheetMayGo()
 {
     if (sheet.SheetPristine && !hasUnsavedWork())
         return true;
-    if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
-    return ports.dialogs->ask("This action will abort current data. Do you proceed?", "Caution!",
-                              Buttons::yesNo, Icon::question) == Answer::yes;
+    playCue(Cue::SoundError);
+    return mayLoseCounts();
 }
 
 /// The table as the text of a data sheet.
@@ -97,7 +102,7 @@ std::string sheetText(const CountTable& table)
 {
     SheetTables made;
     const Moment now = ports.clock->now();
-    made.SheetHeader[1] = {"", "Untitled", "Last modified (dd/mm/yyyy):", "---", "Serial No."};
+    made.SheetHeader[1] = {"", "Untitled", "Last modified (dd/mm/yyyy):", noText, "Serial No."};
     made.SampleCount = static_cast<int>(table.samples.size());
     for (std::size_t taxon = 0; taxon < table.taxa.size(); ++taxon)
         made.TaxonRecord[taxon + 1].Name = table.taxa[taxon];

@@ -221,12 +221,13 @@ TEST_F(TableForms, aListOfTaxaGoesIntoFreeRowsAndResetTakesItBack)
 
 TEST_F(TableForms, linesPastedIntoABoxAreOfferedAsAList)
 {
-    EXPECT_FALSE(offerPastedTaxa("Pinus\nBetula\n")); // keys count now
+    EXPECT_FALSE(Text1_Paste(1, "Pinus\nBetula\n")); // keys count now
     AmendingOnOff(0);
-    EXPECT_FALSE(offerPastedTaxa("Pinus\r\n"));
+    EXPECT_FALSE(Text1_Paste(1, "Pinus\r\n"));
+    EXPECT_FALSE(Text1_Paste(0, "Pinus\nBetula\n"));
     Text1_GotFocus(1);
     Text1_Edited(1, "Pi", 2);
-    EXPECT_TRUE(offerPastedTaxa("Pinus\nBetula\n"));
+    EXPECT_TRUE(Text1_Paste(1, "Pinus\nBetula\n"));
     EXPECT_EQ(frmTaxa.Text2.text, "2: Pinus\r\n3: Betula\r\n"); // what was typed stays
     frmTaxa_Command1_Click();
     leaveEditedBox();

@@ -17,6 +17,8 @@ static const Form form("frmTaxa", frmTaxa.visible, frmTaxa_Command2_Click);
 
 namespace {
 
+constexpr std::size_t listLimit = 100000; // characters; 135 names take a tenth of it
+
 /// The name that a subtotal has once the list is taken over.
 const std::string& nameToBe(int subtotal)
 {
@@ -53,11 +55,19 @@ void showPlan()
     frmTaxa.Command1.enabled = rows > 0;
 }
 
+void takeList(std::string_view list)
+{
+    if (list.size() > listLimit)
+        frmMain.notice = "Only the beginning of the list was taken: it is longer than any list of taxa.";
+    frmTaxa.Text1.text = list.substr(0, listLimit);
+    frmTaxa.Text1.caret = 0;
+    showPlan();
+}
+
 void open(std::string_view list)
 {
     frmTaxa = {};
-    frmTaxa.Text1.text = list;
-    showPlan();
+    takeList(list);
     openAboveMain(frmTaxa.visible);
 }
 
@@ -69,9 +79,9 @@ void mnuTaxaFromList_Click()
         open("");
 }
 
-bool offerPastedTaxa(std::string_view text)
+bool Text1_Paste(int slot, std::string_view text)
 {
-    if (!sheet.Modifying || readTaxonList(text).size() < 2)
+    if (slot == 0 || !sheet.Modifying || readTaxonList(text.substr(0, listLimit)).size() < 2)
         return false;
     open(text);
     return true;
@@ -120,7 +130,5 @@ void frmTaxa_Command3_Click()
     const auto file = chooseTable("Open list of taxa");
     if (!file)
         return;
-    frmTaxa.Text1.text = file->decoded.text;
-    frmTaxa.Text1.caret = 0;
-    showPlan();
+    takeList(file->decoded.text);
 }

@@ -18,9 +18,9 @@ extern TaxaForm frmTaxa;
 
 /// Opens the form without a list.
 void mnuTaxaFromList_Click();
-/// Several lines that were pasted into the box of a taxon. False outside Modify template mode, and for a
-/// single line: the box takes it.
-bool offerPastedTaxa(std::string_view text);
+/// What is pasted into the box of a name. Several lines in that of a taxon open the form with them. False in
+/// the box of the sample, outside Modify template mode, and for a single line: the box takes it.
+bool Text1_Paste(int slot, std::string_view text);
 
 void frmTaxa_Text1_Edited(std::string_view text, int caret);
 /// "Take over": the names stand in their rows, with one line in the log.

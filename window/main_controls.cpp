@@ -14,6 +14,7 @@
 #include "sheet/name_display.h"
 #include "sheet/percent_view.h"
 #include "sheet/sample_choice.h"
+#include "tables/taxa_form.h"
 #include "window/main_window.h"
 
 namespace {
@@ -57,6 +58,7 @@ std::vector<ControlRow> mainControls()
          .pressed = Text1_MouseDown,
          .menu = "mnuRightButton",
          .doubleClicked = Text1_DblClick,
+         .pasted = Text1_Paste,
          .hovered = Text1_MouseMove},
         {.name = "Text2",
          .record = f.Text2.data(),

@@ -14,6 +14,7 @@
 #include "window/sample_windows.h"
 #include "window/subtotal_window.h"
 #include "window/summary_window.h"
+#include "window/table_windows.h"
 
 namespace {
 
@@ -37,6 +38,8 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmParaName", build<ParameterNameWindow>},
             {"frmSubtotal", build<SubtotalWindow>},
             {"frmSummary", build<SummaryWindow>},
+            {"frmTable", build<TableWindow>},
+            {"frmTaxa", build<TaxaWindow>},
             {"frmFind", build<FindWindow>},
             {"frmPicture", build<PictureWindow>},
             {"frmAboutApp", build<AboutAppWindow>},

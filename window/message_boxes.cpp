@@ -71,6 +71,19 @@ std::optional<std::string> MessageBoxes::chooseFileToOpen()
     return chosen(QFileDialog::getOpenFileName(windowInFront(), "Open", {}, dataFiles));
 }
 
+std::optional<std::string> MessageBoxes::chooseTableToOpen(std::string_view title)
+{
+    window_.present();
+    return chosen(QFileDialog::getOpenFileName(windowInFront(), shownText(title), {},
+                                               "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)"));
+}
+
+std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)
+{
+    window_.present();
+    return chosen(QFileDialog::getExistingDirectory(windowInFront(), shownText(title)));
+}
+
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
     window_.present();

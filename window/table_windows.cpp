@@ -1,5 +1,6 @@
 #include "window/table_windows.h"
 
+#include "platform/qt/text.h"
 #include "tables/table_form.h"
 #include "tables/taxa_form.h"
 #include "window/elided_label.h"
@@ -44,6 +45,7 @@ TableWindow::TableWindow(MainWindow& main)
     QPlainTextEdit* const remarks = area("Text1");
     makeReadOnly(*remarks);
     remarks->setAccessibleName("What is left out and why");
+    rarest_ = mark<QCheckBox>("Check1");
     QPushButton* const take = button("Command1", "New sheet");
     take->setDefault(true);
     setFirst(take);
@@ -58,10 +60,16 @@ TableWindow::TableWindow(MainWindow& main)
     whole->addWidget(found);
     whole->addWidget(cells());
     whole->addWidget(refusal);
-    whole->addWidget(mark<QCheckBox>("Check1"));
+    whole->addWidget(rarest_);
     whole->addWidget(remarks, 1);
     whole->addLayout(buttons);
     resize(640, 430);
+}
+
+void TableWindow::presentMore()
+{
+    rarest_->setText(shownText(frmTable.Check1.caption));
+    rarest_->setVisible(frmTable.Check1.visible);
 }
 
 QLabel* TableWindow::sentence(const char* name)

@@ -2,6 +2,7 @@
 
 #include "window/form_window.h"
 
+class QCheckBox;
 class QLabel;
 class QWidget;
 
@@ -10,9 +11,14 @@ class TableWindow : public FormWindow {
 public:
     explicit TableWindow(MainWindow& main);
 
+protected:
+    void presentMore() override;
+
 private:
     QLabel* sentence(const char* name);
     QWidget* cells();
+
+    QCheckBox* rarest_;
 };
 
 /// A list of taxa, and where they would go.
