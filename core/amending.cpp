@@ -20,14 +20,15 @@ static void enableCounting(bool enabled)
     MainScreen& f = frmMain;
     for (Button* button : {&f.Command3[0], &f.Command2[0], &f.Command4[0], &f.Command5[0], &f.Command5[1]})
         button->enabled = enabled;
-    for (MenuEntry* entry : {&f.mnuStartAmend, &f.mnuSave, &f.mnuUndo, &f.mnuReset, &f.mnuNew, &f.mnuOpen,
-                             &f.mnuSaveAs, &f.mnuPercent, &f.mnuSaveCopy, &f.mnuFind})
+    for (MenuEntry* entry :
+         {&f.mnuStartAmend, &f.mnuSave, &f.mnuUndo, &f.mnuReset, &f.mnuNew, &f.mnuNewFromTable, &f.mnuOpen,
+          &f.mnuSaveAs, &f.mnuPercent, &f.mnuSaveCopy, &f.mnuFind})
         entry->enabled = enabled;
     for (TextBox& sum : f.Text3)
         sum.enabled = enabled;
     for (Label* label : {&f.Label1[0], &f.Label2[0], &f.Label2[1], &f.Label2[2]})
         label->visible = enabled;
-    f.Command3[1].enabled = f.mnuFinishAmend.enabled = !enabled;
+    f.Command3[1].enabled = f.mnuFinishAmend.enabled = f.mnuTaxaFromList.enabled = !enabled;
     f.mnuNext.enabled = false; // in both directions; the next count opens it
 }
 

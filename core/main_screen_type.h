@@ -75,9 +75,9 @@ struct MainScreen {
     Button Command9;                ///< "Go"
 
     // Menus. Only entries whose state a handler changes stand here.
-    MenuEntry mnuNew, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
+    MenuEntry mnuNew, mnuNewFromTable, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
     MenuEntry mnuPercent, mnuPercentAll, mnuPercentSub1, mnuPercentSub2; ///< captions follow the subtotals
-    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend, mnuFind;
+    MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend, mnuTaxaFromList, mnuFind;
     MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
     MenuEntry mnuItalic, mnuFavorite;
     MenuEntry mnuCopyDiversity, mnuSaveDiversity;    ///< pop-up of the saturation curve

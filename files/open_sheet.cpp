@@ -327,6 +327,23 @@ bool openSheetText(const std::string& text, const std::string& path, const std::
     return true;
 }
 
+void openUnsavedText(const std::string& text)
+{
+    openSheetText(text, "Untitled.csv", std::nullopt);
+    standUnsaved({});
+}
+
+void standUnsaved(const std::string& path)
+{
+    sheet.SheetPath = path;
+    sheet.SheetUnnamed = path.empty();
+    showSheetName(baseName(path).value_or("Untitled"));
+    frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
+    WrapFileLocation();
+    sheet.FreshSheet = false;
+    markUnsavedWork();
+}
+
 void mnuOpen_Click()
 {
     open([] { return ports.dialogs->chooseFileToOpen(); }, false);

@@ -59,6 +59,10 @@ public:
                                                         const std::string& proposed) = 0;
     /// Path of a data file to read, or nothing if the user cancels.
     virtual std::optional<std::string> chooseFileToOpen() = 0;
+    /// Path of a text file with a table or a list, or nothing if the user cancels. `title`: what for.
+    virtual std::optional<std::string> chooseTableToOpen(std::string_view title) = 0;
+    /// Path of a folder, without a separator at its end, or nothing if the user cancels. `title`: what for.
+    virtual std::optional<std::string> chooseFolder(std::string_view title) = 0;
     /// Path of a picture to write, with one of the endings .svg, .pdf and .png, or nothing if the user
     /// cancels.
     virtual std::optional<std::string> choosePictureToSave(const std::string& proposed) = 0;

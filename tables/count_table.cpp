@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/sheet_size.h"
+#include "core/taxon_name.h"
 #include "tables/plain_number.h"
 #include "tables/plain_table.h"
 #include "tables/table_words.h"
@@ -272,7 +273,7 @@ void CountTableReader::name()
     for (const int line : taxonLines_) {
         result_.taxa.push_back(cleanText(at(0, line)));
         if (result_.taxa.back().empty())
-            result_.taxa.back() = "---";
+            result_.taxa.back() = noText;
     }
     for (const int line : sampleLines_) {
         result_.samples.push_back(cleanText(at(line, nameLine_)));

@@ -1,6 +1,7 @@
 #include "tables/exported_taxa.h"
 
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 
 #include <set>
 
@@ -40,7 +41,7 @@ std::vector<ExportedTaxon> exportedTaxa(const SheetTables& sheet)
             taxon.total += count;
             taxon.samples += count != 0;
         }
-        const bool named = !fields.Name.empty() && fields.Name != "---";
+        const bool named = !fields.Name.empty() && fields.Name != noText;
         if (!named && taxon.samples == 0)
             continue;
         if (!named)

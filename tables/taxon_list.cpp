@@ -1,6 +1,7 @@
 #include "tables/taxon_list.h"
 
 #include "core/number_text.h"
+#include "core/taxon_name.h"
 #include "tables/plain_table.h"
 #include "tables/table_words.h"
 
@@ -26,7 +27,7 @@ bool isYes(std::string_view cell)
 
 bool isName(std::string_view name)
 {
-    return !name.empty() && name != "---";
+    return !name.empty() && name != noText;
 }
 
 std::vector<ListedTaxon> readColumns(const PlainTable& table, int names)

@@ -82,6 +82,7 @@ struct ControlRow {
     bool (*pressed)(int index, bool rightButton) = nullptr; ///< a mouse button; true: `menu` opens
     const char* menu = nullptr;                             ///< name of the menu that a press may open
     void (*doubleClicked)() = nullptr;
+    bool (*pasted)(int index, std::string_view text) = nullptr; ///< true: the box takes nothing of it
     void (*keyDown)(int index, int keyCode) = nullptr; ///< of a box that takes keys by their being pressed
     void (*keyPress)(int index, char32_t character) = nullptr;
     void (*keyUp)(int index, int keyCode) = nullptr;

@@ -16,6 +16,7 @@
 #include "sheet/sample_choice.h"
 #include "statistics/statistics_line.h"
 #include "statistics/target.h"
+#include "tables/taxa_form.h"
 #include "window/main_window.h"
 
 namespace {
@@ -59,6 +60,7 @@ std::vector<ControlRow> mainControls()
          .pressed = Text1_MouseDown,
          .menu = "mnuRightButton",
          .doubleClicked = Text1_DblClick,
+         .pasted = Text1_Paste,
          .hovered = Text1_MouseMove},
         {.name = "Text2",
          .record = f.Text2.data(),

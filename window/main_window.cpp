@@ -143,6 +143,9 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
             onEvent(Command6_MouseUp);
         return false;
     case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent&>(*event).button() == Qt::MiddleButton &&
+            boxPasted(static_cast<QWidget*>(target), QClipboard::Selection))
+            return true;
         if (target == percent_ && static_cast<QMouseEvent&>(*event).button() == Qt::LeftButton)
             onEvent(Command6_MouseUp);
         if (target == enteredByMouse_ && !enteredByMouse_->hasSelectedText())

@@ -5,6 +5,7 @@
 #include "statistics/watch_counts.h"
 #include "window/bound_window.h"
 
+#include <QClipboard>
 #include <QMainWindow>
 #include <QPalette>
 #include <array>
@@ -96,6 +97,8 @@ private:
     /// True if the key press, its release or the wish for a menu goes no further.
     bool keyOnControl(QWidget* control, const QEvent& event);
     void boxDoubleClicked(const QWidget* box);
+    /// True if what is pasted from a clipboard does not go into the box.
+    bool boxPasted(const QWidget* box, QClipboard::Mode clipboard);
     void boxEntered(QWidget* box, Qt::FocusReason reason);
     void presentMode();
 

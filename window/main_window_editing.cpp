@@ -3,6 +3,7 @@
 
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
 #include "window/main_window.h"
@@ -11,6 +12,7 @@
 #include "window/taxon_page.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -75,9 +77,13 @@ bool MainWindow::keyOnControl(QWidget* control, const QEvent& event)
         return boxPressed(control, QMouseEvent(QEvent::MouseButtonPress, middle, control->mapToGlobal(middle),
                                                Qt::RightButton, Qt::RightButton, Qt::NoModifier));
     }
-    if (control != percent_ || event.type() == QEvent::ContextMenu)
+    if (event.type() == QEvent::ContextMenu)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(event);
+    if (event.type() == QEvent::KeyPress && key.matches(QKeySequence::Paste))
+        return boxPasted(control, QClipboard::Clipboard);
+    if (control != percent_)
+        return false;
     if (key.key() == Qt::Key_Space && !key.isAutoRepeat())
         onEvent(event.type() == QEvent::KeyPress ? Command6_MouseDown : Command6_MouseUp);
     return false;
@@ -87,6 +93,17 @@ void MainWindow::boxDoubleClicked(const QWidget* box)
 {
     if (const ControlRow* const kind = controlOf(box).kind; kind != nullptr && kind->doubleClicked != nullptr)
         onEvent(kind->doubleClicked);
+}
+
+bool MainWindow::boxPasted(const QWidget* box, QClipboard::Mode clipboard)
+{
+    const auto [kind, index] = controlOf(box);
+    if (kind == nullptr || kind->pasted == nullptr || !sheet.Modifying)
+        return false;
+    const std::string text = heldText(QApplication::clipboard()->text(clipboard));
+    bool elsewhere = false;
+    onEvent([&, row = kind, place = index] { elsewhere = row->pasted(place, text); });
+    return elsewhere;
 }
 
 void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)

@@ -15,6 +15,7 @@
 #include "window/statistics_window.h"
 #include "window/subtotal_window.h"
 #include "window/summary_window.h"
+#include "window/table_windows.h"
 #include "window/target_window.h"
 
 namespace {
@@ -34,13 +35,22 @@ MainWindow::SmallWindow::SmallWindow(const char* name, FormWindow* (*maker)(Main
 
 std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
 {
-    return {{"frmSiteName", build<SiteNameWindow>},      {"frmNext", build<NextWindow>},
-            {"frmParaName", build<ParameterNameWindow>}, {"frmSubtotal", build<SubtotalWindow>},
-            {"frmSummary", build<SummaryWindow>},        {"frmFind", build<FindWindow>},
-            {"frmPicture", build<PictureWindow>},        {"frmAboutApp", build<AboutAppWindow>},
-            {"frmAboutDX1", build<AboutKeypadWindow>},   {"frmDiagnose", build<DiagnoseWindow>},
-            {"frmInitial", build<InitialWindow>},        {"frmKeyCode", build<KeyCodeWindow>},
-            {"frmNote", build<KeyNoteWindow>},           {"frmTarget", build<TargetWindow>},
+    return {{"frmSiteName", build<SiteNameWindow>},
+            {"frmNext", build<NextWindow>},
+            {"frmParaName", build<ParameterNameWindow>},
+            {"frmSubtotal", build<SubtotalWindow>},
+            {"frmSummary", build<SummaryWindow>},
+            {"frmTable", build<TableWindow>},
+            {"frmTaxa", build<TaxaWindow>},
+            {"frmFind", build<FindWindow>},
+            {"frmPicture", build<PictureWindow>},
+            {"frmAboutApp", build<AboutAppWindow>},
+            {"frmAboutDX1", build<AboutKeypadWindow>},
+            {"frmDiagnose", build<DiagnoseWindow>},
+            {"frmInitial", build<InitialWindow>},
+            {"frmKeyCode", build<KeyCodeWindow>},
+            {"frmNote", build<KeyNoteWindow>},
+            {"frmTarget", build<TargetWindow>},
             {"frmStatistics", build<StatisticsWindow>}};
 }
 

@@ -27,6 +27,9 @@
 #include "statistics/statistics_form.h"
 #include "statistics/statistics_line.h"
 #include "statistics/target.h"
+#include "tables/table_exports.h"
+#include "tables/table_form.h"
+#include "tables/taxa_form.h"
 #include "window/diagram_window.h"
 #include "window/main_window.h"
 
@@ -37,12 +40,19 @@
 namespace {
 
 const std::vector<MenuRow> menus = {
-    {"mnuFile", "&File", nullptr},        {"mnuPercent", "Save percentage table", "mnuFile"},
-    {"mnuEdit", "&Edit", nullptr},        {"mnuDiagram", "&Diagram", nullptr},
-    {"mnuTools", "&Tools", nullptr},      {"mnuView", "&View", nullptr},
-    {"mnuFont", "Font size", "mnuView"},  {"mnuAlignment", "Alignment", "mnuView"},
-    {"mnuHelp", "&Help", nullptr},        {"mnuTired", "Are you tired?", "mnuHelp"},
-    {"mnuDiversityRB", nullptr, nullptr}, {"mnuHalfWidth", nullptr, nullptr},
+    {"mnuFile", "&File", nullptr},
+    {"mnuPercent", "Save percentage table", "mnuFile"},
+    {"mnuExport", "Export for R and Python", "mnuFile"},
+    {"mnuEdit", "&Edit", nullptr},
+    {"mnuDiagram", "&Diagram", nullptr},
+    {"mnuTools", "&Tools", nullptr},
+    {"mnuView", "&View", nullptr},
+    {"mnuFont", "Font size", "mnuView"},
+    {"mnuAlignment", "Alignment", "mnuView"},
+    {"mnuHelp", "&Help", nullptr},
+    {"mnuTired", "Are you tired?", "mnuHelp"},
+    {"mnuDiversityRB", nullptr, nullptr},
+    {"mnuHalfWidth", nullptr, nullptr},
 };
 
 std::vector<EntryRow> entryTable()
@@ -52,6 +62,7 @@ std::vector<EntryRow> entryTable()
     return {
         {"mnuFile", "mnuNew", "New", &f.mnuNew, mnuNew_Click},
         {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen, mnuOpen_Click},
+        {"mnuFile", "mnuNewFromTable", "New from a table...", &f.mnuNewFromTable, mnuNewFromTable_Click},
         {"mnuFile"},
         {"mnuFile", "mnuSave", "Save", &f.mnuSave, mnuSave_Click},
         {"mnuFile", "mnuSaveAs", "Save as...", &f.mnuSaveAs, mnuSaveAs_Click},
@@ -65,6 +76,10 @@ std::vector<EntryRow> entryTable()
         {"mnuPercent", "mnuPercentAll", "% by All total", &f.mnuPercentAll, mnuPercentAll_Click},
         {"mnuPercent", "mnuPercentSub1", "% by Subtotal-1", &f.mnuPercentSub1, mnuPercentSub1_Click},
         {"mnuPercent", "mnuPercentSub2", "% by Subtotal-2", &f.mnuPercentSub2, mnuPercentSub2_Click},
+        {"mnuExport", "mnuExportCounts", "Counts...", nullptr, mnuExportCounts_Click},
+        {"mnuExport", "mnuExportTidy", "Tidy table...", nullptr, mnuExportTidy_Click},
+        {"mnuExport", "mnuExportTaxa", "Taxa...", nullptr, mnuExportTaxa_Click},
+        {"mnuExport", "mnuExportAll", "All three...", nullptr, mnuExportAll_Click},
         {"mnuFile"},
         {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 
@@ -73,6 +88,7 @@ std::vector<EntryRow> entryTable()
         {"mnuEdit"},
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
+        {"mnuEdit", "mnuTaxaFromList", "Taxa from a list...", &f.mnuTaxaFromList, mnuTaxaFromList_Click},
         {"mnuEdit"},
         {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 

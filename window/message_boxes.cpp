@@ -103,6 +103,19 @@ std::optional<std::string> MessageBoxes::chooseFileToOpen()
     return run(dialog);
 }
 
+std::optional<std::string> MessageBoxes::chooseTableToOpen(std::string_view title)
+{
+    window_.present();
+    return chosen(QFileDialog::getOpenFileName(windowInFront(), shownText(title), {},
+                                               "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)"));
+}
+
+std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)
+{
+    window_.present();
+    return chosen(QFileDialog::getExistingDirectory(windowInFront(), shownText(title)));
+}
+
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
     return choosePathToSave("Save picture", QString::fromStdString(proposed), "Picture(*.svg *.pdf *.png)",

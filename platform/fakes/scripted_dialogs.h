@@ -42,6 +42,8 @@ public:
         return path;
     }
 
+    std::optional<std::string> chooseTableToOpen(std::string_view) override { return chooseFileToOpen(); }
+    std::optional<std::string> chooseFolder(std::string_view) override { return chooseFileToOpen(); }
     std::optional<std::string> choosePictureToSave(const std::string& name) override
     {
         return chooseFileToSave("Save picture", name);

@@ -57,6 +57,12 @@ std::optional<std::string> RandomDialogs::chooseFileToOpen()
     return chance_.oneIn(5) ? std::nullopt : std::optional(fileToOpen());
 }
 
+std::optional<std::string> RandomDialogs::chooseFolder(std::string_view)
+{
+    whenOpened();
+    return purpose || chance_.oneIn(3) ? std::nullopt : std::optional<std::string>("/home");
+}
+
 std::optional<std::string> RandomDialogs::choosePictureToSave(const std::string&)
 {
     whenOpened();

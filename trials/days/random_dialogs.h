@@ -27,6 +27,8 @@ public:
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) override;
     std::optional<std::string> chooseFileToSave(std::string_view title, const std::string& proposed) override;
     std::optional<std::string> chooseFileToOpen() override;
+    std::optional<std::string> chooseTableToOpen(std::string_view) override { return chooseFileToOpen(); }
+    std::optional<std::string> chooseFolder(std::string_view title) override;
     std::optional<std::string> choosePictureToSave(const std::string& proposed) override;
     std::optional<Colour> chooseColour(Colour current) override;
 
