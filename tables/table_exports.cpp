@@ -84,7 +84,7 @@ void tellWritten(const std::string& what)
 void exportOne(const Export& table)
 {
     storeShownSample();
-    const auto path = ports.dialogs->chooseFileToSave(besideTheSheet(table));
+    const auto path = ports.dialogs->chooseFileToSave("Save table", besideTheSheet(table));
     if (path && write(table, *path))
         tellWritten("'" + fileName(*path) + "'");
 }

@@ -106,14 +106,19 @@ std::optional<std::string> MessageBoxes::chooseFileToOpen()
 std::optional<std::string> MessageBoxes::chooseTableToOpen(std::string_view title)
 {
     window_.present();
-    return chosen(QFileDialog::getOpenFileName(windowInFront(), shownText(title), {},
-                                               "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)"));
+    QFileDialog dialog(windowInFront(), shownText(title), startFolder(),
+                       "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)");
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return run(dialog);
 }
 
 std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)
 {
     window_.present();
-    return chosen(QFileDialog::getExistingDirectory(windowInFront(), shownText(title)));
+    QFileDialog dialog(windowInFront(), shownText(title), startFolder());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return run(dialog);
 }
 
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
