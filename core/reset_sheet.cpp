@@ -35,6 +35,7 @@ static void resetScreen()
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         frmMain.Text1[slot].fontSize = before.Text1[slot].fontSize;
         frmMain.Text1[slot].rightAligned = before.Text1[slot].rightAligned;
+        frmMain.Text1[slot].showsEnd = before.Text1[slot].showsEnd;
     }
     hooks.ArrangeTaxonCells();
 }

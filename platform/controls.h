@@ -21,6 +21,7 @@ struct TextBox {
     Colour backColor = RGB(255, 255, 255);
     int top = 0;
     int left = 0;
+    bool showsEnd = false; ///< a text too long for its box is seen from its end
     friend bool operator==(const TextBox&, const TextBox&) = default;
 };
 

@@ -40,8 +40,11 @@ void mnuFontSize_Click(int points)
 
 static void showEnds(bool ofName)
 {
-    for (int slot = 1; slot <= taxonSlots; ++slot)
-        frmMain.Text1[slot].caret = ofName ? static_cast<int>(frmMain.Text1[slot].text.size()) : 0;
+    for (int slot = 1; slot <= taxonSlots; ++slot) {
+        TextBox& name = frmMain.Text1[slot];
+        name.showsEnd = ofName;
+        name.caret = ofName ? static_cast<int>(name.text.size()) : 0;
+    }
 }
 
 void mnuAlign_Click(int side)

@@ -16,10 +16,9 @@
 #include <QAccessible>
 #include <QAction>
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QWindow>
+#include <QTest>
 
 namespace {
 
@@ -37,13 +36,6 @@ protected:
             if (one->objectName() == name)
                 return one;
         return nullptr;
-    }
-    void press(QWidget* target, int key, Qt::KeyboardModifiers modifiers = {})
-    {
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, modifiers);
-            QApplication::sendEvent(target, &event);
-        }
     }
 };
 
@@ -136,16 +128,14 @@ TEST_F(Accessibility, theKeyboardDoesWhatTheMouseDoes)
     const std::string count = frmMain.Text2[34].text;
     auto* const percent = named<QAbstractButton>("Command6");
     percent->setFocus(Qt::TabFocusReason);
-    QKeyEvent down(QEvent::KeyPress, Qt::Key_Space, {});
-    QApplication::sendEvent(percent, &down);
+    QTest::keyPress(percent, Qt::Key_Space);
     EXPECT_FALSE(sheet.KeysActive);
-    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Space, {});
-    QApplication::sendEvent(percent, &up);
+    QTest::keyRelease(percent, Qt::Key_Space);
     EXPECT_TRUE(sheet.KeysActive && frmMain.focus == MainFocus::Text99);
     EXPECT_EQ(frmMain.Text2[34].text, count);
 
     const auto opensMenu = [&](QWidget* from, const char* menu) {
-        press(from, Qt::Key_F10, Qt::ShiftModifier);
+        QTest::keyClick(from, Qt::Key_F10, Qt::ShiftModifier);
         QWidget* const opened = QApplication::activePopupWidget();
         ASSERT_NE(opened, nullptr) << menu;
         EXPECT_EQ(opened->objectName(), menu);
@@ -158,7 +148,7 @@ TEST_F(Accessibility, theKeyboardDoesWhatTheMouseDoes)
     opensMenu(diagram->findChild<QWidget*>("Picture1"), "RB1");
     opensMenu(diagram->findChild<QWidget*>("Picture2"), "RBConiss");
     opensMenu(diagram->findChild<QWidget*>("Picture4"), "RB3");
-    press(diagram->findChild<QWidget*>("Picture1"), Qt::Key_Right);
+    QTest::keyClick(diagram->findChild<QWidget*>("Picture1"), Qt::Key_Right);
     EXPECT_EQ(frmDiagram.HScroll1.value, frmDiagram.HScroll1.smallChange);
     window->onEvent(closeDiagram);
 
@@ -178,7 +168,7 @@ TEST_F(Accessibility, theKeyboardDoesWhatTheMouseDoes)
     EXPECT_NE(form->focusWidget(), close);
     window->onEvent([] { frmDiagnose_KeyDown(27); });
     EXPECT_EQ(form->focusWidget(), close);
-    press(close, Qt::Key_Space);
+    QTest::keyClick(close, Qt::Key_Space);
     EXPECT_TRUE(isMainEnabled());
     frmMain.Command5[0].enabled = false;
 }

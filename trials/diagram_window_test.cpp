@@ -13,13 +13,11 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QImage>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSlider>
-#include <QWindow>
+#include <QTest>
 
 namespace {
 
@@ -52,13 +50,6 @@ protected:
         Widget* const found = diagram->findChild<Widget*>(name);
         EXPECT_NE(found, nullptr) << name;
         return found;
-    }
-    void mouse(QWidget* target, QEvent::Type type, QPoint at, Qt::MouseButton button)
-    {
-        QMouseEvent event(type, at, target->mapToGlobal(at), button,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button),
-                          Qt::NoModifier);
-        QApplication::sendEvent(target, &event);
     }
 };
 
@@ -145,8 +136,7 @@ TEST_F(DiagramWidgets, keyCountsThereAndBringsTheMainWindowForward)
     ASSERT_TRUE(waitFor([this] { return diagram->isActiveWindow(); }));
     EXPECT_TRUE(part<QSlider>("Slider1")->hasFocus());
     const std::string total = frmMain.Text3[0].text;
-    QKeyEvent down(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier, 24, 'q', 0, "q");
-    QApplication::sendEvent(diagram->windowHandle(), &down);
+    pressQ(*diagram);
     EXPECT_NE(frmMain.Text3[0].text, total);
     EXPECT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
 }
@@ -158,13 +148,13 @@ TEST_F(DiagramWidgets, mouseDragsTheLineAndOpensThePopups)
         return QPoint(100, qRound(qreal{row - frmDiagram.Picture1.scale.top} /
                                   frmDiagram.Picture1.scale.height * view->height()));
     };
-    mouse(view, QEvent::MouseMove, rowInView(630), Qt::NoButton);
+    QTest::mouseMove(view, rowInView(630));
     EXPECT_EQ(view->cursor().shape(), Qt::SizeVerCursor);
-    mouse(view, QEvent::MouseButtonPress, rowInView(630), Qt::LeftButton);
-    mouse(view, QEvent::MouseMove, rowInView(10), Qt::LeftButton);
-    mouse(view, QEvent::MouseButtonRelease, rowInView(10), Qt::LeftButton);
+    QTest::mousePress(view, Qt::LeftButton, {}, rowInView(630));
+    QTest::mouseMove(view, rowInView(10));
+    QTest::mouseRelease(view, Qt::LeftButton, {}, rowInView(10));
     EXPECT_EQ(part<QSlider>("Slider1")->value(), 1);
-    mouse(view, QEvent::MouseButtonPress, rowInView(300), Qt::RightButton);
+    QTest::mousePress(view, Qt::RightButton, {}, rowInView(300));
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(QApplication::activePopupWidget()->objectName(), "RB1");
     QApplication::activePopupWidget()->close();

@@ -7,12 +7,12 @@
 #include "core/main_keys.h"
 
 #include <QAction>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 
 TEST_F(RealKeys, lettersFollowTheLayoutAndDigitsTheirPlace)
@@ -244,10 +244,7 @@ TEST_F(RealKeys, aWarningThatFindRaisesIsAnsweredAboveIt)
     named<QAction>("mnuFind")->trigger();
     QWidget* const find = window->findChild<QWidget*>("frmFind");
     ASSERT_TRUE(waitFor([&] { return find->isActiveWindow(); }));
-    for (const char letter : {'B', 'e', 't'}) {
-        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(letter)));
-        QApplication::sendEvent(QApplication::focusWidget(), &event);
-    }
+    QTest::keyClicks(QApplication::focusWidget(), "Bet");
     QTimer::singleShot(300, this->window, [] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);

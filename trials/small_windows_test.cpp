@@ -10,14 +10,13 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
-#include <QWindow>
 
 namespace {
 
@@ -45,11 +44,6 @@ protected:
         Widget* const widget = form->findChild<Widget*>(name);
         EXPECT_NE(widget, nullptr) << name;
         return widget;
-    }
-    void press(int key)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, {});
-        QApplication::sendEvent(form, &event);
     }
 };
 
@@ -79,7 +73,7 @@ TEST_F(SmallWindows, groupsAreTickedNamedAndCancelled)
     name->insert("Herbs"); // as typed
     name->textEdited(name->text());
     EXPECT_EQ(named<QAction>("mnuPercentSub2")->text(), "% by Herbs");
-    press(Qt::Key_Escape);
+    QTest::keyClick(form, Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
     EXPECT_TRUE(isMainEnabled());
     EXPECT_EQ(sheet.TaxonRecord[1].Subtotal1 + sheet.TaxonRecord[1].Subtotal2, "00");
@@ -125,8 +119,7 @@ TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
 
     window->activateWindow();
     ASSERT_TRUE(waitFor([this] { return window->isActiveWindow(); }));
-    QKeyEvent key(QEvent::KeyPress, Qt::Key_Q, {}, 24, 'q', 0, "q");
-    QApplication::sendEvent(window->windowHandle(), &key);
+    pressQ(*window);
     EXPECT_EQ(frmMain.Text2[1].text, "8") << "the manual takes no key from the counting";
     manual->close();
     EXPECT_FALSE(frmManual.visible);

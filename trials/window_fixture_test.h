@@ -8,6 +8,8 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QKeyEvent>
+#include <QWindow>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -49,6 +51,13 @@ protected:
         const QDeadlineTimer deadline(milliseconds);
         while (!deadline.hasExpired())
             QApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+
+    /// The key of the letter Q as a keyboard sends it, with its place on it, which QTest knows nothing of.
+    static void pressQ(QWidget& target)
+    {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Q, {}, 24, 'q', 0, "q");
+        QApplication::sendEvent(target.windowHandle(), &event);
     }
 
     template <class Widget>

@@ -8,18 +8,17 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDropEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 #include <QUrl>
 
 class Widgets : public WindowTest {};
@@ -95,7 +94,8 @@ TEST_F(Widgets, everyControlHasItsName)
 TEST_F(Widgets, aBoxShowsItsRecord)
 {
     TextBox& name = frmMain.Text1[50];
-    name = {"Quercus \xE6", true, true, true, true, true, 8, 3, RGB(255, 255, 110), name.top, name.left};
+    name = {"Quercus \xE6",     true,     true,      true, true, true, 8, 3,
+            RGB(255, 255, 110), name.top, name.left, true};
     frmMain.Text2[50].text = "-12";
     frmMain.Text4.text = "First line\r\nSecond line";
     frmMain.Text4.enabled = true;
@@ -105,7 +105,7 @@ TEST_F(Widgets, aBoxShowsItsRecord)
     EXPECT_EQ(shown->text(), QString::fromUtf8("Quercus æ"));
     EXPECT_TRUE(shown->font().bold() && shown->font().italic() && shown->font().underline());
     EXPECT_TRUE(shown->alignment().testFlag(Qt::AlignRight));
-    EXPECT_EQ(shown->cursorPosition(), 3);
+    EXPECT_EQ(shown->cursorPosition(), 9);
     EXPECT_EQ(shown->palette().color(QPalette::Base), QColor(255, 255, 110));
     EXPECT_EQ(shown->palette().color(QPalette::Text), QColor(Qt::black)) << "dark letters in any theme";
     EXPECT_EQ(named<QLineEdit>("Text2(50)")->text(), "-12");
@@ -223,18 +223,13 @@ TEST_F(Widgets, aClickOnTheSheetReturnsToCountingAndSelectsNothing)
     named<QAbstractButton>("Command8")->setFocus();
     EXPECT_EQ(frmMain.focus, MainFocus::elsewhere);
     QLineEdit* const cell = named<QLineEdit>("Text1(1)");
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
-                                    QEvent::MouseButtonDblClick, QEvent::MouseMove}) {
-        QMouseEvent event(type, {5, 5}, cell->mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton, {});
-        QApplication::sendEvent(cell, &event);
-    }
+    QTest::mouseClick(cell, Qt::LeftButton, {}, {5, 5});
+    QTest::mouseDClick(cell, Qt::LeftButton, {}, {5, 5});
     EXPECT_TRUE(sink->hasFocus());
     frmMain.Label1[9].visible = frmMain.Label1[9].enabled = true;
     window->present();
     QLabel* const index = named<QLabel>("Label1(9)");
-    QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, index->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                      Qt::LeftButton, {});
-    QApplication::sendEvent(index, &press);
+    QTest::mousePress(index, Qt::LeftButton, {}, {5, 5});
     EXPECT_EQ(sheet.MoveSource, 9);
     EXPECT_FALSE(cell->hasSelectedText());
     EXPECT_FALSE(sink->inputMethodQuery(Qt::ImEnabled).toBool()) << "an input method would take the keys";
@@ -267,22 +262,17 @@ TEST_F(Widgets, findShowsATaxonAsItIsTypedAndCountsIt)
     };
     auto* const text = qobject_cast<QLineEdit*>(control("Text1"));
     ASSERT_TRUE(waitFor([&] { return text->hasFocus(); }));
-    const auto press = [&](int key, const QString& letters = {}) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, letters);
-        QApplication::sendEvent(QApplication::focusWidget(), &event);
-    };
-    for (const QChar letter : QString("taxon 13"))
-        press(0, letter);
+    QTest::keyClicks(text, "taxon 13");
     auto* const list = qobject_cast<QListWidget*>(control("List1"));
     EXPECT_EQ(list->count(), 7) << "13 and 130 to 135";
     EXPECT_EQ(named<QTabWidget>("SSTab1")->currentIndex(), 0);
-    press(Qt::Key_Down);
+    QTest::keyClick(text, Qt::Key_Down);
     EXPECT_EQ(list->currentItem()->text(), "Taxon 130");
     EXPECT_EQ(named<QTabWidget>("SSTab1")->currentIndex(), 2);
     EXPECT_EQ(named<QLineEdit>("Text1(130)")->palette().color(QPalette::Base), QColor(255, 210, 127));
     for (const char* key : {"Command1(40)", "Command1(46)", "Command1(51)"})
         EXPECT_EQ(control(key)->palette().color(QPalette::Button), QColor(255, 127, 0)) << key;
-    press(Qt::Key_Return);
+    QTest::keyClick(text, Qt::Key_Return);
     EXPECT_EQ(named<QLineEdit>("Text2(130)")->text(), "1");
     EXPECT_FALSE(text->window()->isVisible());
     EXPECT_TRUE(waitFor([this] { return named<QWidget>("Text99")->hasFocus(); }));
@@ -297,9 +287,7 @@ TEST_F(Widgets, aPictureFillsItsWindowAndAClickEndsTheRest)
         const QImage shown = picture->grab().toImage();
         for (const QPoint& corner : {QPoint(1, 1), QPoint(798, 1), QPoint(1, 498), QPoint(798, 498)})
             EXPECT_NE(shown.pixelColor(corner), QColor(Qt::black)) << entry;
-        QMouseEvent click(QEvent::MouseButtonPress, {5, 5}, picture->mapToGlobal(QPointF(5, 5)),
-                          Qt::LeftButton, Qt::LeftButton, {});
-        QApplication::sendEvent(picture, &click);
+        QTest::mousePress(picture, Qt::LeftButton, {}, {5, 5});
         EXPECT_FALSE(picture->isVisible());
         EXPECT_TRUE(isMainEnabled());
     }
@@ -313,12 +301,9 @@ protected:
         WindowTest::SetUp();
         named<QAbstractButton>("Command3(0)")->click();
     }
-    static void type(const QString& text, int key = 0)
+    static void type(const QString& text, Qt::Key key = Qt::Key_unknown)
     {
-        for (const QEvent::Type kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(kind, key, Qt::NoModifier, text);
-            QApplication::sendEvent(QApplication::focusWidget(), &event);
-        }
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), key, text, Qt::NoModifier);
     }
     static QString focused() { return QApplication::focusWidget()->objectName(); }
 };
@@ -368,11 +353,7 @@ TEST_F(Editing, aClickIntoACellWithoutATaxonLetsItsNameBeTyped)
     const auto click = [this](const char* name) {
         QLineEdit* const box = named<QLineEdit>(name);
         box->setFocus(Qt::MouseFocusReason);
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, {5, 5}, box->mapToGlobal(QPointF(5, 5)), Qt::LeftButton, Qt::LeftButton,
-                              {});
-            QApplication::sendEvent(box, &event);
-        }
+        QTest::mouseClick(box, Qt::LeftButton, {}, {5, 5});
     };
     click("Text1(0)");
     type("7");
@@ -411,9 +392,7 @@ TEST_F(Editing, aRowIsMovedByItsMenu)
     named<QWidget>("Text2(1)")->setFocus(Qt::TabFocusReason);
     type("7");
     QLabel* const index = named<QLabel>("Label1(1)");
-    QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, index->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                      Qt::LeftButton, {});
-    QApplication::sendEvent(index, &press);
+    QTest::mousePress(index, Qt::LeftButton, {}, {5, 5});
     EXPECT_TRUE(named<QMenu>("mnuRightButton")->isVisible());
     named<QMenu>("mnuRightButton")->close();
     QMenu* const targets = named<QMenu>("mnu46to90");

@@ -30,6 +30,14 @@ void showFont(QWidget& widget, bool bold, bool italic, bool underline)
 
 } // namespace
 
+void placeView(const LineBinding& binding)
+{
+    QLineEdit& widget = *binding.widget;
+    const bool visited = widget.window()->focusWidget() == &widget;
+    const int end = static_cast<int>(binding.record->text.size());
+    widget.setCursorPosition(visited ? binding.record->caret : binding.record->showsEnd ? end : 0);
+}
+
 void show(LineBinding& binding)
 {
     const TextBox& now = *binding.record;
@@ -43,7 +51,7 @@ void show(LineBinding& binding)
     }
     if (now.rightAligned != was.rightAligned)
         widget.setAlignment((now.rightAligned ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    widget.setCursorPosition(now.caret); // also decides which end of a long text is in view
+    placeView(binding);
     if (now.bold != was.bold || now.italic != was.italic || now.underline != was.underline)
         showFont(widget, now.bold, now.italic, now.underline);
     if (now.backColor != was.backColor) {

@@ -55,6 +55,8 @@ struct LogBinding {
 };
 
 void show(LineBinding& binding);
+/// Decides which part of a long text is in view: in a visited box that with the caret, else an end.
+void placeView(const LineBinding& binding);
 void show(NoteBinding& binding);
 void show(LabelBinding& binding);
 void show(ButtonBinding& binding);

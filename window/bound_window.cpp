@@ -169,6 +169,13 @@ void BoundWindow::bindText(QWidget* widget, TextBox& record, Control control)
                      });
 }
 
+void BoundWindow::boxLeft(const QObject* widget)
+{
+    for (const LineBinding& line : lines_)
+        if (line.widget == widget)
+            placeView(line);
+}
+
 void BoundWindow::bindChoice(QWidget* widget, ComboBox& record, Control control)
 {
     auto& combo = as<QComboBox>(widget);

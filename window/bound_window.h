@@ -59,6 +59,8 @@ protected:
 
     /// Brings the bound widgets up to date with their records.
     void showControls();
+    /// A box has been left, and is seen from the beginning of its text again, or from its end.
+    void boxLeft(const QObject* widget);
     /// Runs the handler of one event of the user, then shows what it changed.
     void runEvent(const std::function<void()>& handler);
 

@@ -29,6 +29,7 @@ public:
         else if (indexed_ != nullptr)
             indexed_(value_.value_or(index));
     }
+    std::optional<int> value() const { return value_; }
     /// Where its code stands.
     const void* address() const
     {

@@ -119,6 +119,7 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
         if (form_.visible && lasts)
             return false;
         visited_ = nullptr;
+        boxLeft(target);
         if (form_.visible && control.kind->left)
             runEvent([&] { control.kind->left(control.index); });
     }

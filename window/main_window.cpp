@@ -167,6 +167,7 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
             frmMain.focus = MainFocus::elsewhere; // or the note would call it back
             onPassing(leaveEditedBox);
+            boxLeft(target);
         }
         return false;
     }
