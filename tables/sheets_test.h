@@ -18,13 +18,13 @@ inline std::string bytesOf(const std::string& path)
 inline SheetTables exampleSheet(const std::string& name)
 {
     const std::string text = bytesOf(std::string(EXAMPLES) + "/" + name + ".csv");
-    SheetTables sheet;
-    DataSheetReader reader(text, sheet);
+    SheetTables tables;
+    DataSheetReader reader(text, tables);
     bool whole = reader.readPath() && reader.readSerials() && reader.readNames();
     for (int row = 1; row <= taxonSlots; ++row)
         whole = whole && reader.readTaxon(row);
     EXPECT_TRUE(whole && reader.readTexts()) << name;
-    return sheet;
+    return tables;
 }
 
 /// A file of this room's reference folder.

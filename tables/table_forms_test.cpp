@@ -120,7 +120,7 @@ TEST_F(TableForms, aTableBecomesAnUnsavedSheet)
 
     tap('Q'); // counts go on, and the first save asks for a name
     choose("/home/New.csv");
-    SaveSheet(0);
+    SaveSheet(SaveMode::plain);
     EXPECT_EQ(sheet.SheetPath, "/home/New.csv");
     EXPECT_NE(files.contents.at("/home/New.csv").find("\"Elongate psilate\",79,98,49"), std::string::npos);
 }
