@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/qt/end_signals.h"
 #include "platform/qt/figures.h"
 #include "platform/qt/real_files.h"
 #include "platform/qt/sdl_sound.h"
@@ -20,13 +21,20 @@ public:
     MainWindow& window() { return window_; }
 
 private:
+    void keepWork(void (*handler)());
+
     RealFiles files_;
     SdlSound sound_;
     SystemClock clock_;
     QtPictures pictures_;
     EventLoopTimer timer_;
     EventLoopTimer recoveryTimer_;
+    EventLoopTimer journalTimer_;
+    EventLoopTimer pauseTimer_;
+    EventLoopTimer deadlineTimer_;
+    EventLoopTimer statisticsTimer_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;
+    EndSignals ends_;
 };

@@ -10,6 +10,15 @@
 #include "keys/key_settings.h"
 #include "sheet/cell_grid.h"
 #include "sheet/live_curve.h"
+#include "statistics/laboratory.h"
+#include "statistics/recount.h"
+
+/// What belongs to the sheet before goes with it.
+static void sheetOpened()
+{
+    recount = {};
+    readLaboratory();
+}
 
 void connectRooms()
 {
@@ -19,6 +28,8 @@ void connectRooms()
     hooks.ShowFirstRunChoice = showFirstRunChoice;
     hooks.SaveSheet = SaveSheet;
     hooks.AutoBackup = AutoBackup;
+    hooks.SheetOpened = sheetOpened;
+    hooks.SheetSaved = followSavedSheet;
     hooks.EndRecovery = endRecovery;
     hooks.DrawDiversity = DrawDiversity;
     hooks.CloseDiagram = closeDiagram;
@@ -26,4 +37,5 @@ void connectRooms()
     hooks.ReorderDiagram = reorderDiagram;
     hooks.RefreshDiagram = refreshDiagram;
     hooks.RedrawDiagram = redrawDiagram;
+    hooks.SampleRenamed = followSampleNames;
 }

@@ -15,7 +15,7 @@ protected:
         savedMode.reset();
         backups = refreshes = 0;
         hooks.SaveSheet = [](SaveMode mode) { savedMode = mode; };
-        hooks.AutoBackup = [] { ++backups; };
+        hooks.AutoBackup = [] { return ++backups > 0; };
         hooks.RefreshDiagram = [] { ++refreshes; };
     }
     static int all() { return wholeNumber(frmMain.Text3[0].text); }

@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/offers.h"
 #include "core/recount_totals.h"
+#include "core/sample_names.h"
 #include "core/sheet_state.h"
 #include "core/show_sample.h"
 #include "core/taxon_name.h"
@@ -37,13 +38,34 @@ void typeInto(TextBox& box, std::string_view text, int caret)
     keepToCharacterRule(box);
 }
 
+void tellOfName(std::string_view name)
+{
+    std::string number(name);
+    std::replace(number.begin(), number.end(), ',', '.');
+    if (number != name && isDepth(number))
+        frmMain.notice = "'" + std::string(name) +
+                         "' is no number, so the diagram has no depth scale: write " + number + ".";
+}
+
 bool hasUnsavedWork()
 {
     return sheet.Modifying ? sheet.UnsavedEdits : frmMain.Command5[0].enabled;
 }
 
+void touchSheet()
+{
+    frmMain.readingNotice.clear();
+}
+
+void markEdited()
+{
+    touchSheet();
+    sheet.UnsavedEdits = true;
+}
+
 void markUnsavedWork()
 {
+    touchSheet();
     sheet.SheetPristine = false;
     if (sheet.Modifying)
         sheet.UnsavedEdits = true;
@@ -57,7 +79,9 @@ void Text1_Edited(int slot, std::string_view text, int caret)
     typeInto(frmMain.Text1[slot], text, caret);
     if (frmMain.Text1[slot].text == before)
         return;
-    sheet.UnsavedEdits = true;
+    markEdited();
+    if (slot == 0)
+        tellOfName(frmMain.Text1[0].text);
     Text1_Change(slot);
 }
 
@@ -69,7 +93,7 @@ void Text2_Edited(int slot, std::string_view text, int caret)
     box.caret = caret;
     Text2_Change(slot);
     if (box.text != before)
-        sheet.UnsavedEdits = true;
+        markEdited();
     box.caret = std::min(caret, static_cast<int>(box.text.size())); // a refused number has gone
 }
 
@@ -80,7 +104,7 @@ void Text4_Edited(std::string_view text, int caret)
     if (frmMain.Text4.text == before)
         return;
     sheet.SampleNote(sheet.CurrentSample, 0) = frmMain.Text4.text;
-    sheet.UnsavedEdits = true;
+    markEdited();
     sheet.SheetPristine = false;
 }
 
@@ -96,7 +120,7 @@ void Text5_Edited(int item, std::string_view text, int caret)
     if (frmMain.Text5[item].text == before)
         return;
     storeText5(item);
-    sheet.UnsavedEdits = true;
+    markEdited();
     sheet.SheetPristine = false;
     frmMain.mnuNew.enabled = true;
 }
@@ -153,7 +177,8 @@ void renameShownSample(std::string_view name, int caret)
         frmMain.Combo2.text = frmMain.Text1[0].text;
         return;
     }
-    sheet.UnsavedEdits = true;
+    markEdited();
+    tellOfName(typed.text);
     setText1(0, typed.text);
     frmMain.Combo2.text = typed.text;
     listSampleNames();

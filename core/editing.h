@@ -15,6 +15,13 @@
 /// characters before the caret, 0 to the length of `text`.
 void typeInto(TextBox& box, std::string_view text, int caret);
 
+/// Says at the foot that a depth written with a comma is taken as it is, and is no number.
+void tellOfName(std::string_view name);
+
+/// The sheet is counted in or edited: what was said of its file is no news.
+void touchSheet();
+/// The same of an edit that leaves the sheet pristine, which opening another one asks about.
+void markEdited();
 /// Work to save. In Modify template mode Save is disabled and comes back with the end of the mode.
 bool hasUnsavedWork();
 void markUnsavedWork();

@@ -117,6 +117,18 @@ TEST_F(Editing, aSampleNameIsItsOwn)
     EXPECT_EQ("Sample name: : Taxa name [15]", lastLine());
 }
 
+TEST_F(Editing, aDepthWithACommaIsTakenAndToldToBeNoNumber)
+{
+    Text1_GotFocus(0);
+    for (const char* name : {"12,", ",5", "12,5,1", "1a,5", "core 1,2", "12.5", "-"}) {
+        Text1_Edited(0, name, 1);
+        EXPECT_EQ("", frmMain.notice) << name;
+    }
+    Text1_Edited(0, "-12,5", 5);
+    EXPECT_EQ("'-12,5' is no number, so the diagram has no depth scale: write -12.5.", frmMain.notice);
+    EXPECT_EQ("-12,5", sheet.SampleField(1, 2));
+}
+
 TEST_F(Editing, additionalInfoOffersAnEmptyBox)
 {
     frmMain.Text5[2].text = "---";

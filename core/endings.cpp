@@ -38,12 +38,17 @@ void AbortCount()
         frmMain.focus = MainFocus::Text99;
 }
 
-/// `lossConfirmed`: what is not saved is given up.
-static void endProgram(bool lossConfirmed)
+static void endWindows()
 {
-    hooks.EndRecovery(lossConfirmed);
     UnloadAll();
     hooks.EndProgram();
+}
+
+/// What is not saved is given up.
+static void endProgram()
+{
+    hooks.EndRecovery(true);
+    endWindows();
 }
 
 void mnuQuit_Click()
@@ -53,7 +58,7 @@ void mnuQuit_Click()
         return;
     RestoreSnapshot();
     sheet.SoundOn = false;
-    endProgram(true);
+    endProgram();
 }
 
 static Answer askToSave()
@@ -79,13 +84,19 @@ void Form_Unload(bool& cancel)
             hooks.SaveSheet(plainOrUntouched());
         if (answer == Answer::yes && sheet.SaveResult == 2) {
             cancel = true;
-            hooks.AutoBackup(); // the program ends, the counts do not
-            endProgram(false);
+            const bool backedUp = hooks.AutoBackup(); // the program ends, the counts do not
+            const bool copied = hooks.EndRecovery(false);
+            if (backedUp || copied)
+                endWindows();
+            else
+                ports.dialogs->ask("Neither the sheet nor a backup of it could be written. The program stays "
+                                   "open, so that nothing is lost.",
+                                   "TallyStrata", Buttons::ok, Icon::exclamation);
             return;
         }
     }
     sheet.SoundOn = false;
-    endProgram(true);
+    endProgram();
 }
 
 void UnloadAll()

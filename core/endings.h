@@ -11,7 +11,8 @@ void mnuQuit_Click();
 
 /// The main window is being closed. Asks about unsaved work; Cancel sets `cancel`, and the program goes on.
 /// After any other answer it ends, on purpose also when a save was asked for and failed (`cancel` is set then
-/// too): a backup of the sheet is taken first.
+/// too): a backup of the sheet is taken first. Only if neither that nor the recovery copy can be written, the
+/// program stays open and says so.
 void Form_Unload(bool& cancel);
 
 /// Takes down all other windows. They read `sheet.Unloading` so as not to bring up the main window again.

@@ -19,6 +19,8 @@ public:
     std::optional<std::string_view> next();
     /// True if the field read last was the last of its line.
     bool atLineEnd() const { return atLineEnd_; }
+    /// Bytes behind the field read last and its comma or line end.
+    std::size_t left() const { return rest_.size(); }
 
 private:
     std::string_view rest_;

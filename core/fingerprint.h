@@ -11,11 +11,14 @@ struct Fingerprint {
     friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
 };
 
-/// FNV-1a of 64 bits: one changed byte always changes it. Not against people who want to deceive.
+constexpr std::uint64_t checksumOfNothing = 0xcbf29ce484222325;
+
+/// FNV-1a of 64 bits: one changed byte always changes it. Not against people who want to deceive. `before`:
+/// the checksum of what stands before the bytes.
 /// (Fowler, Noll, Vo, Eastlake: The FNV Non-Cryptographic Hash Algorithm, IETF draft.)
-constexpr std::uint64_t checksumOf(std::string_view bytes)
+constexpr std::uint64_t checksumOf(std::string_view bytes, std::uint64_t before = checksumOfNothing)
 {
-    std::uint64_t sum = 0xcbf29ce484222325;
+    std::uint64_t sum = before;
     for (const char byte : bytes)
         sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
     return sum;

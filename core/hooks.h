@@ -10,8 +10,11 @@ struct Hooks {
     void (*ShowInitial)() = [] {};        ///< brings up the window that identifies the keyboard
     void (*ShowFirstRunChoice)() = [] {}; ///< after a first run: begins the first sheet
     void (*SaveSheet)(SaveMode) = [](SaveMode) {};
-    void (*AutoBackup)() = [] {};
-    void (*EndRecovery)(bool lossConfirmed) = [](bool) {}; ///< what becomes of the recovery copy
+    bool (*AutoBackup)() = [] { return true; }; ///< false: not written
+    /// What becomes of the recovery copy. False if unsaved work could not be written.
+    bool (*EndRecovery)(bool lossConfirmed) = [](bool) { return true; };
+    void (*SheetOpened)() = [] {}; ///< a sheet was read from its file, to its end or not
+    void (*SheetSaved)() = [] {};  ///< into its own file, perhaps under a new name
     void (*EndProgram)() = [] {};
     void (*DrawDiversity)() = [] {}; ///< the all total has changed
     void (*CloseDiagram)() = [] {};
@@ -19,6 +22,7 @@ struct Hooks {
     void (*ReorderDiagram)() = [] {}; ///< its samples stand in another order
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
     void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
+    void (*SampleRenamed)() = [] {};  ///< the sample on show, while the diagram is open
 };
 
 extern Hooks hooks;

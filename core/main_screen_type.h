@@ -31,6 +31,9 @@ struct MainScreen {
     int SSTab1 = 0;                    ///< page in view: 0 "Neutral", 1 "Shift 1 or 2", 2 "Shift 1 and 2"
     std::optional<Colour> sheetColour; ///< of Picture1 and SSTab1; nothing: the window's own
     std::string notice;                ///< line at the foot of the window: what an entry would say
+    std::string readingNotice; ///< stands there while there is no other: what of the sheet's file was not
+                               ///< read; until the sheet is counted in, edited or replaced
+    std::string diskNotice;    ///< stands there while there is no other: unsaved work cannot be kept
 
     // The taxon cells.
     std::array<TextBox, taxonSlots + 1> Text1; ///< taxon name; 0: name of the sample on show; setText1()

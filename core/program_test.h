@@ -29,6 +29,9 @@ protected:
     HandClock clock;
     HandTimer timer;
     HandTimer recoveryTimer;
+    HandTimer journalTimer;
+    HandTimer pauseTimer;
+    HandTimer deadlineTimer;
     PictureRecorder pictures;
 
     ProgramTest()
@@ -41,7 +44,8 @@ protected:
         for (const Form* const form : forms())
             form->visible = false;
         hooks = Hooks();
-        ports = {&files, &dialogs, &sound, &clock, &timer, &recoveryTimer, &pictures, "/program", 15360};
+        ports = {&files,    &dialogs,   &sound, &clock,        &timer,      &recoveryTimer,
+                 &pictures, "/program", 15360,  &journalTimer, &pauseTimer, &deadlineTimer};
         dialogs.whenOpened =
             [this] { // a message box takes the keyboard, and stays longer than the repeat guard
                 Form_Deactivate();

@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/built_in_keys.h"
+#include "core/editing.h"
 #include "core/highlight.h"
 #include "core/layer_keys.h"
 #include "core/main_screen.h"
@@ -62,6 +63,7 @@ void RecordCount(int keyCode, int /*shift*/)
     const int counted = std::abs(sheet.UndoStack[0].slot);
     if (counted == 0 || sheet.FreshSheet || isShiftKey(keyCode) || keyCode == sheet.MinusKey)
         return;
+    touchSheet();
     // 9 to 12.
     logAction((sheet.MinusArmed ? "(Amend) " : "") + frmMain.Label1[counted].caption + ": " +
               frmMain.Text1[counted].text);

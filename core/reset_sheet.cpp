@@ -27,6 +27,7 @@ static void resetScreen()
     frmMain.Picture2 = std::move(before.Picture2);
     frmMain.Picture2.clearPicture();
     frmMain.Combo2.itemsRevision = before.Combo2.itemsRevision + 1;
+    frmMain.mnuSaveHistory = before.mnuSaveHistory; // the log goes on
     frmMain.mnuItalic = before.mnuItalic;
     frmMain.mnuFontSize = before.mnuFontSize;
     frmMain.mnuAlign = before.mnuAlign;

@@ -19,11 +19,15 @@ static std::string withoutExtension(const std::string& path)
 
 std::string proposedCopyName(const std::string& path, const std::string& date)
 {
-    const auto part = [&date](std::size_t begin, std::size_t length) {
-        return begin < date.size() ? date.substr(begin, length) : std::string();
-    };
-    const std::string year = date.size() > 4 ? date.substr(date.size() - 4) : date;
-    return withoutExtension(path) + "_(" + part(0, 2) + "." + part(3, 2) + "." + year + ").csv";
+    std::string day;
+    for (const char c : date)
+        if (c >= '0' && c <= '9')
+            day += c;
+        else if (!day.empty() && day.back() != '.')
+            day += '.';
+    if (!day.empty() && day.back() == '.')
+        day.pop_back();
+    return withoutExtension(path) + "_(" + day + ").csv";
 }
 
 std::string proposedTableName(const std::string& path)

@@ -8,7 +8,7 @@
 std::optional<std::string> baseName(const std::string& path);
 
 /// Name proposed for a copy: "C:\Cores\Lake1.csv" on 15/11/2026 gives "C:\Cores\Lake1_(15.11.2026).csv".
-/// `date`: the short date; day, month and year are taken by their places in dd/mm/yyyy.
+/// `date`: the short date; what stands between its numbers becomes a point, so that it names no folder.
 std::string proposedCopyName(const std::string& path, const std::string& date);
 
 /// Name proposed for a percentage table, beside the sheet: "C:\Cores\Lake1_percent.csv". Empty for a sheet

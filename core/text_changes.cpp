@@ -83,8 +83,11 @@ void Text1_Change(int slot)
         return;
     frmMain.Combo2.text = frmMain.Text1[0].text;
     showSerial(sheet.CurrentSample);
-    if (sheet.Modifying)
-        sheet.SampleField(sheet.CurrentSample, 2) = frmMain.Text1[0].text;
+    if (!sheet.Modifying)
+        return;
+    sheet.SampleField(sheet.CurrentSample, 2) = frmMain.Text1[0].text;
+    if (sheet.DiagramOpen)
+        hooks.SampleRenamed();
 }
 
 static void refuseCount(int slot)
@@ -117,7 +120,8 @@ void Text3_Change(int total)
     const std::int32_t all = wholeNumber(frmMain.Text3[0].text);
     if (all != 0 && !sheet.Modifying) // no next sample while this one is edited
         offerNextSample(true);
-    if (all == 1 && !sheet.SampleSwitching) // a sample that is only shown began earlier
+    // A sample that is only shown or corrected began earlier.
+    if (all == 1 && !sheet.SampleSwitching && !sheet.Modifying)
         frmMain.Label14[1].caption = sheet.SampleStamp(sheet.CurrentSample, 2) =
             dateStamp(ports.clock->now());
 }

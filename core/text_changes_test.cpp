@@ -46,6 +46,23 @@ TEST_F(CountBox, refusesWhatIsNoWholeNumberOnce)
     EXPECT_EQ(std::vector(10, Cue::SoundError), sound.played);
 }
 
+TEST_F(CountBox, onlyCountingAndTakingBackStampTheBeginningOfTheCount)
+{
+    const auto began = [] { return sheet.SampleStamp(1, 2); };
+    tap('Q', 2);
+    const std::string stamp = began();
+    EXPECT_EQ("15/11/2026 (14:05:09)", stamp);
+    clock.moment.hour = 15;
+    sheet.Modifying = true;
+    type("1");
+    EXPECT_EQ("1", frmMain.Text3[0].text);
+    EXPECT_EQ(stamp, began());
+    type("2");
+    sheet.Modifying = false;
+    tap(undoKey);
+    EXPECT_EQ("15/11/2026 (15:05:09)", began());
+}
+
 class Totals : public ProgramTest {};
 
 TEST_F(Totals, areSumsOfTheBoxesWhileTheTableDecidesWhatIsBold)

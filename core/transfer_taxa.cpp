@@ -82,7 +82,7 @@ void TransferTaxa(int target)
     RecountTotals(sheet.CurrentSample);
     underlineBasis();
     // 8.
+    markEdited();
     sheet.SheetPristine = false;
-    sheet.UnsavedEdits = true;
     frmMain.mnuNew.enabled = true;
 }

@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/cue.h"
+#include "core/editing.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
@@ -50,6 +51,7 @@ static void takeBack(UndoEntry entry)
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
               frmMain.Text1[slot].text);
     offerSave(true); // taking back is work to save too
+    markEdited();
 }
 
 void Undo()

@@ -56,7 +56,10 @@ TEST_F(UndoOfCounts, bringsTheWholeSampleOnShowAndTheNextKeyAsks)
 
 TEST_F(UndoOfCounts, ringsOnAStepBackToAHundredOfTheChosenTotal)
 {
-    hooks.AutoBackup = [] { ADD_FAILURE() << "backups are for counting up"; };
+    hooks.AutoBackup = [] {
+        ADD_FAILURE() << "backups are for counting up";
+        return true;
+    };
     tap('Q', 3);
     for (const int before : {101, 100, 301}) {
         frmMain.Text3[0].text = decimalText(before);

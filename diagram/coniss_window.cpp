@@ -101,7 +101,7 @@ void mnuCopyConiss_Click()
 
 void mnuSaveConiss_Click()
 {
-    const auto path = ports.dialogs->chooseFileToSave("");
+    const auto path = ports.dialogs->chooseFileToSave("Save cluster matrix", "");
     if (!path)
         return;
     if (!ports.files->write(*path, matrixText(frmDiagram.merges))) {

@@ -13,18 +13,15 @@
 
 namespace {
 
-/// Names the taxon of the column at `x`, which counts from the diagram's beginning.
+/// Names the taxon whose column is painted at `x` of the picture; the last one goes on to its end.
 std::string taxonAt(float x)
 {
-    const PlotData& plot = frmDiagram.plot;
-    const float zoom = diagramView().zoom;
-    std::string name;
-    for (int column = 1; column < taxonSlots; ++column)
-        if (zoom * plot.ColumnLeft[column] <= x && zoom * plot.ColumnLeft[column + 1] > x)
-            name = sheet.TaxonRecord[sheet.KeyIndexOfRow[column]].Name;
-    if (x > plot.ColumnLeft[taxonSlots]) // on purpose without the zoom, and by slot
-        name = sheet.TaxonRecord[taxonSlots].Name;
-    return name;
+    const DiagramView view = diagramView();
+    const float percent = x / view.zoom + view.scroll;
+    int column = taxonSlots;
+    while (column > 0 && frmDiagram.plot.ColumnLeft[column] > percent)
+        --column;
+    return column == 0 ? std::string() : sheet.TaxonRecord[sheet.KeyIndexOfRow[column]].Name;
 }
 
 /// Where the mouse finds the sample line: by depth on a whole tenth of a row.
@@ -98,8 +95,8 @@ void pictureMouseMove(DiagramPicture picture, float x, float y)
     if (!sheet.DiagramOpen)
         return;
     if (picture == DiagramPicture::diagram) {
-        x += static_cast<float>(f.HScroll1.value);
         f.toolTip = f.mnuTaxaName.checked ? taxonAt(x) : std::string();
+        x += static_cast<float>(f.HScroll1.value);
     }
     const float offLine = y - lineOfSample(f.Slider1.value);
     if (offLine * offLine < f.Picture1.scale.height * 10 / 50)

@@ -57,6 +57,12 @@ void paintAll()
     placePanel();
 }
 
+void takeDepths()
+{
+    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+        sheet.SampleField(sample, 0) = sheet.SampleField(sample, 2);
+}
+
 /// What the window takes from the sheet when it opens, and again when the sheet gets another sample.
 void load()
 {
@@ -70,8 +76,7 @@ void load()
     f.DiagramScaleTop = rows.top;
     f.DiagramScaleHeight = rows.height;
     f.Picture1.scale = rows;
-    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-        sheet.SampleField(sample, 0) = sheet.SampleField(sample, 2);
+    takeDepths();
     f.Slider1 = {1, std::max<int>(2, sheet.SampleCount), f.DiagramSample};
     listDiagramSamples();
 }
@@ -189,6 +194,17 @@ void redrawDiagram()
     PrepareDiagram();
     paintAll();
     recomputeDendrogram();
+}
+
+void followSampleNames()
+{
+    const bool before = sheet.NamesNotNumeric;
+    TestSampleNames();
+    if (!sheet.DiagramOpen || sheet.NamesNotNumeric == before)
+        return;
+    takeDepths();
+    listDiagramSamples();
+    redrawDiagram();
 }
 
 void frmDiagram_Resize(int width, int height)

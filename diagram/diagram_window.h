@@ -27,6 +27,10 @@ void refreshDiagram();
 /// Another % basis, or counts that were taken back; a dendrogram on show is computed anew.
 void redrawDiagram();
 
+/// A sample has another name. With the last one that is no number the depth scale comes or goes; else the
+/// rows stay where they were when the window opened.
+void followSampleNames();
+
 /// The user has made the window `width` by `height` twips large, all in all.
 void frmDiagram_Resize(int width, int height);
 /// Keys count in this window too; one that counted brings the main window forward.

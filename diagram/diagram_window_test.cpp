@@ -2,6 +2,7 @@
 
 #include "core/program_test.h"
 #include "core/sample_move.h"
+#include "core/text_changes.h"
 #include "diagram/coniss_window.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"
@@ -240,6 +241,47 @@ TEST_F(Diagram, guideLinesAndTipFollowTheMouse)
     mnuTaxaName_Click();
     pictureMouseMove(DiagramPicture::diagram, inSecondColumn, 30);
     EXPECT_EQ(f.toolTip, "");
+}
+
+TEST_F(Diagram, theTipNamesTheColumnThatIsPaintedUnderTheMouse)
+{
+    for (int slot = 1; slot <= taxonSlots; ++slot)
+        sheet.TaxonRecord[slot].Name = "taxon " + decimalText(slot);
+    std::swap(sheet.KeyIndexOfRow[2], sheet.KeyIndexOfRow[135]);
+    sheet.RowOfKeyIndex[2] = 135;
+    sheet.RowOfKeyIndex[135] = 2;
+    open();
+    for (const int zoom : {1, 2, 5, 8, 10}) {
+        Slider2_Change(zoom);
+        for (const int scroll : {0, f.HScroll1.max / 2, f.HScroll1.max}) {
+            HScroll1_Change(scroll);
+            for (int column = 1; column <= taxonSlots; ++column) {
+                const float middle = (f.plot.ColumnLeft[column] + f.plot.ColumnLeft[column + 1]) / 2;
+                pictureMouseMove(DiagramPicture::diagram,
+                                 (middle - static_cast<float>(scroll)) * static_cast<float>(zoom) / 5, 30);
+                ASSERT_EQ(f.toolTip, f.plot.ColumnName[column]) << column << " at " << zoom << ", " << scroll;
+            }
+        }
+    }
+}
+
+TEST_F(Diagram, depthsFollowTheLastNameThatWasNoNumber)
+{
+    for (int sample = 1; sample <= 5; ++sample)
+        sheet.SampleField(sample, 2) = sample == 5 ? "bottom" : decimalText(sample);
+    sheet.CurrentSample = 5;
+    setText1(0, "bottom");
+    open();
+    hooks.SampleRenamed = followSampleNames;
+    EXPECT_EQ(f.Check1.caption, "bottom");
+    sheet.Modifying = true;
+    setText1(0, "11");
+    EXPECT_FALSE(sheet.NamesNotNumeric);
+    EXPECT_EQ(row(4), 22) << "3 of 10 from 10 to 50";
+    EXPECT_EQ(f.Check1.caption + f.Combo2.items[4], "1111");
+    setText1(0, "base");
+    EXPECT_EQ(row(4), 40);
+    EXPECT_EQ(f.Check1.caption, "base");
 }
 
 TEST_F(Diagram, matrixIsSavedFromTheLastMergeToTheFirst)

@@ -9,7 +9,7 @@
 constexpr int masterCopy = 99;
 constexpr int ringSize = 10;
 
-void AutoBackup()
+bool AutoBackup()
 {
     if (sheet.BackupSlot != masterCopy)
         sheet.BackupSlot = (sheet.BackupSlot + 1) % ringSize;
@@ -20,7 +20,8 @@ void AutoBackup()
     stampHead("Backed up (dd/mm/yyyy):", sheet.SheetPath, ports.clock->now());
     fillEmptyCells(sheet, shownCaptions());
     const bool written =
-        ports.files->write(ports.programFolder + "/References/Back up files/" + name, backupText(sheet));
+        ports.files->replace(ports.programFolder + "/References/Back up files/" + name, backupText(sheet));
     if (written && sheet.BackupSlot == masterCopy) // a master copy that failed is tried again
         sheet.BackupSlot = -1;
+    return written;
 }

@@ -13,14 +13,6 @@ namespace {
 
 constexpr int lastColumn = sampleColumns - 1;
 
-int generationOf(std::string_view tag)
-{
-    return tag == "Saved:"                        ? 1
-           : tag == "Last saved (dd/mm/yyyy):"    ? 2
-           : tag == "Last modified (dd/mm/yyyy):" ? 3
-                                                  : 0;
-}
-
 int within16Bits(double number)
 {
     return static_cast<int>(std::clamp(std::nearbyint(number), -32768.0, 32767.0));
@@ -44,6 +36,19 @@ std::string& fieldCell(SheetTables& tables, int sample, int row)
 }
 
 } // namespace
+
+int fileGeneration(std::string_view tag)
+{
+    return tag == "Saved:"                        ? 1
+           : tag == "Last saved (dd/mm/yyyy):"    ? 2
+           : tag == "Last modified (dd/mm/yyyy):" ? 3
+                                                  : 0;
+}
+
+bool isPercentageTable(const SheetTables& tables)
+{
+    return tables.FileGeneration == 3 && tables.NoteHeader[4] == "Created:";
+}
 
 int completeKeyIndexes(SheetTables& tables)
 {
@@ -81,17 +86,32 @@ int completeKeyIndexes(SheetTables& tables)
     return completed;
 }
 
+/// A quotation mark inside a field without them would end the field when the sheet is saved again.
+static std::string heldText(std::string_view field)
+{
+    std::string text(field);
+    std::replace(text.begin(), text.end(), '"', '\'');
+    return text;
+}
+
+std::optional<std::string_view> DataSheetReader::next()
+{
+    if (fields_.atLineEnd())
+        ++line_;
+    return fields_.next();
+}
+
 bool DataSheetReader::readText(std::string& field)
 {
-    const auto text = fields_.next();
+    const auto text = next();
     if (text)
-        field = *text;
+        field = heldText(*text);
     return text.has_value();
 }
 
 bool DataSheetReader::readNumber(std::int32_t lowest, std::int32_t highest, std::int32_t& number)
 {
-    const auto text = fields_.next();
+    const auto text = next();
     if (!text)
         return false;
     const double read = std::nearbyint(leadingNumber(*text));
@@ -135,7 +155,7 @@ bool DataSheetReader::readSerials()
         return false;
     if (head[4] != "Serial No." && !readText(head[4])) // one field more may stand there, and only one
         return false;
-    sheet_.FileGeneration = generationOf(head[2]);
+    sheet_.FileGeneration = fileGeneration(head[2]);
 
     // The serial numbers end at the first text that is no plain number; that is field 1 of line 2.
     int count = 0;
@@ -143,12 +163,12 @@ bool DataSheetReader::readSerials()
     sheet_.SampleSerial.fill(0);
     sheet_.SerialSample.fill(0);
     for (;;) {
-        const auto field = fields_.next();
+        const auto field = next();
         if (!field)
             return false;
         const double serial = leadingNumber(*field);
         if (*field != plainDecimal(serial)) {
-            sheet_.SheetHeader[2][1] = *field;
+            sheet_.SheetHeader[2][1] = heldText(*field);
             break;
         }
         if (++count > lastColumn)
@@ -263,4 +283,27 @@ bool DataSheetReader::readDates()
         if (!readHead(sheet_.DateHeader[date]) || !readSamples(stampCell, date))
             return false;
     return true;
+}
+
+static bool readWhole(DataSheetReader& reader, SheetTables& tables)
+{
+    if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
+        return false;
+    for (int row = 1; row <= taxonSlots; ++row)
+        if (!reader.readTaxon(row))
+            return false;
+    if (reader.repeatedKeyIndex())
+        return false;
+    completeKeyIndexes(tables);
+    if (tables.SampleCount == 0)
+        reader.beginFromTemplate("-9999");
+    return reader.readTexts();
+}
+
+bool readDataSheet(std::string_view text, SheetTables& tables)
+{
+    DataSheetReader reader(text, tables);
+    const bool whole = readWhole(reader, tables);
+    completeKeyIndexes(tables);
+    return whole;
 }

@@ -15,6 +15,12 @@ constexpr std::size_t sheetLimit = 256u << 20;
 /// what was read of them. The last row that was given an index; 0 if none was.
 int completeKeyIndexes(SheetTables& tables);
 
+/// The layout that the second field of a file tells: 1, 2, or 3 as written; 0 if it is none of them.
+int fileGeneration(std::string_view tag);
+
+/// A percentage table has no line of notes, so that of the dates comes in its place.
+bool isPercentageTable(const SheetTables& tables);
+
 /// Reads a data sheet, an older layout of one, or a template, into the tables of a sheet.
 /// docs/data-formats.md tells the lines. The file is a stream of fields: lines mean nothing to the reader,
 /// and position alone gives a field its meaning. The steps are called in this order, each once; a step
@@ -40,8 +46,11 @@ public:
     void beginFromTemplate(std::string_view sampleName);
     /// Additional info, notes and dates, as far as the layout has them. What it has not is "---".
     bool readTexts();
+    /// The line of the field read last; 1 is the first.
+    int line() const { return line_; }
 
 private:
+    std::optional<std::string_view> next();
     bool readText(std::string& field);
     bool readNumber(std::int32_t lowest, std::int32_t highest, std::int32_t& number);
     bool readHead(std::array<std::string, 5>& head);
@@ -53,4 +62,9 @@ private:
 
     FieldReader fields_;
     SheetTables& sheet_;
+    int line_ = 0;
 };
+
+/// A data sheet, an older layout of one, or a template, in the code page, into fresh tables. False if it ends
+/// early or a key index stands twice in it; the tables agree with one another then too.
+bool readDataSheet(std::string_view text, SheetTables& tables);

@@ -132,6 +132,11 @@ TEST(DataSheet, readsTheSameAfterASpreadsheetHadIt)
     for (const std::string& text : {bare, utf8})
         EXPECT_EQ(rewritten(fileTextInCodePage(text)), quoted);
     EXPECT_EQ(fileTextInCodePage(quoted), quoted) << "the code page's own bytes are no UTF-8";
+    const std::string accident = replaced(quoted, "Betula", "Betula \xC3\xA9");
+    EXPECT_EQ(fileTextInCodePage(accident), accident) << "only if all of the file is";
+
+    const std::string inches = replaced(bare, "Pinus", "5\" core");
+    EXPECT_EQ(rewritten(inches), replaced(quoted, "Pinus", "5' core"));
 }
 
 TEST(DataSheet, olderLayoutsKeepTheirNotesAndLeaveNothingOfTheSheetBefore)

@@ -28,6 +28,8 @@ TEST_F(KnownFile, isTheOneLastReadOrWritten)
     files.contents[lake].back() = ' '; // another program has been at it
     EXPECT_TRUE(sheetFileHasChanged());
     tap('Q');
+    dialogs.expect("'Lake.csv' has been changed by another program. Do you want to write over it?",
+                   "Caution!", Answer::yes);
     SaveSheet(SaveMode::plain);
     EXPECT_FALSE(sheetFileHasChanged());
     const std::string elsewhere = files.contents[lake];

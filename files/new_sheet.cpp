@@ -1,6 +1,7 @@
 #include "files/new_sheet.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
@@ -69,10 +70,9 @@ void frmSiteName_Command1_Click()
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Text5[item].text = sheet.AdditionalInfo(1, item) = orDashes(frmSiteName.Text3[item].text);
     TakeSnapshot();
-    // What was typed is work to save.
-    sheet.SheetPristine = false;
-    offerSave(true);
+    markUnsavedWork(); // what was typed
     frmMain.mnuNew.enabled = true;
+    tellOfName(name);
     // 9.
     closeSiteName();
     // 10.

@@ -1,6 +1,7 @@
 #include "files/next_sample.h"
 
 #include "core/action_log.h"
+#include "core/editing.h"
 #include "core/forms.h"
 #include "core/hooks.h"
 #include "core/main_screen.h"
@@ -140,9 +141,9 @@ bool AddSample()
     hooks.ReloadDiagram();
     // 15.
     TakeSnapshot();
-    sheet.SheetPristine = false;
-    offerSave(true);
+    markUnsavedWork();
     frmMain.mnuNew.enabled = true;
+    tellOfName(name);
     return true;
 }
 

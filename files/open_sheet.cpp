@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/editing.h"
+#include "core/fields.h"
 #include "core/forms.h"
 #include "core/highlight.h"
 #include "core/hooks.h"
@@ -19,7 +20,10 @@
 #include "core/text_changes.h"
 #include "files/backup.h"
 #include "files/data_sheet_reader.h"
+#include "files/kept_work.h"
 #include "files/new_sheet.h"
+#include "files/reading_check.h"
+#include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
@@ -35,26 +39,45 @@
 
 namespace {
 
-/// Steps 1 to 4. True if the sheet in memory may go.
-bool mayGo(bool dropped)
+/// What becomes of unsaved work when another sheet takes its place.
+struct UnsavedWork {
+    bool givenUp = false;            ///< the user has said so
+    std::optional<std::string> kept; ///< name of the file among the backups that holds it all the same
+};
+
+/// Before a sheet goes that nothing has been asked about. What can be kept nowhere is asked about after all.
+bool keepOrAsk(UnsavedWork& work)
 {
-    // No dialog follows a drop, so it asks wherever there is unsaved work.
+    if (hasUnsavedWork() && !(work.kept = keepUnsavedWork()))
+        work.givenUp = mayLoseCounts();
+    return !hasUnsavedWork() || work.kept || work.givenUp;
+}
+
+/// Steps 1 to 4. True if the sheet in memory may go.
+bool mayGo(bool dropped, UnsavedWork& work)
+{
+    // No dialog follows a drop, so it asks wherever there is unsaved work. Names that were edited leave the
+    // sheet pristine, and are work all the same.
     const bool unsaved = frmMain.Command5[0].enabled;
-    if (sheet.SheetPristine && !(dropped && unsaved))
-        return true;
+    if (sheet.SheetPristine && !(unsaved && (dropped || sheet.UnsavedEdits)))
+        return keepOrAsk(work);
     if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
         ports.sound->play(Cue::SoundError);
     const bool begun = frmMain.Label4.caption != "1/0";
     if (sheet.SoundOn && begun)
         ports.sound->play(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
-        return true;
+        return keepOrAsk(work);
     if (!mayLoseCounts()) {
         // On purpose: the next opening asks nothing.
         sheet.SheetPristine = true;
+        sheet.UnsavedEdits = false;
         sheet.FreshSheet = false;
         return false;
     }
+    work.givenUp = true;
+    if (hasUnsavedWork()) // the dialog may be cancelled yet
+        work.kept = keepUnsavedWork();
     RestoreSnapshot();
     hooks.CloseDiagram(); // also if the dialog is cancelled then
     for (int i = 0; i <= 100; ++i)
@@ -71,10 +94,8 @@ void showHeads()
     showSubtotalNames();
 
     listSampleNames();
-    if (last > 0) {
-        setText1(0, sheet.SampleField(last, 2));
-        frmMain.Combo2.text = sheet.SampleField(last, 2);
-    }
+    setText1(0, sheet.SampleField(last, 2)); // without samples that of column 0: no name yet
+    frmMain.Combo2.text = sheet.SampleField(last, 2);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     sheet.SampleTotal = 0;
     for (int total = 0; total < 3; ++total)
@@ -93,23 +114,40 @@ void showTaxon(int row)
 
 enum class Reading {
     complete,
-    failed,  ///< ended early
-    refused, ///< a key index stands twice
-    nothing  ///< not even a first field, or a path without a name: the sheet in memory stays
+    percentages, ///< complete, but no counts
+    failed,      ///< ended early
+    refused      ///< a key index stands twice
 };
 
+/// The part of a text that is read: behind a line with other than the expected fields every count would be
+/// another taxon's. Only if the fields come out even all the same is all of it read.
+std::string_view readablePart(std::string_view text, const std::optional<LineFault>& fault)
+{
+    if (!fault || fault->ends || contentsOf(text) != Contents::other)
+        return text;
+    if (fault->line > 1)
+        return text.substr(0, fault->begin);
+    FieldReader fields(text);
+    fields.next();
+    return text.substr(0, text.size() - fields.left()); // no more than what the sheet is called by
+}
+
+/// Nothing of the sheet before stands among what little is read of such a file.
+void emptySheet()
+{
+    const bool unnamed = sheet.SheetUnnamed;
+    resetSheet();
+    sheet.SheetUnnamed = unnamed;
+}
+
 /// Steps 8 to 15.
-Reading readSheet(std::string_view text, const std::string& path, const std::optional<Fingerprint>& file)
+Reading readSheet(DataSheetReader& reader, const std::string& path, const std::string& name)
 {
     const ShowingSample showing;
-    DataSheetReader reader(text, sheet);
-    const auto name = baseName(path);
-    if (!name || !reader.readPath())
-        return Reading::nothing;
     sheet.SheetPath = path;
-    sheet.KnownFile = file;
-    showSheetName(*name);
-    if (!reader.readSerials() || !reader.readNames())
+    sheet.ProposedPath.clear();
+    showSheetName(name);
+    if (!reader.readPath() || !reader.readSerials() || !reader.readNames())
         return Reading::failed;
     showHeads();
     for (int row = 1; row <= taxonSlots; ++row) {
@@ -129,7 +167,9 @@ Reading readSheet(std::string_view text, const std::string& path, const std::opt
         showSerial(1);
     }
     RecountTotals(sheet.CurrentSample);
-    return reader.readTexts() ? Reading::complete : Reading::failed;
+    return !reader.readTexts()        ? Reading::failed
+           : isPercentageTable(sheet) ? Reading::percentages
+                                      : Reading::complete;
 }
 
 /// What can be taken back and the row counted last belong to the sheet before.
@@ -150,6 +190,7 @@ void endEarly()
     if (sheet.SampleCount == 0) { // a column to count in
         sheet.SampleCount = sheet.CurrentSample = 1;
         sheet.SampleField(1, 1) = "1";
+        sheet.SampleField(1, 2) = sheet.SampleField(0, 2);
     }
     forgetCounts();
     {
@@ -193,11 +234,14 @@ void settle()
     }
     frmMain.Picture2.clearPicture();
     TakeSnapshot();
-    logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
-    frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
+    const std::string path = toCodePageFromUtf8(sheet.SheetPath);
+    if (!path.empty())
+        logAction("(Open) " + path);
+    frmMain.Text6.text = path.empty() ? "File location: ---" : path;
     WrapFileLocation();
     offerNextSample(true);
     offerSave(false);
+    sheet.UnsavedEdits = false;
     selectBasis(0);
     AutoBackup();
     ApplyItalics();
@@ -212,51 +256,83 @@ void settle()
         showSiteName();
 }
 
+/// Kept is what went without having been given up for the sheet that came. A file can be dropped by accident.
+void settleUnsavedWork(const UnsavedWork& work, bool replaced, bool dropped)
+{
+    if (!work.kept)
+        return;
+    if (replaced ? work.givenUp && !dropped : !work.givenUp) {
+        dropUnsavedWork(*work.kept);
+        return;
+    }
+    pruneUnsavedWork();
+    frmMain.notice = "What was not saved is kept among the back up files: " + *work.kept;
+}
+
 void open(const std::function<std::optional<std::string>()>& choose, bool dropped)
 {
-    if (!mayGo(dropped))
+    const RecoveryHeld held;
+    UnsavedWork work;
+    if (!mayGo(dropped, work))
         return;
     sheet.FreshSheet = true;
-    if (const auto path = choose())
+    bool replaced = false;
+    if (const auto path = choose()) {
         if (const auto bytes = ports.files->read(*path, sheetLimit))
-            openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
+            replaced = openSheetText(fileTextInCodePage(*bytes), *path, fingerprintOf(*bytes));
+        else
+            frmMain.notice = "The file could not be read.";
+    }
     endProgress();
     ApplyItalics();
     TestSampleNames();
+    settleUnsavedWork(work, replaced, dropped);
 }
 
 } // namespace
 
-void openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
+bool openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
+    const auto name = path.empty() ? std::optional<std::string>("Untitled") : baseName(path);
+    if (!name || !FieldReader(text).next()) {
+        frmMain.notice = name ? "The file is empty." : "A data sheet's name has an ending: .csv.";
+        return false;
+    }
     hooks.CloseDiagram(); // it shows the sheet that goes
     beginProgress();
-    const Reading reading = readSheet(text, path, file);
-    if (reading == Reading::complete) {
+    const auto fault = firstLineFault(text);
+    const std::string_view readable = readablePart(text, fault);
+    if (readable.size() < text.size() && fault->line <= 3)
+        emptySheet();
+    sheet.KnownFile = file;
+    DataSheetReader reader(readable, sheet);
+    const Reading reading = readSheet(reader, path, *name);
+    if (reading == Reading::complete || reading == Reading::percentages) {
         settle();
     } else if (reading == Reading::refused) {
         resetSheet();
         sheet.SheetPristine = true;
         sheet.FreshSheet = false;
-    } else if (reading == Reading::failed) {
+    } else {
         endEarly();
     }
+    sheet.ReadInPart = reading == Reading::percentages || reading == Reading::failed;
+    frmMain.readingNotice = reading == Reading::percentages
+                                ? "This is a percentage table: what stands in the "
+                                  "cells are rounded percentages, not counts."
+                            : reading == Reading::complete ? ""
+                            : fault                        ? tellFault(text, *fault)
+                            : reading == Reading::failed   ? tellUnreadLine(reader.line())
+                                                           : "";
     endProgress();
+    hooks.SheetOpened();
+    return true;
 }
 
 void openUnsavedText(const std::string& text)
 {
-    openSheetText(text, "Untitled.csv", std::nullopt);
-    standUnsaved({});
-}
-
-void standUnsaved(const std::string& path)
-{
-    sheet.SheetPath = path;
-    sheet.SheetUnnamed = path.empty();
-    showSheetName(baseName(path).value_or("Untitled"));
-    frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
-    WrapFileLocation();
+    openSheetText(text, {}, std::nullopt);
+    sheet.SheetUnnamed = true;
     sheet.FreshSheet = false;
     markUnsavedWork();
 }

@@ -3,6 +3,7 @@
 #include "core/action_log.h"
 #include "core/cue.h"
 #include "core/editing.h"
+#include "core/hooks.h"
 #include "core/main_screen.h"
 #include "core/messages.h"
 #include "core/offers.h"
@@ -10,6 +11,7 @@
 #include "core/sheet_state.h"
 #include "core/snapshot.h"
 #include "files/fingerprint.h"
+#include "files/former_bytes.h"
 #include "files/recovery.h"
 #include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
@@ -25,11 +27,20 @@ bool isPercentageTable(SaveMode mode)
     return mode >= SaveMode::percentAll;
 }
 
+const char* dialogTitle(SaveMode mode)
+{
+    return mode == SaveMode::copy    ? "Save copy of data sheet"
+           : isPercentageTable(mode) ? "Save percentage table"
+                                     : "Save data sheet";
+}
+
 std::string proposedName(SaveMode mode)
 {
     if (mode == SaveMode::copy)
         return proposedCopyName(sheet.SheetPath, ports.clock->now().date);
-    return isPercentageTable(mode) ? proposedTableName(sheet.SheetPath) : sheet.SheetPath;
+    if (isPercentageTable(mode))
+        return proposedTableName(sheet.SheetPath);
+    return sheet.SheetPath.empty() ? sheet.ProposedPath : sheet.SheetPath;
 }
 
 /// Path A: the dialog was cancelled.
@@ -45,6 +56,14 @@ void endFailed()
     sheet.SaveResult = 2;
     tellFileInUse();
     endProgress();
+}
+
+/// Another program has been at the sheet's file.
+bool mayWriteOver(const std::string& path)
+{
+    return ports.dialogs->ask("'" + toCodePageFromUtf8(path.substr(path.find_last_of("\\/") + 1)) +
+                                  "' has been changed by another program. Do you want to write over it?",
+                              "Caution!", Buttons::yesNo, Icon::question) == Answer::yes;
 }
 
 std::string fileText(SaveMode mode, const std::vector<SampleTotals>& totals)
@@ -91,10 +110,28 @@ bool write(SaveMode mode, const std::string& path, const std::string& sheetPath,
 void takeName(const std::string& path, const std::string& name)
 {
     sheet.SheetPath = path;
+    sheet.ProposedPath.clear();
     sheet.SheetUnnamed = false;
     showSheetName(name);
     frmMain.Text6.text = toCodePageFromUtf8(path);
     WrapFileLocation();
+}
+
+/// What stands at the path may be nobody's copy of it. False if it is left alone and the save has ended.
+bool mayTake(const std::string& path, bool isTable)
+{
+    const bool isOwn = path == sheet.SheetPath;
+    const bool changed = isOwn && !sheet.ReadInPart && sheetFileHasChanged();
+    if (changed && !mayWriteOver(path)) {
+        endCancelled();
+        return false;
+    }
+    const bool unknown = changed || (isOwn && sheet.ReadInPart);
+    if (!(unknown || (!isOwn && !isTable)) || keepFormerBytes(path, unknown))
+        return true;
+    frmMain.notice = "What the file holds could not be kept among the backups: save under another name.";
+    endFailed();
+    return false;
 }
 
 } // namespace
@@ -114,12 +151,13 @@ void SaveSheet(SaveMode mode)
         return;
     }
     const bool isTable = isPercentageTable(mode);
-    if (!isTable && (sheet.SheetPath.empty() || (sheet.TemplateOpened && mode != SaveMode::copy)))
+    if (!isTable &&
+        (sheet.SheetPath.empty() || ((sheet.TemplateOpened || sheet.ReadInPart) && mode != SaveMode::copy)))
         mode = SaveMode::saveAs;
 
     std::string path = sheet.SheetPath;
     if (mode == SaveMode::saveAs || mode == SaveMode::copy || isTable) {
-        const auto chosen = ports.dialogs->chooseFileToSave(proposedName(mode));
+        const auto chosen = ports.dialogs->chooseFileToSave(dialogTitle(mode), proposedName(mode));
         if (!chosen) {
             endCancelled();
             return;
@@ -135,6 +173,8 @@ void SaveSheet(SaveMode mode)
         endFailed();
         return;
     }
+    if (!mayTake(path, isTable))
+        return;
     if (!write(mode, path, namesSheet ? path : sheet.SheetPath, *totals)) {
         endFailed();
         return;
@@ -149,12 +189,12 @@ void SaveSheet(SaveMode mode)
             markUnsavedWork(); // the sheet's own file holds no counts now
     } else if (mode != SaveMode::copy || path == sheet.SheetPath) {
         offerSave(false);
-        sheet.TemplateOpened = false;
+        sheet.TemplateOpened = sheet.ReadInPart = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
+        hooks.SheetSaved();
     }
     playCue(Cue::SoundSave);
-    if (!sheet.Modifying) // its Save key works in the diagram's window only, and no next sample follows
-    {
+    if (!sheet.Modifying) { // its Save key works in the diagram's window only, and no next sample follows
         offerNextSample(true);
         frmMain.mnuSaveCopy.enabled = true;
     }

@@ -10,7 +10,7 @@
 void mnuTemplate_Click()
 {
     beginProgress();
-    if (const auto path = ports.dialogs->chooseFileToSave("")) {
+    if (const auto path = ports.dialogs->chooseFileToSave("Save template", "Template.csv")) {
         stampHead("Last modified (dd/mm/yyyy):", sheet.SheetPath, ports.clock->now());
         fillEmptyCells(sheet, shownCaptions());
         if (ports.files->write(*path, templateText(sheet))) {

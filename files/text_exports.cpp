@@ -9,15 +9,15 @@
 #include "platform/ports.h"
 #include "sheet/focus_and_pointer.h"
 
-static std::optional<std::string> chooseExport(const char* proposed)
+static std::optional<std::string> chooseExport(const char* title, const char* proposed)
 {
-    return ports.dialogs->chooseFileToSave(ports.programFolder + "/References/" + proposed);
+    return ports.dialogs->chooseFileToSave(title, ports.programFolder + "/References/" + proposed);
 }
 
 void mnuSaveHistory_Click()
 {
     beginProgress(sheet.ActionCount);
-    if (const auto path = chooseExport("History.csv")) {
+    if (const auto path = chooseExport("Save history", "History.csv")) {
         if (ports.files->write(*path, historyText(sheet, logTime(ports.clock->now())))) {
             playCue(Cue::SoundSave);
             giveFocusBack();
@@ -32,7 +32,7 @@ void mnuSaveHistory_Click()
 void SaveDiversity()
 {
     beginProgress(sheet.DiversityTotal);
-    if (const auto path = chooseExport("Saturation.csv"))
+    if (const auto path = chooseExport("Save saturation curve", "Saturation.csv"))
         if (ports.files->write(*path, saturationText(sheet, frmMain.Combo2.text)))
             giveFocusBack();
     endProgress();

@@ -22,6 +22,7 @@ std::optional<KeySettingTable> parseKeySettings(std::string_view fileText)
             if (!text || reader.atLineEnd() != (field == last))
                 return std::nullopt;
             *field = *text;
+            std::replace(field->begin(), field->end(), '"', '\''); // it would end the field when it is saved
         }
     }
     return hasCounterKey(table) ? std::optional(table) : std::nullopt;

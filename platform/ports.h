@@ -6,11 +6,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// What the program asks of the computer it runs on. Each interface has a real adapter in platform/qt and one
 /// in memory in platform/fakes. All calls come from the one thread of the program.
 
-/// Whole files. Paths are UTF-8 and absolute.
+/// Files. Paths are UTF-8 and absolute. What was written, created or put in place has reached the disk itself
+/// when it is reported, with its entry in the folder, so that a power cut takes nothing of it.
 class Files {
 public:
     virtual ~Files() = default;
@@ -18,13 +20,22 @@ public:
     [[nodiscard]] virtual std::optional<std::string> read(const std::string& path, std::size_t limit) = 0;
     /// Writes a whole file over what is there. False if any step failed: open, room on the disk, write,
     /// flush, close. The old bytes are left alone if the file cannot be opened or the disk has no room for
-    /// the new ones.
+    /// the new ones. A crash meanwhile may leave a mixture of both.
     [[nodiscard]] virtual bool write(const std::string& path, std::string_view bytes) = 0;
     /// Makes an empty file where there is none; one that is there keeps its bytes.
     virtual bool create(const std::string& path) = 0;
     /// Puts a whole file in place of what is there: whatever happens, the old or the new one stands.
     [[nodiscard]] virtual bool replace(const std::string& path, std::string_view bytes) = 0;
+    /// Adds to the end of a file, which is made if there is none: all of the bytes or, as far as the disk
+    /// lets, none. They have not reached the disk itself yet. False also if an earlier settle() did not get
+    /// there.
+    [[nodiscard]] virtual bool append(const std::string& path, std::string_view bytes) = 0;
+    /// What was appended is to reach the disk. Does not wait for it.
+    virtual void settle(const std::string& path) = 0;
+    /// True if there is no such file afterwards.
     virtual bool remove(const std::string& path) = 0;
+    /// Names of the files in a folder, those changed last at the end.
+    virtual std::vector<std::string> list(const std::string& folder) = 0;
     /// Claims a path for this program until it ends, however it ends, or gives the path free. False if
     /// another running program has it or the folder cannot be written.
     [[nodiscard]] virtual bool claim(const std::string& path) = 0;
@@ -42,9 +53,10 @@ public:
     /// A message. Closing it by its frame or by Esc answers Cancel, else No, else OK: the
     /// last of them that it has.
     virtual Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) = 0;
-    /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists;
-    /// adds nothing to a name. `proposed` may be empty.
-    virtual std::optional<std::string> chooseFileToSave(const std::string& proposed) = 0;
+    /// Path of a data file to write, or nothing if the user cancels. Asks before it names a file that exists.
+    /// `title`: what is saved. `proposed`: a path, or a name for the folder of the sheet; may be empty.
+    virtual std::optional<std::string> chooseFileToSave(std::string_view title,
+                                                        const std::string& proposed) = 0;
     /// Path of a data file to read, or nothing if the user cancels.
     virtual std::optional<std::string> chooseFileToOpen() = 0;
     /// Path of a text file with a table or a list, or nothing if the user cancels. `title`: what for.
@@ -132,6 +144,10 @@ struct Ports {
     Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips
+    OneShotTimer* journalTimer = nullptr;  ///< when the event is over and what it changed is painted
+    OneShotTimer* pauseTimer = nullptr;    ///< the hand pauses
+    OneShotTimer* deadlineTimer = nullptr; ///< it does not
+    OneShotTimer* statisticsTimer = nullptr; ///< until the window of statistics follows the counting
 };
 
 extern Ports ports;

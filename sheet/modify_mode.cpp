@@ -1,6 +1,7 @@
 #include "sheet/modify_mode.h"
 
 #include "core/amending.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
@@ -73,6 +74,8 @@ static void endEditing()
     AmendingOnOff(1);
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false;
+    frmMain.notice = "Counting again"; // what is typed next would count
+    playCue(Cue::SoundError);
 }
 
 void Text1_DblClick()

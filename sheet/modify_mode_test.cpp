@@ -84,7 +84,10 @@ TEST_F(ModifyMode, theMousePicksARowAndEndsTheEditing)
 
     Text1_GotFocus(1);
     Text1_Edited(1, "Betula", 6);
+    sound.played.clear();
     Text1_DblClick();
+    EXPECT_EQ("Counting again", frmMain.notice);
+    EXPECT_EQ(std::vector{Cue::SoundError}, sound.played);
     EXPECT_FALSE(sheet.Modifying || frmMain.Text4.enabled || frmMain.Text5[1].enabled ||
                  frmMain.Label10[1].enabled);
     EXPECT_TRUE(frmMain.Text1[1].italic);

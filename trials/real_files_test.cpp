@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -20,13 +20,13 @@ protected:
     std::string text(const char* name) { return files.read(path(name), 1000000).value_or("(none)"); }
 };
 
-/// No file may grow beyond a size while one lives, as on a full disk.
+/// No file may grow beyond a size while one lives, as on a full disk. The signal that comes with it would end
+/// the program.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes)
     {
         getrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, SIG_IGN);
         const rlimit full{bytes, before_.rlim_max};
         setrlimit(RLIMIT_FSIZE, &full);
     }
@@ -73,6 +73,13 @@ TEST_F(RealDisk, aPlaceIsClaimedOnceUnlessItsHolderIsGoneOnWhateverMachine)
 
     ASSERT_TRUE(files.write(path("left.lock"), elsewhere));
     EXPECT_TRUE(RealFiles().claim(path("left")));
+    ASSERT_TRUE(files.write(path("empty.lock"), ""));
+    EXPECT_TRUE(RealFiles().claim(path("empty")));
+    ASSERT_TRUE(files.write(path("garbage.lock"), "\xff\n\n\n"));
+    EXPECT_TRUE(RealFiles().claim(path("garbage")));
+    std::filesystem::create_symlink(path("nowhere"), path("dangling.lock"));
+    EXPECT_TRUE(RealFiles().claim(path("dangling")));
+    EXPECT_FALSE(QFile::exists(folder.filePath("dangling.lock"))) << "its file goes with it";
 }
 
 TEST_F(RealDisk, whatIsInTheWayFailsWithoutHarm)

@@ -93,6 +93,23 @@ TEST_F(RealKeys, altOpensTheMenusWhereItIsNoKeyOfTheCount)
     EXPECT_EQ(total(), 1);
 }
 
+TEST_F(RealKeys, aKeyHeldWithAltCtrlOrSuperCountsNothingUnlessThatKeyIsBound)
+{
+    tap(place::q);
+    EXPECT_EQ(total(), 1);
+    for (const int held : {place::alt, place::ctrl, place::leftSuper})
+        for (const int key : {place::q, place::digit1, place::backspace}) {
+            tapWith({held}, key);
+            EXPECT_EQ(total(), 1) << "place " << held << ", " << key;
+            tap(place::escape); // out of the menu bar, where Alt leads to
+        }
+    tap(place::digit1);
+    EXPECT_EQ(total(), 2);
+    bind(3, 91);
+    tapWith({place::leftSuper}, place::digit1);
+    EXPECT_EQ(total(), 4) << "both of them count";
+}
+
 TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
 {
     tapWith({place::ctrl}, place::q);

@@ -390,6 +390,28 @@ TEST_F(Editing, aClickIntoACellWithoutATaxonLetsItsNameBeTyped)
     EXPECT_FALSE(named<QLineEdit>("Text1(2)")->hasSelectedText()) << "a letter of it may be mended";
 }
 
+TEST_F(Editing, theLineAtTheFootStaysUntilTheNextDeed)
+{
+    const auto foot = [this] { return window->statusBar()->currentMessage(); };
+    frmMain.readingNotice = "line 3: 7 fields instead of 12";
+    window->present();
+    EXPECT_EQ(foot(), "line 3: 7 fields instead of 12");
+    QLineEdit* const name = named<QLineEdit>("Text1(0)");
+    name->setFocus(Qt::TabFocusReason);
+    name->selectAll();
+    for (const char* letter : {"1", ",", "5"})
+        type(letter);
+    const QString told = "'1,5' is no number, so the diagram has no depth scale: write 1.5.";
+    EXPECT_EQ(foot(), told);
+    named<QWidget>("Text1(1)")->setFocus(Qt::TabFocusReason);
+    QMouseEvent move(QEvent::MouseMove, {5, 5}, name->mapToGlobal(QPointF(5, 5)), Qt::NoButton, Qt::NoButton,
+                     {});
+    QApplication::sendEvent(name, &move);
+    EXPECT_EQ(foot(), told);
+    named<QAction>("mnuItalic")->trigger();
+    EXPECT_EQ(foot(), "");
+}
+
 TEST_F(Editing, aRowIsMovedByItsMenu)
 {
     named<QWidget>("Text2(1)")->setFocus(Qt::TabFocusReason);

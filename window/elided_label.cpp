@@ -24,7 +24,7 @@ bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut() == text() ? QString() : text(),
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut() == text() ? toolTip() : text(),
                        this);
     return true;
 }

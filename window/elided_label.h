@@ -3,7 +3,7 @@
 #include <QLabel>
 
 /// A caption that the user may have made long: what finds no room is cut with dots, and the tip shows it
-/// whole.
+/// whole. A tip of its own shows while nothing is cut.
 class ElidedLabel : public QLabel {
 public:
     ElidedLabel();

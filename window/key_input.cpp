@@ -37,7 +37,7 @@ void KeyInput::keyboardLost()
     deliver(repeats_.flush(), 0); // that key did come up
     repeats_.forget();
     captured_.clear();
-    window_.onEvent([] {
+    window_.onPassing([] {
         Form_Deactivate();
         Command6_MouseUp(); // percentages are looked at in passing
     });
@@ -83,6 +83,17 @@ static bool isForDiagnosis(const QObject* target)
            QApplication::activePopupWidget() == nullptr;
 }
 
+/// With Alt, Ctrl or Super held, a key is meant for a menu or the desktop, unless that key itself is bound.
+static bool isMeantElsewhere(Qt::KeyboardModifiers held)
+{
+    constexpr int ctrl = 17;
+    constexpr int alt = 18;
+    constexpr int super[] = {91, 92};
+    return (held.testFlag(Qt::ControlModifier) && !isBoundKey(ctrl)) ||
+           (held.testFlag(Qt::AltModifier) && !isBoundKey(alt)) ||
+           (held.testFlag(Qt::MetaModifier) && !isBoundKey(super[0]) && !isBoundKey(super[1]));
+}
+
 /// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.
 bool KeyInput::takesKey(QKeyEvent& event)
 {
@@ -93,6 +104,9 @@ bool KeyInput::takesKey(QKeyEvent& event)
             window_.onEvent([&] { frmDiagnose_KeyWithoutCode(key.physicalKey); });
         return frmDiagnose.visible;
     }
+    if (event.type() == QEvent::KeyPress && !sheet.Modifying && !frmDiagnose.visible &&
+        isMeantElsewhere(event.modifiers()))
+        return false;
     const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
     // Asked before the key is handled: what is bound may change through it.
     const bool taken = frmDiagnose.visible || (!sheet.Modifying && isBoundKey(code));
@@ -162,13 +176,11 @@ void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
     });
 }
 
-/// Ctrl and a letter is for the hidden shortcuts, Alt and a key for the menus unless Alt itself is a key that
-/// counts.
+/// Ctrl and a letter is for the hidden shortcuts, also where Ctrl itself is bound.
 static bool isForShortcuts(const QKeyEvent& event, int code)
 {
-    constexpr int alt = 18;
     return (event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z') ||
-           (event.modifiers().testFlag(Qt::AltModifier) && !isBoundKey(alt));
+           isMeantElsewhere(event.modifiers());
 }
 
 bool KeyInput::eventFilter(QObject* target, QEvent* event)

@@ -14,6 +14,8 @@
 #include "sheet/name_display.h"
 #include "sheet/percent_view.h"
 #include "sheet/sample_choice.h"
+#include "statistics/statistics_line.h"
+#include "statistics/target.h"
 #include "tables/taxa_form.h"
 #include "window/main_window.h"
 
@@ -117,5 +119,10 @@ std::vector<ControlRow> mainControls()
          .clicked = Command7_Click},
         {.name = "Command8", .record = &f.Command8, .clicked = Command8_Click},
         {.name = "Command9", .record = &f.Command9, .clicked = Command9_Click},
+        {.name = "StatisticsLine",
+         .record = &statisticsLine.Label1,
+         .pressed = StatisticsLine_MouseDown,
+         .menu = "mnuHalfWidth"},
+        {.name = "Target", .record = target.Label1.data(), .first = 0, .last = 2},
     };
 }

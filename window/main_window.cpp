@@ -8,6 +8,7 @@
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/percent_view.h"
+#include "statistics/recount.h"
 #include "window/bring_forward.h"
 #include "window/diagram_window.h"
 #include "window/manual_window.h"
@@ -90,6 +91,7 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
     whole->setContentsMargins(8, 6, 8, 2);
     whole->addWidget(sampleStrip());
     whole->addWidget(sumStrip());
+    whole->addWidget(statisticsStrip());
     whole->addWidget(sheetPages(), 13);
     whole->addLayout(bottom, 6);
     statusBar()->setObjectName("StatusBar1");
@@ -130,7 +132,7 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
     const bool isCell = control.kind != nullptr && control.kind->hovered != nullptr;
     switch (event->type()) {
     case QEvent::MouseMove:
-        onEvent(isCell ? control.kind->hovered : Form_MouseMove);
+        onPassing(isCell ? control.kind->hovered : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
@@ -159,12 +161,12 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
         return false;
     case QEvent::FocusOut: {
         if (!sheet.KeysActive)
-            onEvent(Command6_MouseUp);
+            onPassing(Command6_MouseUp);
         // A message or a menu in front is no reason to think that the user is done with the box.
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
         if (sheet.Modifying && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
             frmMain.focus = MainFocus::elsewhere; // or the note would call it back
-            onEvent(leaveEditedBox);
+            onPassing(leaveEditedBox);
         }
         return false;
     }
@@ -251,6 +253,7 @@ void MainWindow::scaleFont()
         sum->setFont(letters);
         sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("888888") + 12);
     }
+    statisticsLine_->setMinimumHeight(QFontMetrics(centralWidget()->font()).height() + 2);
     location_->setFixedHeight(3 * QFontMetrics(centralWidget()->font()).lineSpacing() + 1);
 }
 
@@ -268,10 +271,10 @@ void MainWindow::present()
         tabs_->setCurrentIndex(frmMain.SSTab1);
     if (const QString title = shownText(frmMain.caption); title != windowTitle())
         setWindowTitle(title);
-    if (const QString notice = shownText(frmMain.notice); notice != statusBar()->currentMessage())
-        statusBar()->showMessage(notice);
+    presentNotice();
     for (int total = 0; total < 3; ++total)
         hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+    presentRecount();
     curve_->present();
     presentMode();
     frmMain.focus = wanted;
@@ -283,6 +286,30 @@ void MainWindow::present()
         forwardShown_ = frmMain.forwardRevision;
         bringForward(*this);
     }
+}
+
+void MainWindow::presentNotice()
+{
+    const QString notice = shownText(!frmMain.notice.empty()       ? frmMain.notice
+                                     : !frmMain.diskNotice.empty() ? frmMain.diskNotice
+                                                                   : frmMain.readingNotice);
+    if (notice != statusBar()->currentMessage())
+        statusBar()->showMessage(notice);
+}
+
+/// While a sample is counted again its sums are not to be seen; the curve shows the total too.
+void MainWindow::presentRecount()
+{
+    const bool hidden = areSumsHidden();
+    const auto mode = hidden ? QLineEdit::NoEcho : QLineEdit::Normal;
+    if (sums_[0]->echoMode() == mode)
+        return;
+    for (QLineEdit* const sum : sums_) {
+        sum->setEchoMode(mode);
+        sum->setToolTip(hidden ? "Hidden until the recount is finished: View > Statistics..., Compare"
+                               : QString());
+    }
+    curve_->setVisible(!hidden);
 }
 
 /// What a screen reader says of a cell.

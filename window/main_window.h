@@ -2,6 +2,7 @@
 
 #include "core/user_event.h"
 #include "files/recovery.h"
+#include "statistics/watch_counts.h"
 #include "window/bound_window.h"
 
 #include <QClipboard>
@@ -37,17 +38,28 @@ public:
     void onEvent(Handler&& handler)
     {
         beginEvent();
+        onPassing(handler);
+    }
+
+    /// The same where the mouse only passes or the focus follows a press or a key: what the line at the foot
+    /// says was not read yet.
+    template <class Handler>
+    void onPassing(Handler&& handler)
+    {
         {
             const UserEvent event;
             handler();
         }
         watchUnsavedWork();
+        watchCounts();
         present();
     }
 
     /// Brings the widgets up to date with the records. Touches only what differs, so it costs microseconds
     /// and does not grow with the sheet.
     void present();
+    /// Of all that, only the line at the foot.
+    void presentNotice();
 
     /// The window of the diagram, where keys count too.
     const DiagramWindow& diagramWindow() const { return *diagram_; }
@@ -66,6 +78,7 @@ private:
     QWidget* sampleStrip();
     QWidget* sheetPages();
     QWidget* sumStrip();
+    QWidget* statisticsStrip();
     QWidget* infoPanel();
     QWidget* notePanel();
     QWidget* historyPanel();
@@ -90,6 +103,7 @@ private:
     void presentMode();
 
     void presentNames();
+    void presentRecount();
     void presentFocusAndPointer();
     void scaleFont();
     static bool showCutText(const QObject* target, const QHelpEvent& event);
@@ -98,6 +112,7 @@ private:
     QTabWidget* tabs_ = nullptr;
     std::array<TaxonPage*, 3> pages_{};
     std::array<QLineEdit*, 3> sums_{};
+    QLabel* statisticsLine_ = nullptr;    ///< under the sums
     QPlainTextEdit* note_ = nullptr;      ///< Text4
     QPlainTextEdit* location_ = nullptr;  ///< Text6
     QList<QLineEdit*> editedBoxes_;       ///< of the sample: its name and additional info

@@ -111,7 +111,7 @@ void MainWindow::boxEntered(QWidget* box, Qt::FocusReason reason)
     if (!sheet.Modifying || reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
         return;
     const auto [kind, index] = controlOf(box);
-    onEvent([&, row = kind, place = index] {
+    onPassing([&, row = kind, place = index] {
         if (row != nullptr)
             row->entered(place);
     });

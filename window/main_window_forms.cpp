@@ -12,9 +12,11 @@
 #include "window/manual_window.h"
 #include "window/picture_window.h"
 #include "window/sample_windows.h"
+#include "window/statistics_window.h"
 #include "window/subtotal_window.h"
 #include "window/summary_window.h"
 #include "window/table_windows.h"
+#include "window/target_window.h"
 
 namespace {
 
@@ -38,8 +40,6 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmParaName", build<ParameterNameWindow>},
             {"frmSubtotal", build<SubtotalWindow>},
             {"frmSummary", build<SummaryWindow>},
-            {"frmTable", build<TableWindow>},
-            {"frmTaxa", build<TaxaWindow>},
             {"frmFind", build<FindWindow>},
             {"frmPicture", build<PictureWindow>},
             {"frmAboutApp", build<AboutAppWindow>},
@@ -47,7 +47,11 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmDiagnose", build<DiagnoseWindow>},
             {"frmInitial", build<InitialWindow>},
             {"frmKeyCode", build<KeyCodeWindow>},
-            {"frmNote", build<KeyNoteWindow>}};
+            {"frmNote", build<KeyNoteWindow>},
+            {"frmTarget", build<TargetWindow>},
+            {"frmStatistics", build<StatisticsWindow>},
+            {"frmTable", build<TableWindow>},
+            {"frmTaxa", build<TaxaWindow>}};
 }
 
 void MainWindow::presentForms()

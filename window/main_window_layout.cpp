@@ -191,6 +191,9 @@ QWidget* MainWindow::sumStrip()
         bell->setSizePolicy(kept);
         bell->hide();
         row->addWidget(bell);
+        QLabel* const toGo = bind(new QLabel, "Target", total);
+        toGo->setAccessibleName(QString("Target of ") + names[total]);
+        row->addWidget(toGo);
     }
     row->addStretch(1);
     row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
@@ -198,7 +201,7 @@ QWidget* MainWindow::sumStrip()
         auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
         option->setAccessibleName(QString("Set alarm on ") + names[total]);
         option->setFocusPolicy(Qt::TabFocus);
-        row->insertWidget(4 * total + 3, option);
+        row->insertWidget(5 * total + 4, option);
     }
     percent_ = toolButton("Command6", "%");
     percent_->setAccessibleName("Show percentages while held down");
@@ -206,6 +209,21 @@ QWidget* MainWindow::sumStrip()
     row->addWidget(percent_);
     row->addWidget(toolButton("Command8", "Alignment"));
     return panel(row);
+}
+
+QWidget* MainWindow::statisticsStrip()
+{
+    statisticsLine_ = bind(new ElidedLabel, "StatisticsLine");
+    statisticsLine_->setAccessibleName("Statistics line");
+    statisticsLine_->setCursor(Qt::PointingHandCursor);
+    statisticsLine_->setToolTip("<qt>Of the % basis. Coverage: share of the assemblage that the taxa seen "
+                                "make up (Chao & Jost 2012); new taxa "
+                                "by Shen, Chao & Lin (2003). In brackets the 95 % limits of the taxon "
+                                "counted last (Wilson 1927, Mosimann "
+                                "1965), and how many individuals more would bring them to the half-width. A "
+                                "click chooses that. They do not "
+                                "hold where individuals cling together.</qt>");
+    return statisticsLine_;
 }
 
 QWidget* MainWindow::infoPanel()

@@ -24,6 +24,9 @@
 #include "sheet/name_display.h"
 #include "sheet/subtotals.h"
 #include "sheet/summary.h"
+#include "statistics/statistics_form.h"
+#include "statistics/statistics_line.h"
+#include "statistics/target.h"
 #include "tables/table_exports.h"
 #include "tables/table_form.h"
 #include "tables/taxa_form.h"
@@ -39,7 +42,6 @@ namespace {
 const std::vector<MenuRow> menus = {
     {"mnuFile", "&File", nullptr},
     {"mnuPercent", "Save percentage table", "mnuFile"},
-    {"mnuExport", "Export for R and Python", "mnuFile"},
     {"mnuEdit", "&Edit", nullptr},
     {"mnuDiagram", "&Diagram", nullptr},
     {"mnuTools", "&Tools", nullptr},
@@ -49,11 +51,14 @@ const std::vector<MenuRow> menus = {
     {"mnuHelp", "&Help", nullptr},
     {"mnuTired", "Are you tired?", "mnuHelp"},
     {"mnuDiversityRB", nullptr, nullptr},
+    {"mnuHalfWidth", nullptr, nullptr},
+    {"mnuExport", "Export for R and Python", "mnuFile"},
 };
 
 std::vector<EntryRow> entryTable()
 {
     MainScreen& f = frmMain;
+    auto& h = statisticsLine.mnuHalfWidth;
     return {
         {"mnuFile", "mnuNew", "New", &f.mnuNew, mnuNew_Click},
         {"mnuFile", "mnuOpen", "Open...", &f.mnuOpen, mnuOpen_Click},
@@ -110,6 +115,12 @@ std::vector<EntryRow> entryTable()
         {"mnuAlignment", "mnuAlign(0)", "Left", &f.mnuAlign[0], {mnuAlign_Click, 0}, true},
         {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], {mnuAlign_Click, 1}, true},
 
+        {"mnuView"},
+        {"mnuView", "mnuStatisticsLine", "Statistics line", &statisticsLine.mnuStatisticsLine,
+         mnuStatisticsLine_Click, true},
+        {"mnuView", "mnuTarget", "Target...", nullptr, mnuTarget_Click},
+        {"mnuView", "mnuStatistics", "Statistics...", nullptr, mnuStatistics_Click},
+
         {"mnuTired", "mnuCoffee", "Coffee", nullptr, mnuCoffee_Click},
         {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
         {"mnuTired", "mnuFavorite", "My favorite", &f.mnuFavorite, mnuFavorite_Click},
@@ -120,6 +131,13 @@ std::vector<EntryRow> entryTable()
 
         {"mnuDiversityRB", "mnuCopyDiversity", "Copy image", &f.mnuCopyDiversity, mnuCopyDiversity_Click},
         {"mnuDiversityRB", "mnuSaveDiversity", "Save data", &f.mnuSaveDiversity, SaveDiversity},
+
+        {"mnuHalfWidth", "mnuHalfWidth(0)", "", &h[0], {mnuHalfWidth_Click, 0}, true},
+        {"mnuHalfWidth", "mnuHalfWidth(1)", "", &h[1], {mnuHalfWidth_Click, 1}, true},
+        {"mnuHalfWidth", "mnuHalfWidth(2)", "", &h[2], {mnuHalfWidth_Click, 2}, true},
+        {"mnuHalfWidth", "mnuHalfWidth(3)", "", &h[3], {mnuHalfWidth_Click, 3}, true},
+        {"mnuHalfWidth", "mnuHalfWidth(4)", "", &h[4], {mnuHalfWidth_Click, 4}, true},
+        {"mnuHalfWidth", "mnuHalfWidth(5)", "", &h[5], {mnuHalfWidth_Click, 5}, true},
     };
 }
 

@@ -1,19 +1,18 @@
 #include "window/message_boxes.h"
 
+#include "core/sheet_state.h"
 #include "platform/qt/text.h"
 #include "window/main_window.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
-
-static std::optional<std::string> chosen(const QString& path)
-{
-    return path.isEmpty() ? std::nullopt : std::optional(path.toStdString());
-}
+#include <QStandardPaths>
 
 static const QString dataFiles = "DataFile(*.csv)";
 
@@ -58,40 +57,75 @@ Answer MessageBoxes::ask(std::string_view text, std::string_view title, Buttons 
     return choices.back().answer;
 }
 
-std::optional<std::string> MessageBoxes::chooseFileToSave(const std::string& proposed)
+/// Beside the sheet, else where a dialog was left last, else among the user's documents.
+QString MessageBoxes::startFolder() const
+{
+    const QFileInfo sheetFile(QString::fromStdString(sheet.SheetPath));
+    if (!sheet.SheetPath.empty() && sheetFile.isAbsolute() && sheetFile.dir().exists())
+        return sheetFile.path();
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return !lastFolder_.isEmpty() ? lastFolder_ : QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+std::optional<std::string> MessageBoxes::run(QFileDialog& dialog)
+{
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    lastFolder_ = dialog.directory().path();
+    return dialog.selectedFiles().constFirst().toStdString();
+}
+
+/// `ending`: of a name that is typed without a point.
+std::optional<std::string> MessageBoxes::choosePathToSave(std::string_view title, const QString& proposed,
+                                                          const QString& kind, const char* ending)
 {
     window_.present();
-    return chosen(
-        QFileDialog::getSaveFileName(windowInFront(), "Save", QString::fromStdString(proposed), dataFiles));
+    const QFileInfo file(proposed);
+    QFileDialog dialog(windowInFront(), shownText(title),
+                       file.isAbsolute() && file.dir().exists() ? file.path() : startFolder(), kind);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(ending);
+    dialog.selectFile(file.fileName());
+    return run(dialog);
+}
+
+std::optional<std::string> MessageBoxes::choosePathToRead(std::string_view title, const QString& kind)
+{
+    window_.present();
+    QFileDialog dialog(windowInFront(), shownText(title), startFolder(), kind);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return run(dialog);
+}
+
+std::optional<std::string> MessageBoxes::chooseFileToSave(std::string_view title, const std::string& proposed)
+{
+    return choosePathToSave(title, proposed.empty() ? "Untitled.csv" : QString::fromStdString(proposed),
+                            dataFiles, "csv");
 }
 
 std::optional<std::string> MessageBoxes::chooseFileToOpen()
 {
-    window_.present();
-    return chosen(QFileDialog::getOpenFileName(windowInFront(), "Open", {}, dataFiles));
+    return choosePathToRead("Open data sheet or template", dataFiles);
 }
 
 std::optional<std::string> MessageBoxes::chooseTableToOpen(std::string_view title)
 {
-    window_.present();
-    return chosen(QFileDialog::getOpenFileName(windowInFront(), shownText(title), {},
-                                               "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)"));
+    return choosePathToRead(title, "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)");
 }
 
 std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)
 {
     window_.present();
-    return chosen(QFileDialog::getExistingDirectory(windowInFront(), shownText(title)));
+    QFileDialog dialog(windowInFront(), shownText(title), startFolder());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return run(dialog);
 }
 
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
-    window_.present();
-    QFileDialog dialog(windowInFront(), "Save picture", {}, "Picture(*.svg *.pdf *.png)");
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("svg");
-    dialog.selectFile(QString::fromStdString(proposed));
-    return dialog.exec() == QDialog::Accepted ? chosen(dialog.selectedFiles().value(0)) : std::nullopt;
+    return choosePathToSave("Save picture", QString::fromStdString(proposed), "Picture(*.svg *.pdf *.png)",
+                            "svg");
 }
 
 std::optional<Colour> MessageBoxes::chooseColour(Colour current)

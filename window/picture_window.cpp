@@ -1,13 +1,12 @@
 #include "window/picture_window.h"
 
 #include "platform/ports.h"
-#include "window/rest_scenes.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImageReader>
 #include <QKeyEvent>
 #include <QPainter>
-#include <algorithm>
 
 PictureWindow::PictureWindow(MainWindow& main) : FormWindow(main, "frmPicture", "Are you tired?", {})
 {
@@ -17,15 +16,17 @@ PictureWindow::PictureWindow(MainWindow& main) : FormWindow(main, "frmPicture", 
     setAccessibleDescription("A picture to rest the eyes. Esc closes it.");
 }
 
-void PictureWindow::readFavorite()
+/// The bytes of a picture file; empty if it cannot be read.
+static QByteArray pictureFile(RestPicture picture)
 {
-    constexpr std::size_t limit = 64u << 20;
-    const auto bytes = ports.files->read(ports.programFolder + "/References/My_favorite.jpg", limit);
-    QByteArray held = bytes ? QByteArray::fromStdString(*bytes) : QByteArray();
-    QBuffer source(&held);
-    QImageReader reader(&source);
-    reader.setAutoTransform(true); // a camera may have been held upright
-    favorite_ = reader.read();
+    if (picture == RestPicture::imgFavorite) {
+        constexpr std::size_t limit = 64u << 20;
+        const auto bytes = ports.files->read(ports.programFolder + "/References/My_favorite.jpg", limit);
+        return bytes ? QByteArray::fromStdString(*bytes) : QByteArray();
+    }
+    QFile delivered(picture == RestPicture::imgCoffee ? ":/pictures/coffee.jpg" : ":/pictures/beach.jpg");
+    delivered.open(QIODevice::ReadOnly);
+    return delivered.readAll();
 }
 
 void PictureWindow::presentMore()
@@ -34,36 +35,34 @@ void PictureWindow::presentMore()
         return;
     constexpr const char* titles[] = {"Coffee", "Beach", "My favorite"};
     setWindowTitle(titles[static_cast<int>(frmPicture.shown)]);
-    favorite_ = QImage();
-    if (frmPicture.shown == RestPicture::imgFavorite)
-        readFavorite();
+    picture_ = QImage();
+    if (!frmPicture.visible)
+        return;
+    QByteArray bytes = pictureFile(frmPicture.shown);
+    QBuffer source(&bytes);
+    QImageReader reader(&source);
+    reader.setAutoTransform(true); // a camera may have been held upright
+    picture_ = reader.read();
 }
 
-/// The drawings may be cut at their edges to fill the window; a picture of one's own is shown whole.
+/// The delivered pictures may be cut at their edges to fill the window; one of the user's own is shown whole.
 void PictureWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), Qt::black);
-    const bool drawn = frmPicture.shown != RestPicture::imgFavorite;
-    const QSizeF size = drawn ? sceneSize : QSizeF(favorite_.size());
-    if (size.isEmpty()) {
+    if (picture_.isNull()) {
         painter.setPen(Qt::white);
         painter.drawText(rect(), Qt::AlignCenter,
                          "References/My_favorite.jpg is no picture that can be shown.");
         return;
     }
-    const double across = width() / size.width();
-    const double down = height() / size.height();
-    const double scale = drawn ? std::max(across, down) : std::min(across, down);
-    painter.translate((width() - scale * size.width()) / 2, (height() - scale * size.height()) / 2);
-    painter.scale(scale, scale);
-    if (!drawn)
-        painter.drawImage(QRectF(QPointF(0, 0), size), favorite_);
-    else if (frmPicture.shown == RestPicture::imgCoffee)
-        paintCoffee(painter);
-    else
-        paintBeach(painter);
+    const bool whole = frmPicture.shown == RestPicture::imgFavorite;
+    QRectF target(
+        QPointF(),
+        QSizeF(picture_.size()).scaled(size(), whole ? Qt::KeepAspectRatio : Qt::KeepAspectRatioByExpanding));
+    target.moveCenter(QRectF(rect()).center());
+    painter.drawImage(target, picture_);
 }
 
 void PictureWindow::mousePressEvent(QMouseEvent*)

@@ -18,7 +18,5 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void readFavorite();
-
-    QImage favorite_; ///< null if the file cannot be read
+    QImage picture_; ///< the one on show; null if its file cannot be read
 };

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <map>
 #include <set>
+#include <string>
+#include <vector>
 
 /// Files in memory, by path, and the faults of a disk.
 class MemoryFiles : public Files {
@@ -39,10 +41,30 @@ public:
         contents[path] = bytes;
         return true;
     }
-    bool remove(const std::string& path) override { return contents.erase(path) != 0; }
+    bool append(const std::string& path, std::string_view bytes) override
+    {
+        if (unwritable.count(path) != 0 || contents[path].size() + bytes.size() > room || closeFails)
+            return false;
+        contents[path] += bytes;
+        return true;
+    }
+    void settle(const std::string&) override {}
+    bool remove(const std::string& path) override
+    {
+        return unwritable.count(path) == 0 && (contents.erase(path), true);
+    }
+    std::vector<std::string> list(const std::string& folder) override
+    {
+        std::vector<std::string> names;
+        for (const auto& [path, bytes] : contents)
+            if (path.rfind('/') == folder.size() && path.compare(0, folder.size(), folder) == 0)
+                names.push_back(path.substr(folder.size() + 1));
+        return names;
+    }
     bool claim(const std::string& path) override
     {
-        return claimedByOthers.count(path) == 0 && (claimed.insert(path), true);
+        return claimedByOthers.count(path) == 0 && unwritable.count(path) == 0 &&
+               (claimed.insert(path), true);
     }
     void release(const std::string& path) override { claimed.erase(path); }
     bool create(const std::string& path) override

@@ -21,10 +21,12 @@ public:
 
     /// Paths that the file dialogs answer, in order; nothing is a cancel.
     std::deque<std::optional<std::string>> paths;
-    std::string proposed; ///< name that the last save dialog proposed
+    std::string proposed;  ///< name that the last save dialog proposed
+    std::string saveTitle; ///< of that dialog
 
-    std::optional<std::string> chooseFileToSave(const std::string& name) override
+    std::optional<std::string> chooseFileToSave(std::string_view title, const std::string& name) override
     {
+        saveTitle = title;
         proposed = name;
         return chooseFileToOpen();
     }
@@ -44,7 +46,7 @@ public:
     std::optional<std::string> chooseFolder(std::string_view) override { return chooseFileToOpen(); }
     std::optional<std::string> choosePictureToSave(const std::string& name) override
     {
-        return chooseFileToSave(name);
+        return chooseFileToSave("Save picture", name);
     }
     std::optional<Colour> colour; ///< what the colour dialog answers
     std::optional<Colour> chooseColour(Colour) override { return colour; }

@@ -1,28 +1,28 @@
 #include "platform/qt/real_files.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <algorithm>
-#include <cerrno>
-#if defined(Q_OS_LINUX)
-#include <fcntl.h>
-#include <unistd.h>
-#endif
+#include <csignal>
 
-/// Asks the disk for the room of the new bytes while the old ones still stand. A file that only grew by that
-/// is given its old length back if the room is not there.
-static bool reserveRoom([[maybe_unused]] QFile& file, [[maybe_unused]] qint64 bytes)
+RealFiles::RealFiles()
 {
-#if defined(Q_OS_LINUX)
-    const qint64 before = file.size();
-    const int failure = posix_fallocate(file.handle(), 0, std::max<qint64>(bytes, 1));
-    if (failure == ENOSPC || failure == EDQUOT || failure == EFBIG) {
-        file.resize(before);
-        return false;
-    }
+#if defined(SIGXFSZ)
+    // A file that may not grow any more is a write that fails, as on a full disk, and not the program's end.
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
-    return true; // a system that cannot tell finds out while it writes
+}
+
+RealFiles::~RealFiles()
+{
+    if (!settler_.joinable())
+        return;
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    wake_.notify_one();
+    settler_.join();
 }
 
 std::optional<std::string> RealFiles::read(const std::string& path, std::size_t limit)
@@ -37,61 +37,78 @@ std::optional<std::string> RealFiles::read(const std::string& path, std::size_t 
     return bytes.toStdString();
 }
 
-/// Until then a power cut could still take what was written.
-static bool reachesTheDisk([[maybe_unused]] QFile& file)
-{
-#if defined(Q_OS_LINUX)
-    return fdatasync(file.handle()) == 0 || errno == EINVAL; // some targets, such as pipes, have none
-#else
-    return true;
-#endif
-}
-
 bool RealFiles::write(const std::string& path, std::string_view bytes)
 {
-    QFile file(QString::fromStdString(path));
-    const auto size = static_cast<qint64>(bytes.size());
-    // ReadWrite keeps the old bytes until the new ones have their room.
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !reserveRoom(file, size))
-        return false;
-    const bool written =
-        file.write(bytes.data(), size) == size && file.resize(size) && file.flush() && reachesTheDisk(file);
-    file.close();
-    return written && file.error() == QFile::NoError;
+    return disk::write(path, bytes);
 }
 
 bool RealFiles::create(const std::string& path)
 {
-    return QFile(QString::fromStdString(path)).open(QIODevice::ReadWrite);
+    return disk::create(path);
 }
 
 bool RealFiles::replace(const std::string& path, std::string_view bytes)
 {
-    QSaveFile file(QString::fromStdString(path));
-    const auto size = static_cast<qint64>(bytes.size());
-    return file.open(QIODevice::WriteOnly) && file.write(bytes.data(), size) == size && file.commit();
+    return disk::replace(path, bytes);
+}
+
+bool RealFiles::append(const std::string& path, std::string_view bytes)
+{
+    const bool appended = disk::append(path, bytes);
+    const std::lock_guard lock(mutex_);
+    return unsettled_.erase(path) == 0 && appended;
+}
+
+void RealFiles::settle(const std::string& path)
+{
+    {
+        const std::lock_guard lock(mutex_);
+        toSettle_.insert(path);
+    }
+    if (!settler_.joinable())
+        settler_ = std::thread([this] { settleAll(); });
+    wake_.notify_one();
+}
+
+void RealFiles::settleAll()
+{
+    std::unique_lock lock(mutex_);
+    for (;;) {
+        wake_.wait(lock, [this] { return ending_ || !toSettle_.empty(); });
+        if (toSettle_.empty())
+            return;
+        const std::string path = *toSettle_.begin();
+        toSettle_.erase(toSettle_.begin());
+        lock.unlock();
+        const bool settled = disk::settle(path);
+        lock.lock();
+        if (!settled)
+            unsettled_.insert(path);
+    }
 }
 
 bool RealFiles::remove(const std::string& path)
 {
-    return QFile::remove(QString::fromStdString(path));
+    const bool removed = disk::remove(path);
+    const std::lock_guard lock(mutex_);
+    toSettle_.erase(path);
+    unsettled_.erase(path);
+    return removed;
 }
 
-/// On a stick that was carried here a crash on another machine may have left its lock, which looks held. What
-/// a living program holds cannot be removed, on a shared drive either.
-static bool removedAsLeft(QLockFile& lock)
+std::vector<std::string> RealFiles::list(const std::string& folder)
 {
-    qint64 process = 0;
-    QString host;
-    QString program;
-    return lock.getLockInfo(&process, &host, &program) && lock.removeStaleLockFile();
+    std::vector<std::string> names;
+    for (const QString& name :
+         QDir(QString::fromStdString(folder)).entryList(QDir::Files, QDir::Time | QDir::Reversed))
+        names.push_back(name.toStdString());
+    return names;
 }
 
 bool RealFiles::claim(const std::string& path)
 {
-    auto lock = std::make_unique<QLockFile>(QString::fromStdString(path + ".lock"));
-    lock->setStaleLockTime(0); // only that of a program that runs no more is taken over, however old
-    if (!lock->tryLock() && !(removedAsLeft(*lock) && lock->tryLock()))
+    auto lock = disk::tryLock(path + ".lock");
+    if (!lock)
         return false;
     claims_[path] = std::move(lock);
     return true;

@@ -3,10 +3,15 @@
 #include "platform/ports.h"
 
 #include <QDate>
+#include <QLocale>
 #include <QTimer>
 
-/// Local time, with the date in the system's short form but always four digits of the year. A system without
-/// a form of its own gets dd/mm/yyyy, as the data sheets say.
+/// A day in the locale's short form, but in Latin digits with four of the year, and with nothing but "/",
+/// ".", "-" and blanks between them: a sheet outlives its century and is read everywhere. A system without a
+/// form of its own gets dd/mm/yyyy, as the data sheets say.
+std::string shortDate(const QLocale& locale, const QDate& day);
+
+/// Local time.
 class SystemClock : public Clock {
 public:
     Moment now() override;

@@ -35,7 +35,8 @@ Answer RandomDialogs::ask(std::string_view text, std::string_view title, Buttons
     return answer == 0 ? Answer::yes : answer == 1 ? Answer::no : Answer::cancel;
 }
 
-std::optional<std::string> RandomDialogs::chooseFileToSave(const std::string& proposed)
+std::optional<std::string> RandomDialogs::chooseFileToSave(std::string_view /*title*/,
+                                                           const std::string& proposed)
 {
     whenOpened();
     if (purpose)

@@ -25,7 +25,7 @@ public:
     std::string fileToOpen();
 
     Answer ask(std::string_view text, std::string_view title, Buttons buttons, Icon icon) override;
-    std::optional<std::string> chooseFileToSave(const std::string& proposed) override;
+    std::optional<std::string> chooseFileToSave(std::string_view title, const std::string& proposed) override;
     std::optional<std::string> chooseFileToOpen() override;
     std::optional<std::string> chooseTableToOpen(std::string_view) override { return chooseFileToOpen(); }
     std::optional<std::string> chooseFolder(std::string_view title) override;

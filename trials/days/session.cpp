@@ -16,6 +16,7 @@
 #include "extras/about.h"
 #include "extras/diagnose.h"
 #include "extras/pictures.h"
+#include "files/left_work.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -141,7 +142,8 @@ void Session::start()
     hooks = Hooks();
     connectRooms();
     hooks.EndProgram = [] { ended = true; };
-    ports = {&files, &dialogs, &sound_, &clock_, &timer_, &recoveryTimer_, &pictures_, "/program", 15360};
+    ports = {&files,     &dialogs,   &sound_, &clock_,        &timer_,      &recoveryTimer_,
+             &pictures_, "/program", 15360,   &journalTimer_, &pauseTimer_, &deadlineTimer_};
     ended = false;
     hands_.letGoOfAll();
     hands_.guardEnds();
@@ -160,6 +162,7 @@ void Session::event(const std::function<void()>& handler)
         handler();
     }
     watchUnsavedWork();
+    JournalTimer_Timer();
 }
 
 void Session::fromMenu(const std::function<void()>& handler)

@@ -83,6 +83,9 @@ private:
     HandClock clock_;
     HandTimer timer_;
     HandTimer recoveryTimer_;
+    HandTimer journalTimer_;
+    HandTimer pauseTimer_;
+    HandTimer deadlineTimer_;
     PictureRecorder pictures_;
     Hands hands_{chance};
     std::vector<DayEvent> mainEvents_, formEvents_;
