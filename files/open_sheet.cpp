@@ -234,8 +234,10 @@ void settle()
     }
     frmMain.Picture2.clearPicture();
     TakeSnapshot();
-    logAction("(Open) " + toCodePageFromUtf8(sheet.SheetPath));
-    frmMain.Text6.text = toCodePageFromUtf8(sheet.SheetPath);
+    const std::string path = toCodePageFromUtf8(sheet.SheetPath);
+    if (!path.empty())
+        logAction("(Open) " + path);
+    frmMain.Text6.text = path.empty() ? "File location: ---" : path;
     WrapFileLocation();
     offerNextSample(true);
     offerSave(false);
@@ -291,7 +293,7 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
 
 bool openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
-    const auto name = baseName(path);
+    const auto name = path.empty() ? std::optional<std::string>("Untitled") : baseName(path);
     if (!name || !FieldReader(text).next()) {
         frmMain.notice = name ? "The file is empty." : "A data sheet's name has an ending: .csv.";
         return false;
@@ -329,17 +331,8 @@ bool openSheetText(const std::string& text, const std::string& path, const std::
 
 void openUnsavedText(const std::string& text)
 {
-    openSheetText(text, "Untitled.csv", std::nullopt);
-    standUnsaved({});
-}
-
-void standUnsaved(const std::string& path)
-{
-    sheet.SheetPath = path;
-    sheet.SheetUnnamed = path.empty();
-    showSheetName(baseName(path).value_or("Untitled"));
-    frmMain.Text6.text = path.empty() ? "File location: ---" : toCodePageFromUtf8(path);
-    WrapFileLocation();
+    openSheetText(text, {}, std::nullopt);
+    sheet.SheetUnnamed = true;
     sheet.FreshSheet = false;
     markUnsavedWork();
 }

@@ -12,9 +12,8 @@ void mnuOpen_Click();
 /// Replaces the sheet in memory by the text of a data sheet, in the code page. `path`: UTF-8, becomes the
 /// sheet's file; `file`: what it holds. False if the sheet in memory stays as it was.
 bool openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file);
-/// The same for a sheet that no file holds yet: it has no name and is work to save.
-void openUnsavedText(const std::string& text);
-/// The sheet on show is not what its file holds. `path`: of that file, UTF-8; empty: there is none.
-void standUnsaved(const std::string& path);
 /// The same for a file that was dropped onto the window, questions included. `path`: UTF-8.
 void openDropped(const std::string& path);
+/// Replaces the sheet in memory by one that no file holds yet: it has no name and is work to save. `text`: of
+/// a data sheet, in the code page.
+void openUnsavedText(const std::string& text);

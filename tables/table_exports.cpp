@@ -28,12 +28,13 @@ std::string tidyTableOfSheet(const SheetTables& state)
 
 struct Export {
     const char* ending;
+    const char* dialogTitle;
     std::string (*text)(const SheetTables&);
 };
 
-constexpr Export counts = {"_counts.csv", countsTable};
-constexpr Export tidy = {"_tidy.csv", tidyTableOfSheet};
-constexpr Export taxa = {"_taxa.csv", taxaTable};
+constexpr Export counts = {"_counts.csv", "Export table of counts", countsTable};
+constexpr Export tidy = {"_tidy.csv", "Export tidy table", tidyTableOfSheet};
+constexpr Export taxa = {"_taxa.csv", "Export table of taxa", taxaTable};
 
 std::size_t endOfFolder(const std::string& path)
 {
@@ -84,7 +85,7 @@ void tellWritten(const std::string& what)
 void exportOne(const Export& table)
 {
     storeShownSample();
-    const auto path = ports.dialogs->chooseFileToSave("Save table", besideTheSheet(table));
+    const auto path = ports.dialogs->chooseFileToSave(table.dialogTitle, besideTheSheet(table));
     if (path && write(table, *path))
         tellWritten("'" + fileName(*path) + "'");
 }

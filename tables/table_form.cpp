@@ -83,8 +83,9 @@ void showTable()
         f.Text1.text = "Nothing is left out.";
     f.Check1.visible = table.surplusTaxa > 0;
     f.Check1.checked = f.reading.leaveOutRarest;
-    f.Check1.caption = "Leave out the " +
-                       numberOf(static_cast<std::size_t>(table.surplusTaxa), "rarest taxon", "rarest taxa");
+    f.Check1.caption = table.surplusTaxa == 1
+                           ? "Leave out the rarest taxon"
+                           : "Leave out the " + decimalText(table.surplusTaxa) + " rarest taxa";
     f.Command1.enabled = table.refusal.empty();
 }
 

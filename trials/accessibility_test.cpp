@@ -84,6 +84,9 @@ TEST_F(Accessibility, everyControlOfEveryWindowHasAName)
     named<QAbstractButton>("Command7(1)")->click();
     expectNames(named<QWidget>("frmParaName"), "frmParaName");
     named<QDialog>("frmParaName")->close();
+    open("mnuTaxaFromList");
+    expectNames(named<QWidget>("frmTaxa"), "frmTaxa");
+    named<QDialog>("frmTaxa")->close();
     open("mnuFinishAmend");
     frmMain.Command5[0].enabled = false;
 

@@ -40,8 +40,6 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmParaName", build<ParameterNameWindow>},
             {"frmSubtotal", build<SubtotalWindow>},
             {"frmSummary", build<SummaryWindow>},
-            {"frmTable", build<TableWindow>},
-            {"frmTaxa", build<TaxaWindow>},
             {"frmFind", build<FindWindow>},
             {"frmPicture", build<PictureWindow>},
             {"frmAboutApp", build<AboutAppWindow>},

@@ -42,7 +42,6 @@ namespace {
 const std::vector<MenuRow> menus = {
     {"mnuFile", "&File", nullptr},
     {"mnuPercent", "Save percentage table", "mnuFile"},
-    {"mnuExport", "Export for R and Python", "mnuFile"},
     {"mnuEdit", "&Edit", nullptr},
     {"mnuDiagram", "&Diagram", nullptr},
     {"mnuTools", "&Tools", nullptr},

@@ -89,6 +89,14 @@ std::optional<std::string> MessageBoxes::choosePathToSave(std::string_view title
     return run(dialog);
 }
 
+std::optional<std::string> MessageBoxes::choosePathToRead(std::string_view title, const QString& kind)
+{
+    window_.present();
+    QFileDialog dialog(windowInFront(), shownText(title), startFolder(), kind);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return run(dialog);
+}
+
 std::optional<std::string> MessageBoxes::chooseFileToSave(std::string_view title, const std::string& proposed)
 {
     return choosePathToSave(title, proposed.empty() ? "Untitled.csv" : QString::fromStdString(proposed),
@@ -97,19 +105,12 @@ std::optional<std::string> MessageBoxes::chooseFileToSave(std::string_view title
 
 std::optional<std::string> MessageBoxes::chooseFileToOpen()
 {
-    window_.present();
-    QFileDialog dialog(windowInFront(), "Open data sheet or template", startFolder(), dataFiles);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return run(dialog);
+    return choosePathToRead("Open data sheet or template", dataFiles);
 }
 
 std::optional<std::string> MessageBoxes::chooseTableToOpen(std::string_view title)
 {
-    window_.present();
-    QFileDialog dialog(windowInFront(), shownText(title), startFolder(),
-                       "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)");
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    return run(dialog);
+    return choosePathToRead(title, "Tables and lists(*.csv *.txt *.tsv *.tab);;All files(*)");
 }
 
 std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)

@@ -24,6 +24,7 @@ private:
     QWidget* windowInFront();
     QString startFolder() const;
     std::optional<std::string> run(QFileDialog& dialog);
+    std::optional<std::string> choosePathToRead(std::string_view title, const QString& kind);
     std::optional<std::string> choosePathToSave(std::string_view title, const QString& proposed,
                                                 const QString& kind, const char* ending);
 
