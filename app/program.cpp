@@ -5,6 +5,7 @@
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/start_up.h"
+#include "figure/figure_form.h"
 #include "files/recovery.h"
 
 #include <QApplication>
@@ -12,6 +13,12 @@
 
 Program::Program(const QString& folder)
     : timer_([this] { window_.onEvent(Timer1_Timer); }), recoveryTimer_(RecoveryTimer_Timer),
+      figureTimer_([this] {
+          const int before = frmFigure.planRevision;
+          FigureTimer_Timer();
+          if (frmFigure.planRevision != before)
+              window_.present();
+      }),
       dialogs_(window_), keys_(window_)
 {
     ports = {&files_,
@@ -22,7 +29,9 @@ Program::Program(const QString& folder)
              &recoveryTimer_,
              &pictures_,
              folder.toStdString(),
-             15 * window_.screen()->size().width()};
+             15 * window_.screen()->size().width(),
+             &figureTimer_,
+             &json_};
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     window_.onEvent(Form_Load);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/qt/figures.h"
+#include "platform/qt/json_text.h"
 #include "platform/qt/real_files.h"
 #include "platform/qt/sdl_sound.h"
 #include "platform/qt/system_clock.h"
@@ -26,6 +27,8 @@ private:
     QtPictures pictures_;
     EventLoopTimer timer_;
     EventLoopTimer recoveryTimer_;
+    EventLoopTimer figureTimer_;
+    QtJsonText json_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;

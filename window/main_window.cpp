@@ -10,6 +10,7 @@
 #include "sheet/percent_view.h"
 #include "window/bring_forward.h"
 #include "window/diagram_window.h"
+#include "window/figure_window.h"
 #include "window/manual_window.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"

@@ -5,6 +5,7 @@
 #include "window/about_windows.h"
 #include "window/diagnose_window.h"
 #include "window/diagram_window.h"
+#include "window/figure_window.h"
 #include "window/find_window.h"
 #include "window/initial_window.h"
 #include "window/key_windows.h"
@@ -56,6 +57,10 @@ void MainWindow::presentForms()
             one.window->present();
     }
     diagram_->present();
+    if (figure_ == nullptr && frmFigure.visible)
+        figure_ = std::make_unique<FigureWindow>(*this);
+    if (figure_ != nullptr)
+        figure_->present();
     if (manual_ == nullptr && frmManual.visible)
         manual_ = std::make_unique<ManualWindow>(*this);
     if (manual_ != nullptr)

@@ -9,6 +9,7 @@
 #include "extras/diagnose.h"
 #include "extras/manual.h"
 #include "extras/pictures.h"
+#include "figure/figure_form.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -78,6 +79,8 @@ std::vector<EntryRow> entryTable()
         {"mnuDiagram"},
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
+        {"mnuDiagram"},
+        {"mnuDiagram", "mnuFigure", "Figure...", nullptr, mnuFigure_Click},
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
         {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},

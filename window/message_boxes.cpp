@@ -73,10 +73,21 @@ std::optional<std::string> MessageBoxes::chooseFileToOpen()
 
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
+    return choosePicture(proposed, "Picture(*.svg *.pdf *.png)", "svg");
+}
+
+std::optional<std::string> MessageBoxes::chooseFigureToSave(const std::string& proposed)
+{
+    return choosePicture(proposed, "Picture(*.pdf *.svg *.png *.tif)", "pdf");
+}
+
+std::optional<std::string> MessageBoxes::choosePicture(const std::string& proposed, const QString& kinds,
+                                                       const QString& ending)
+{
     window_.present();
-    QFileDialog dialog(windowInFront(), "Save picture", {}, "Picture(*.svg *.pdf *.png)");
+    QFileDialog dialog(windowInFront(), "Save picture", {}, kinds);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("svg");
+    dialog.setDefaultSuffix(ending);
     dialog.selectFile(QString::fromStdString(proposed));
     return dialog.exec() == QDialog::Accepted ? chosen(dialog.selectedFiles().value(0)) : std::nullopt;
 }

@@ -15,10 +15,13 @@ public:
     std::optional<std::string> chooseFileToSave(const std::string& proposed) override;
     std::optional<std::string> chooseFileToOpen() override;
     std::optional<std::string> choosePictureToSave(const std::string& proposed) override;
+    std::optional<std::string> chooseFigureToSave(const std::string& proposed) override;
     std::optional<Colour> chooseColour(Colour current) override;
 
 private:
     QWidget* windowInFront();
+    std::optional<std::string> choosePicture(const std::string& proposed, const QString& kinds,
+                                             const QString& ending);
 
     MainWindow& window_;
     QPointer<QWidget> lastInFront_;

@@ -28,6 +28,7 @@ public:
     std::optional<std::string> chooseFileToSave(const std::string& proposed) override;
     std::optional<std::string> chooseFileToOpen() override;
     std::optional<std::string> choosePictureToSave(const std::string& proposed) override;
+    std::optional<std::string> chooseFigureToSave(const std::string& proposed) override;
     std::optional<Colour> chooseColour(Colour current) override;
 
 private:
