@@ -5,6 +5,7 @@
 #include "core/hooks.h"
 #include "core/main_keys.h"
 #include "core/start_up.h"
+#include "figure/figure_form.h"
 #include "files/left_work.h"
 #include "files/recovery.h"
 #include "statistics/statistics_form.h"
@@ -28,8 +29,13 @@ Program::Program(const QString& folder)
       journalTimer_([this] { keepWork(JournalTimer_Timer); }),
       pauseTimer_([this] { keepWork(PauseTimer_Timer); }),
       deadlineTimer_([this] { keepWork(PauseTimer_Timer); }),
-      statisticsTimer_([this] { window_.onEvent(StatisticsTimer_Timer); }), dialogs_(window_), keys_(window_),
-      ends_(endAtOnce, [] { endRecovery(false); })
+      statisticsTimer_([this] { window_.onEvent(StatisticsTimer_Timer); }), figureTimer_([this] {
+          const int before = frmFigure.planRevision;
+          FigureTimer_Timer();
+          if (frmFigure.planRevision != before)
+              window_.present();
+      }),
+      dialogs_(window_), keys_(window_), ends_(endAtOnce, [] { endRecovery(false); })
 {
     ports = {&files_,
              &dialogs_,
@@ -43,7 +49,9 @@ Program::Program(const QString& folder)
              &journalTimer_,
              &pauseTimer_,
              &deadlineTimer_,
-             &statisticsTimer_};
+             &statisticsTimer_,
+             &figureTimer_,
+             &json_};
     connectRooms();
     hooks.EndProgram = [] { QApplication::exit(); };
     recoveryCopy = {};

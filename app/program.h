@@ -2,6 +2,7 @@
 
 #include "platform/qt/end_signals.h"
 #include "platform/qt/figures.h"
+#include "platform/qt/json_text.h"
 #include "platform/qt/real_files.h"
 #include "platform/qt/sdl_sound.h"
 #include "platform/qt/system_clock.h"
@@ -33,6 +34,8 @@ private:
     EventLoopTimer pauseTimer_;
     EventLoopTimer deadlineTimer_;
     EventLoopTimer statisticsTimer_;
+    EventLoopTimer figureTimer_;
+    QtJsonText json_;
     MainWindow window_;
     MessageBoxes dialogs_;
     KeyInput keys_;

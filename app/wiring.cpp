@@ -2,6 +2,7 @@
 
 #include "core/hooks.h"
 #include "diagram/diagram_window.h"
+#include "figure/figure_form.h"
 #include "files/backup.h"
 #include "files/next_sample.h"
 #include "files/recovery.h"
@@ -32,7 +33,10 @@ void connectRooms()
     hooks.SheetSaved = followSavedSheet;
     hooks.EndRecovery = endRecovery;
     hooks.DrawDiversity = DrawDiversity;
-    hooks.CloseDiagram = closeDiagram;
+    hooks.CloseDiagram = [] {
+        closeDiagram();
+        figureSheetGoes();
+    };
     hooks.ReloadDiagram = reloadDiagram;
     hooks.ReorderDiagram = reorderDiagram;
     hooks.RefreshDiagram = refreshDiagram;

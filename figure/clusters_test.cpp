@@ -117,7 +117,7 @@ TEST(Clusters, agreeWithTheRecurrence)
 
 TEST(Clusters, ofAPublishedCoreAreThoseOfR)
 {
-    const FigureData data = figureData(exampleSheet("dallican_pollen"));
+    const FigureData data = exampleData("dallican_pollen");
     const FigureClusters clusters =
         figureClusters(data, figureShares(data, FigureBasis::all), Transform::sqrt, ClusterMethod::grimm);
     const auto merges = tableOf(REFERENCE "/coniss_merges.csv");

@@ -3,6 +3,7 @@
 #include "core/fields.h"
 #include "core/number_text.h"
 #include "core/sheet_state_type.h"
+#include "figure/figure_data.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -38,23 +39,28 @@ inline std::vector<std::vector<std::string>> tableOf(const std::string& path)
 inline SheetState exampleSheet(const std::string& name)
 {
     const auto table = tableOf(EXAMPLES "/" + name + ".csv");
-    SheetState sheet;
-    sheet.SheetPath = "/" + name + ".csv";
-    sheet.SheetHeader[2][2] = table[1][1];
-    sheet.SheetHeader[2][3] = table[1][2];
-    sheet.SampleCount = static_cast<std::int16_t>(table[1].size() - 4);
-    for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-        sheet.SampleField(sample, 2) = table[1][sample + 3];
+    SheetState example;
+    example.SheetPath = "/" + name + ".csv";
+    example.SheetHeader[2][2] = table[1][1];
+    example.SheetHeader[2][3] = table[1][2];
+    example.SampleCount = static_cast<int>(table[1].size()) - 4;
+    for (int sample = 1; sample <= example.SampleCount; ++sample)
+        example.SampleField(sample, 2) = table[1][sample + 3];
     for (int row = 1; row <= taxonSlots; ++row) {
         const auto& line = table[row + 1];
         const int slot = wholeNumber(line[0]);
-        sheet.KeyIndexOfRow[row] = static_cast<std::int16_t>(slot);
-        sheet.RowOfKeyIndex[slot] = static_cast<std::int16_t>(row);
-        sheet.TaxonRecord[slot] = {line[0], line[0], line[1], line[2], line[3]};
-        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
-            sheet.Count(sample, slot) = wholeNumber(line[sample + 3]);
+        example.KeyIndexOfRow[row] = slot;
+        example.RowOfKeyIndex[slot] = row;
+        example.TaxonRecord[slot] = {line[0], line[0], line[1], line[2], line[3]};
+        for (int sample = 1; sample <= example.SampleCount; ++sample)
+            example.Count(sample, slot) = wholeNumber(line[sample + 3]);
     }
-    return sheet;
+    return example;
+}
+
+inline FigureData exampleData(const std::string& name)
+{
+    return figureData(exampleSheet(name), "/" + name + ".csv");
 }
 
 /// Letters of one width, near that of the real ones.

@@ -17,7 +17,7 @@ std::string uniqueName(std::map<std::string, int>& seen, const std::string& name
     return times == 1 ? name : uniqueName(seen, name + " (" + decimalText(times) + ")");
 }
 
-void collectSamples(FigureData& data, const SheetState& sheet)
+void collectSamples(FigureData& data, const SheetTables& sheet)
 {
     data.byDepth = true;
     for (int column = 1; column <= sheet.SampleCount; ++column) {
@@ -38,7 +38,7 @@ void collectSamples(FigureData& data, const SheetState& sheet)
 
 } // namespace
 
-FigureData figureData(const SheetState& sheet)
+FigureData figureData(const SheetTables& sheet, const std::string& path)
 {
     FigureData data;
     collectSamples(data, sheet);
@@ -63,6 +63,6 @@ FigureData figureData(const SheetState& sheet)
     }
     data.totals = {"all individuals", utf8FromCodePage(sheet.SheetHeader[2][2]),
                    utf8FromCodePage(sheet.SheetHeader[2][3])};
-    data.sheetName = sheet.SheetPath.size() < 4 ? "" : baseName(sheet.SheetPath).value_or("");
+    data.sheetName = path.size() < 4 ? "" : baseName(path).value_or("");
     return data;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/sheet_state_type.h"
+#include "core/sheet_tables.h"
 
 #include <array>
 #include <optional>
@@ -13,6 +13,7 @@ struct FigureSample {
     std::string name; ///< UTF-8
     double depth = 0; ///< if FigureData::byDepth; else its place in the sheet, from 1
     int column = 0;   ///< in the sheet, from 1
+    friend bool operator==(const FigureSample&, const FigureSample&) = default;
 };
 
 struct FigureTaxon {
@@ -21,6 +22,7 @@ struct FigureTaxon {
     bool inSubtotal1 = false;
     bool inSubtotal2 = false;
     std::vector<double> counts; ///< of each sample, in the order of `samples`
+    friend bool operator==(const FigureTaxon&, const FigureTaxon&) = default;
 };
 
 struct FigureData {
@@ -29,6 +31,8 @@ struct FigureData {
     std::vector<FigureTaxon> taxa;     ///< that have a count somewhere, in the order of the sheet's rows
     std::array<std::string, 3> totals; ///< names of the basis: "all individuals" and the two subtotals
     std::string sheetName;             ///< of the file; empty: it has none yet
+    friend bool operator==(const FigureData&, const FigureData&) = default;
 };
 
-FigureData figureData(const SheetState& sheet);
+/// `path`: of the sheet's file.
+FigureData figureData(const SheetTables& sheet, const std::string& path);

@@ -12,7 +12,7 @@
 /// otherwise; taxa are named as FigureData names them.
 
 enum class TaxonOrder {
-    sheet,   ///< by the rows of the sheet
+    rows,    ///< by the rows of the sheet
     group,   ///< group after group, in each by the rows of the sheet
     wa,      ///< by the average depth, weighted with the shares: those that lie deepest first
     groupWa, ///< group after group, in each by that average
@@ -62,13 +62,14 @@ struct FigureSettings {
     std::optional<double> header; ///< what stands above the columns; absent: as high as it needs
     double pad = 1.5;             ///< free above the first and below the last sample
     std::string title;
-    std::string foot; ///< empty: the basis
+    std::string foot;      ///< empty: the basis
+    int dotsPerInch = 600; ///< of images
 
     // The taxa.
     FigureBasis basis = FigureBasis::all;
     double threshold = 2; ///< percent that a taxon reaches
     int samples = 2;      ///< in at least so many samples
-    TaxonOrder order = TaxonOrder::sheet;
+    TaxonOrder order = TaxonOrder::rows;
     std::optional<std::vector<std::string>> taxa; ///< ticked, in their order; absent: threshold and order
     NameSlant slant = NameSlant::words;
     std::vector<std::pair<std::string, NameSlant>> slants; ///< of single taxa

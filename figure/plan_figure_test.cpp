@@ -18,7 +18,7 @@ FigureSettings referenceSettings()
 
 FigurePlan dallican(const FigureSettings& settings)
 {
-    return planFigure(figureData(exampleSheet("dallican_pollen")), settings, evenLetters);
+    return planFigure(exampleData("dallican_pollen"), settings, evenLetters);
 }
 
 const PageGroup* groupOf(const Page& page, const std::string& id)
@@ -88,7 +88,7 @@ TEST(PlanFigure, samplesAndZonesStandWhereTheTableSays)
 TEST(PlanFigure, orderAndPlaceOfSamplesGoByDepth)
 {
     SheetState sheet = exampleSheet("dallican_pollen");
-    const FigureData before = figureData(sheet);
+    const FigureData before = figureData(sheet, "/dallican_pollen.csv");
     const int samples = sheet.SampleCount;
     SheetState turned = sheet;
     for (int sample = 1; sample <= samples; ++sample) {
@@ -96,13 +96,15 @@ TEST(PlanFigure, orderAndPlaceOfSamplesGoByDepth)
         for (int slot = 1; slot <= taxonSlots; ++slot)
             turned.Count(sample, slot) = sheet.Count(samples + 1 - sample, slot);
     }
-    const FigurePlan plan = planFigure(figureData(turned), referenceSettings(), evenLetters);
+    const FigurePlan plan =
+        planFigure(figureData(turned, "/dallican_pollen.csv"), referenceSettings(), evenLetters);
     const FigurePlan straight = planFigure(before, referenceSettings(), evenLetters);
     EXPECT_EQ(svgText(plan.page), svgText(straight.page)) << "a descending core is the same core";
 
     for (const char* const name : {"A1", "12 cm"}) {
         sheet.SampleField(7, 2) = name;
-        const FigurePlan even = planFigure(figureData(sheet), referenceSettings(), evenLetters);
+        const FigurePlan even =
+            planFigure(figureData(sheet, "/dallican_pollen.csv"), referenceSettings(), evenLetters);
         EXPECT_FALSE(even.data.byDepth);
         EXPECT_NEAR(even.layout.y[2] - even.layout.y[1], even.layout.y[60] - even.layout.y[59], 1e-9);
         EXPECT_EQ(even.layout.columns[0].left, 3 + 24);
@@ -116,7 +118,7 @@ TEST(PlanFigure, oddCoresAreDrawnAllTheSame)
     sheet.SampleField(3, 2) = "398.25";
     for (int slot = 1; slot <= taxonSlots; ++slot)
         sheet.Count(30, slot) = 0; // no individuals: breaks curves, no bar
-    FigurePlan plan = planFigure(figureData(sheet), referenceSettings(), evenLetters);
+    FigurePlan plan = planFigure(figureData(sheet, "/dallican_pollen.csv"), referenceSettings(), evenLetters);
     EXPECT_TRUE(plan.faults.empty());
     EXPECT_EQ(plan.layout.y[0], plan.layout.y[1]);
     EXPECT_EQ(plan.clusters.merges.size(), 61);
@@ -125,11 +127,11 @@ TEST(PlanFigure, oddCoresAreDrawnAllTheSame)
 
     SheetState one = exampleSheet("dallican_pollen");
     one.SampleCount = 1;
-    plan = planFigure(figureData(one), {}, evenLetters);
+    plan = planFigure(figureData(one, "/dallican_pollen.csv"), {}, evenLetters);
     EXPECT_TRUE(plan.zones.empty());
     EXPECT_EQ(groupOf(plan.page, "dendrogram"), nullptr);
 
-    plan = planFigure(figureData(SheetState()), {}, evenLetters);
+    plan = planFigure(figureData(SheetTables(), ""), {}, evenLetters);
     ASSERT_EQ(plan.faults.size(), 1);
     EXPECT_EQ(plan.faults[0], "No sample has individuals in the basis.");
 }
@@ -158,7 +160,7 @@ TEST(PlanFigure, whatDoesNotFitIsRefusedWithWhatWould)
     settings.threshold = 0;
     settings.samples = 1;
     settings.width = 140;
-    const FigureData data = figureData(exampleSheet("dallican_pollen"));
+    const FigureData data = exampleData("dallican_pollen");
     EXPECT_EQ(planFigure(data, settings, evenLetters).faults,
               std::vector<std::string>{"47 taxa are too many for a page 140 mm wide."});
     const std::string fit = whatWouldFit(data, settings, evenLetters);

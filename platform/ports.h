@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/drawing.h"
+#include "platform/json.h"
+#include "platform/page.h"
 
 #include <cstddef>
 #include <optional>
@@ -66,6 +68,9 @@ public:
     /// Path of a picture to write, with one of the endings .svg, .pdf and .png, or nothing if the user
     /// cancels.
     virtual std::optional<std::string> choosePictureToSave(const std::string& proposed) = 0;
+    /// Path of a figure to write, with one of the endings .svg, .pdf, .png and .tif, or nothing if the user
+    /// cancels.
+    virtual std::optional<std::string> chooseFigureToSave(const std::string& proposed) = 0;
     /// A colour, or nothing if the user cancels.
     virtual std::optional<Colour> chooseColour(Colour current) = 0;
 };
@@ -95,7 +100,7 @@ public:
     virtual std::string device() const = 0;
 };
 
-enum class PictureFormat { svg, pdf, png };
+enum class PictureFormat { svg, pdf, png, tiff };
 
 /// Pictures that leave the program.
 class Pictures {
@@ -108,6 +113,25 @@ public:
     virtual std::string encode(const Figure& figure, PictureFormat format) = 0;
     /// How long a text is, pixels of the design.
     virtual float textWidth(const Letters& letters) = 0;
+    /// Puts a page on the clipboard as an image, as SVG and as PDF.
+    virtual void copy(const Page& page) = 0;
+    /// The bytes of a file that holds the page; the same page gives the same bytes. `dotsPerInch` is that of
+    /// images.
+    virtual std::string encode(const Page& page, PictureFormat format, int dotsPerInch) = 0;
+    /// How wide a UTF-8 text is in the letters of pages, as a multiple of their size.
+    virtual double letterWidth(std::string_view text, bool italic) = 0;
+    /// Puts a UTF-8 text on the clipboard.
+    virtual void copyText(std::string_view text) = 0;
+};
+
+/// Reads and writes the texts of JSON files.
+class JsonText {
+public:
+    virtual ~JsonText() = default;
+    /// Nothing if the text is no JSON.
+    virtual std::optional<Json> read(std::string_view text) = 0;
+    /// One member a line; the same value gives the same bytes.
+    virtual std::string write(const Json& json) = 0;
 };
 
 /// One reading of the system's clock, local time.
@@ -148,6 +172,8 @@ struct Ports {
     OneShotTimer* pauseTimer = nullptr;      ///< the hand pauses
     OneShotTimer* deadlineTimer = nullptr;   ///< it does not
     OneShotTimer* statisticsTimer = nullptr; ///< until the window of statistics follows the counting
+    OneShotTimer* figureTimer = nullptr;     ///< until the figure follows the counts
+    JsonText* json = nullptr;
 };
 
 extern Ports ports;

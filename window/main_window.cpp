@@ -11,6 +11,7 @@
 #include "statistics/recount.h"
 #include "window/bring_forward.h"
 #include "window/diagram_window.h"
+#include "window/figure_window.h"
 #include "window/manual_window.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"

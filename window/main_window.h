@@ -15,6 +15,7 @@
 class DiagramWindow;
 struct Form;
 class FormWindow;
+class FigureWindow;
 class ManualWindow;
 class QHelpEvent;
 class QMenu;
@@ -135,6 +136,7 @@ private:
 
     std::array<std::string, taxonSlots + 1> namesShown_;
     std::unique_ptr<DiagramWindow> diagram_;
+    std::unique_ptr<FigureWindow> figure_; ///< made when it is opened first
     std::unique_ptr<ManualWindow> manual_;
     int forwardShown_ = 0;
     std::vector<SmallWindow> smallWindows_ = smallWindows();

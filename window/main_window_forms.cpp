@@ -5,6 +5,7 @@
 #include "window/about_windows.h"
 #include "window/diagnose_window.h"
 #include "window/diagram_window.h"
+#include "window/figure_window.h"
 #include "window/find_window.h"
 #include "window/initial_window.h"
 #include "window/key_windows.h"
@@ -49,7 +50,9 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmKeyCode", build<KeyCodeWindow>},
             {"frmNote", build<KeyNoteWindow>},
             {"frmTarget", build<TargetWindow>},
-            {"frmStatistics", build<StatisticsWindow>}};
+            {"frmStatistics", build<StatisticsWindow>},
+            {"frmTable", build<TableWindow>},
+            {"frmTaxa", build<TaxaWindow>}};
 }
 
 void MainWindow::presentForms()
@@ -61,6 +64,10 @@ void MainWindow::presentForms()
             one.window->present();
     }
     diagram_->present();
+    if (figure_ == nullptr && frmFigure.visible)
+        figure_ = std::make_unique<FigureWindow>(*this);
+    if (figure_ != nullptr)
+        figure_->present();
     if (manual_ == nullptr && frmManual.visible)
         manual_ = std::make_unique<ManualWindow>(*this);
     if (manual_ != nullptr)

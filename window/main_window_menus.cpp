@@ -9,6 +9,7 @@
 #include "extras/diagnose.h"
 #include "extras/manual.h"
 #include "extras/pictures.h"
+#include "figure/figure_form.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
 #include "files/open_sheet.h"
@@ -42,6 +43,7 @@ namespace {
 const std::vector<MenuRow> menus = {
     {"mnuFile", "&File", nullptr},
     {"mnuPercent", "Save percentage table", "mnuFile"},
+    {"mnuExport", "Export for R and Python", "mnuFile"},
     {"mnuEdit", "&Edit", nullptr},
     {"mnuDiagram", "&Diagram", nullptr},
     {"mnuTools", "&Tools", nullptr},
@@ -97,6 +99,8 @@ std::vector<EntryRow> entryTable()
         {"mnuDiagram"},
         {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
         {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
+        {"mnuDiagram"},
+        {"mnuDiagram", "mnuFigure", "Figure...", nullptr, mnuFigure_Click},
 
         {"mnuTools", "mnuKeyCodeReader", "Key settings", nullptr, mnuKeyCodeReader_Click},
         {"mnuTools", "mnuInitial", "Initialise", nullptr, mnuInitial_Click},

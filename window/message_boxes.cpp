@@ -128,6 +128,12 @@ std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& 
                             "svg");
 }
 
+std::optional<std::string> MessageBoxes::chooseFigureToSave(const std::string& proposed)
+{
+    return choosePathToSave("Save picture", QString::fromStdString(proposed),
+                            "Picture(*.pdf *.svg *.png *.tif)", "pdf");
+}
+
 std::optional<Colour> MessageBoxes::chooseColour(Colour current)
 {
     window_.present();

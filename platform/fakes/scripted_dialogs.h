@@ -48,6 +48,10 @@ public:
     {
         return chooseFileToSave("Save picture", name);
     }
+    std::optional<std::string> chooseFigureToSave(const std::string& name) override
+    {
+        return chooseFileToSave(name);
+    }
     std::optional<Colour> colour; ///< what the colour dialog answers
     std::optional<Colour> chooseColour(Colour) override { return colour; }
 

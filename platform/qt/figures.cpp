@@ -3,6 +3,8 @@
 #include "platform/page_svg.h"
 #include "platform/qt/drawing_painter.h"
 #include "platform/qt/figure_page.h"
+#include "platform/qt/page_files.h"
+#include "platform/qt/page_painter.h"
 #include "platform/qt/text.h"
 
 #include <QBuffer>
@@ -50,15 +52,6 @@ QImage figureImage(const Figure& figure)
     return image;
 }
 
-QByteArray pngOf(const QImage& image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
-
 QByteArray figurePdf(const Figure& figure)
 {
     QByteArray bytes;
@@ -100,4 +93,42 @@ std::string QtPictures::encode(const Figure& figure, PictureFormat format)
 float QtPictures::textWidth(const Letters& letters)
 {
     return static_cast<float>(QFontMetricsF(fontOf(letters, 96)).horizontalAdvance(shownText(letters.text)));
+}
+
+void QtPictures::copy(const Page& page)
+{
+    auto* const data = new QMimeData;
+    constexpr int dotsPerInch = 300;
+    const QImage image = pageImage(page, dotsPerInch);
+    data->setImageData(image);
+    data->setData("image/png", pngOf(image));
+    data->setData("image/svg+xml", QByteArray::fromStdString(svgText(page)));
+    data->setData("application/pdf", pagePdf(page));
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+std::string QtPictures::encode(const Page& page, PictureFormat format, int dotsPerInch)
+{
+    switch (format) {
+    case PictureFormat::svg:
+        return svgText(page);
+    case PictureFormat::pdf:
+        return pagePdf(page).toStdString();
+    case PictureFormat::png:
+        return pngOf(pageImage(page, dotsPerInch)).toStdString();
+    case PictureFormat::tiff:
+        break;
+    }
+    return pageTiff(page, dotsPerInch);
+}
+
+double QtPictures::letterWidth(std::string_view text, bool italic)
+{
+    return pageLetterWidth(text, italic);
+}
+
+void QtPictures::copyText(std::string_view text)
+{
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }

@@ -8,4 +8,8 @@ public:
     void copy(const Figure& figure) override;
     std::string encode(const Figure& figure, PictureFormat format) override;
     float textWidth(const Letters& letters) override;
+    void copy(const Page& page) override;
+    std::string encode(const Page& page, PictureFormat format, int dotsPerInch) override;
+    double letterWidth(std::string_view text, bool italic) override;
+    void copyText(std::string_view text) override;
 };

@@ -70,6 +70,11 @@ std::optional<std::string> RandomDialogs::choosePictureToSave(const std::string&
     return chance_.oneIn(4) ? std::nullopt : std::optional<std::string>(chance_.oneOf(names));
 }
 
+std::optional<std::string> RandomDialogs::chooseFigureToSave(const std::string& proposed)
+{
+    return choosePictureToSave(proposed);
+}
+
 std::optional<Colour> RandomDialogs::chooseColour(Colour)
 {
     whenOpened();

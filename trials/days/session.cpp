@@ -16,6 +16,7 @@
 #include "extras/about.h"
 #include "extras/diagnose.h"
 #include "extras/pictures.h"
+#include "figure/figure_form.h"
 #include "files/left_work.h"
 #include "files/new_sheet.h"
 #include "files/next_sample.h"
@@ -137,6 +138,7 @@ void Session::start()
     frmAboutApp = {};
     frmAboutDX1 = {};
     frmDiagnose = {};
+    frmFigure = {};
     recoveryCopy = {};
     recoveryTimer_.stop();
     hooks = Hooks();
