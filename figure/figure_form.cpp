@@ -141,7 +141,7 @@ void bringUpToDate()
 
 void saveTable(const std::string& table)
 {
-    const auto path = ports.dialogs->chooseFileToSave("");
+    const auto path = ports.dialogs->chooseFileToSave("Save table", "");
     if (path && !ports.files->write(*path, table))
         ports.dialogs->ask(notWritten, "Error", Buttons::ok, Icon::exclamation);
 }

@@ -50,7 +50,7 @@ public:
     }
     std::optional<std::string> chooseFigureToSave(const std::string& name) override
     {
-        return chooseFileToSave(name);
+        return chooseFileToSave("Save picture", name);
     }
     std::optional<Colour> colour; ///< what the colour dialog answers
     std::optional<Colour> chooseColour(Colour) override { return colour; }
