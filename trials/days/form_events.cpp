@@ -14,6 +14,8 @@
 #include "sheet/find.h"
 #include "sheet/subtotals.h"
 #include "sheet/summary.h"
+#include "tables/table_form.h"
+#include "tables/taxa_form.h"
 
 namespace {
 
@@ -153,6 +155,20 @@ std::vector<DayEvent> eventsOfForms()
                      s.event(frmFind_Command3_Click);
              }),
         button(frmFind.visible, "Find closed", 1, frmFind_Command2_Click),
+
+        button(frmTable.visible, "table taken over", 3, frmTable_Command1_Click, Effect::replaced),
+        button(frmTable.visible, "table dropped", 1, frmTable_Command2_Click),
+        button(frmTable.visible, "table turned", 2, frmTable_Command3_Click),
+        button(frmTable.visible, "rarest left out", 1, frmTable_Check1_Click),
+        {"list typed", 4, Effect::none, on(frmTaxa.visible),
+         [](Session& s) {
+             typeIntoForm(s, [](const std::string& text, int caret) {
+                 frmTaxa_Text1_Edited("taxon,group\r\n" + text + ",Trees\r\n" + text, caret);
+             });
+         }},
+        button(frmTaxa.visible, "list taken over", 2, frmTaxa_Command1_Click),
+        button(frmTaxa.visible, "list dropped", 1, frmTaxa_Command2_Click),
+        button(frmTaxa.visible, "list opened", 1, frmTaxa_Command3_Click),
 
         {"key in Diagnose", 3, Effect::none, on(frmDiagnose.visible),
          [](Session& s) {

@@ -26,6 +26,9 @@
 #include "sheet/sample_choice.h"
 #include "sheet/subtotals.h"
 #include "sheet/summary.h"
+#include "tables/table_exports.h"
+#include "tables/table_form.h"
+#include "tables/taxa_form.h"
 
 namespace {
 
@@ -99,6 +102,12 @@ std::vector<DayEvent> eventsOfMainWindow()
         percentages("mnuPercentAll", mnuPercentAll_Click, f.mnuPercentAll),
         percentages("mnuPercentSub1", mnuPercentSub1_Click, f.mnuPercentSub1),
         percentages("mnuPercentSub2", mnuPercentSub2_Click, f.mnuPercentSub2),
+        entry("mnuExportCounts", 1, mnuExportCounts_Click),
+        entry("mnuExportTidy", 1, mnuExportTidy_Click),
+        entry("mnuExportTaxa", 1, mnuExportTaxa_Click),
+        entry("mnuExportAll", 1, mnuExportAll_Click),
+        entry("mnuNewFromTable", 3, mnuNewFromTable_Click, &f.mnuNewFromTable),
+        entry("mnuTaxaFromList", 10, mnuTaxaFromList_Click, &f.mnuTaxaFromList),
         entry("mnuQuit", 1, quit, nullptr, Effect::replaced),
         entry("mnuUndo", 20, Undo, &f.mnuUndo, Effect::counted),
         entry("mnuReset", 2, AbortCount, &f.mnuReset, Effect::edited),

@@ -35,6 +35,8 @@
 #include "sheet/percent_view.h"
 #include "sheet/subtotals.h"
 #include "sheet/summary.h"
+#include "tables/table_form.h"
+#include "tables/taxa_form.h"
 
 #include <algorithm>
 #include <numeric>
@@ -133,6 +135,8 @@ void Session::start()
     frmNote = {};
     frmSubtotal = {};
     frmSummary = {};
+    frmTable = {};
+    frmTaxa = {};
     frmFind = {};
     frmPicture = {};
     frmAboutApp = {};
@@ -383,6 +387,10 @@ void Session::saveAndReopen()
                 frmSubtotal_Command3_Click();
             else if (frmSummary.visible)
                 frmSummary_Unload();
+            else if (frmTable.visible)
+                frmTable_Command2_Click();
+            else if (frmTaxa.visible)
+                frmTaxa_Command2_Click();
             else if (frmFind.visible)
                 frmFind_Command2_Click();
             else if (frmPicture.visible)
