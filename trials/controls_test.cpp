@@ -116,7 +116,8 @@ const std::map<std::string, std::string> otherNames = {{"frmMain.Command2(0)", "
                                                        {"frmMain.mnuSaveDiversity", "SaveDiversity"},
                                                        {"frmDiagram.mnuSub1", "frmDiagram_Basis_Click"},
                                                        {"frmDiagram.mnuSub2", "frmDiagram_Basis_Click"},
-                                                       {"frmDiagram.mnuAll", "frmDiagram_Basis_Click"}};
+                                                       {"frmDiagram.mnuAll", "frmDiagram_Basis_Click"},
+                                                       {"frmFigure.mnuFigureClose", "closeFigure"}};
 
 /// A handler is called as its control with an ending, and with its form's name before it where others have a
 /// control of that name too.
