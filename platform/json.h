@@ -1,8 +1,9 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
+
+struct JsonMember;
 
 /// A JSON value as plain data. Texts are UTF-8.
 struct Json {
@@ -11,66 +12,22 @@ struct Json {
     bool truth = false;
     double number = 0;
     std::string text;
-    std::vector<Json> items;                           ///< of a list
-    std::vector<std::pair<std::string, Json>> members; ///< of an object; each key once
+    std::vector<Json> items;         ///< of a list
+    std::vector<JsonMember> members; ///< of an object; each key once
 
-    static Json of(bool value)
-    {
-        Json json;
-        json.kind = Kind::truth;
-        json.truth = value;
-        return json;
-    }
-    static Json of(double value)
-    {
-        Json json;
-        json.kind = Kind::number;
-        json.number = value;
-        return json;
-    }
-    static Json of(std::string value)
-    {
-        Json json;
-        json.kind = Kind::text;
-        json.text = std::move(value);
-        return json;
-    }
-    static Json list()
-    {
-        Json json;
-        json.kind = Kind::list;
-        return json;
-    }
-    static Json object()
-    {
-        Json json;
-        json.kind = Kind::object;
-        return json;
-    }
+    static Json of(bool value);
+    static Json of(double value);
+    static Json of(std::string value);
+    static Json list();
+    static Json object();
 
-    const Json* find(const std::string& key) const
-    {
-        for (const auto& [name, value] : members)
-            if (name == key)
-                return &value;
-        return nullptr;
-    }
+    const Json* find(const std::string& key) const;
     /// Puts a member in the place of what has its key.
-    void set(const std::string& key, Json value)
-    {
-        for (auto& [name, old] : members)
-            if (name == key) {
-                old = std::move(value);
-                return;
-            }
-        members.emplace_back(key, std::move(value));
-    }
-    void erase(const std::string& key)
-    {
-        for (auto member = members.begin(); member != members.end(); ++member)
-            if (member->first == key) {
-                members.erase(member);
-                return;
-            }
-    }
+    void set(const std::string& key, Json value);
+    void erase(const std::string& key);
+};
+
+struct JsonMember {
+    std::string key;
+    Json value;
 };

@@ -25,7 +25,7 @@ Json fromQt(const QJsonValue& value)
         Json object = Json::object();
         const QJsonObject members = value.toObject();
         for (auto member = members.begin(); member != members.end(); ++member)
-            object.members.emplace_back(member.key().toStdString(), fromQt(member.value()));
+            object.members.push_back({member.key().toStdString(), fromQt(member.value())});
         return object;
     }
     default:
