@@ -5,6 +5,8 @@
 #include "platform/controls.h"
 #include "platform/drawing.h"
 
+#include <optional>
+
 /// Where a control stands in its window, in twips (15 to a pixel at the design size).
 struct Place {
     int left = 0;
@@ -67,8 +69,9 @@ struct DiagramForm {
     TextBox Text1;           ///< source of a sample move
     TextBox Text2;           ///< target of a sample move
     DiagramPointer pointer = DiagramPointer::arrow;
-    std::string toolTip; ///< of Picture1: the taxon under the mouse
-    std::string notice;  ///< line above the names; empty: none
+    std::string toolTip;                     ///< of Picture1: the taxon under the mouse
+    std::optional<std::string> followedName; ///< what is typed over it is followed to the end of the visit
+    std::string notice;                      ///< line above the names; empty: none
 
     MenuEntry mnuSub1, mnuSub2, mnuAll;
     MenuEntry mnuBar, mnuArea, mnuDot, mnuCurve, mnuDotCurve;

@@ -200,7 +200,13 @@ void followSampleNames()
 {
     const bool before = sheet.NamesNotNumeric;
     TestSampleNames();
-    if (!sheet.DiagramOpen || sheet.NamesNotNumeric == before)
+    if (!sheet.DiagramOpen)
+        return;
+    DiagramForm& f = frmDiagram;
+    const bool visited = sheet.Edited == EditedBox::Text1 && sheet.EditedIndex == 0;
+    if (sheet.NamesNotNumeric != before)
+        f.followedName = visited ? std::optional(sheet.EditOld) : std::nullopt;
+    else if (!visited || f.followedName != sheet.EditOld)
         return;
     takeDepths();
     listDiagramSamples();

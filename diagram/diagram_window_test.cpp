@@ -1,5 +1,6 @@
 #include "diagram/diagram_window.h"
 
+#include "core/editing.h"
 #include "core/program_test.h"
 #include "core/sample_move.h"
 #include "core/text_changes.h"
@@ -279,6 +280,13 @@ TEST_F(Diagram, depthsFollowTheLastNameThatWasNoNumber)
     EXPECT_FALSE(sheet.NamesNotNumeric);
     EXPECT_EQ(row(4), 22) << "3 of 10 from 10 to 50";
     EXPECT_EQ(f.Check1.caption + f.Combo2.items[4], "1111");
+    Text1_GotFocus(0);
+    for (const char* typed : {"1", "11.", "11.2", "11.25"})
+        Text1_Edited(0, typed, 1);
+    EXPECT_EQ(f.Check1.caption, "11.25") << "to the last letter, once it has begun";
+    leaveEditedBox();
+    setText1(0, "12");
+    EXPECT_EQ(f.Check1.caption, "11.25") << "else depths stay as the window found them";
     setText1(0, "base");
     EXPECT_EQ(row(4), 40);
     EXPECT_EQ(f.Check1.caption, "base");

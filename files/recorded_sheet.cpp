@@ -50,11 +50,11 @@ std::uint64_t stampsOf(const SheetTables& sheet)
     return sum.take();
 }
 
-/// A sheet begun from a template is not the template.
+/// A sheet begun from a template is not the template, nor is one that was read in part the whole file.
 const std::string& pathOf(const SheetTables& sheet, const SheetFile& file)
 {
     static const std::string none;
-    return sheet.TemplateOpened ? none : file.SheetPath;
+    return sheet.TemplateOpened || file.ReadInPart ? none : file.SheetPath;
 }
 
 } // namespace
