@@ -140,9 +140,9 @@ struct Ports {
     Pictures* pictures = nullptr;
     std::string programFolder; ///< holds "References" and "Sound files"; UTF-8, no separator at its end
     int screenWidth = 15360;   ///< of the screen that the program is on, twips
-    OneShotTimer* journalTimer = nullptr;  ///< when the event is over and what it changed is painted
-    OneShotTimer* pauseTimer = nullptr;    ///< the hand pauses
-    OneShotTimer* deadlineTimer = nullptr; ///< it does not
+    OneShotTimer* journalTimer = nullptr;    ///< when the event is over and what it changed is painted
+    OneShotTimer* pauseTimer = nullptr;      ///< the hand pauses
+    OneShotTimer* deadlineTimer = nullptr;   ///< it does not
     OneShotTimer* statisticsTimer = nullptr; ///< until the window of statistics follows the counting
 };
 
