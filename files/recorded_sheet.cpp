@@ -50,19 +50,17 @@ std::uint64_t stampsOf(const SheetTables& sheet)
     return sum.take();
 }
 
-/// A sheet begun from a template is not the template, nor is one that was read in part the whole file.
-const std::string& pathOf(const SheetTables& sheet, const SheetFile& file)
-{
-    static const std::string none;
-    return sheet.TemplateOpened || file.ReadInPart ? none : file.SheetPath;
-}
-
 } // namespace
+
+std::string ownPath(const SheetTables& sheet, const SheetFile& file)
+{
+    return sheet.TemplateOpened || file.ReadInPart ? std::string() : file.SheetPath;
+}
 
 RecordedSheet recordOf(const SheetTables& sheet, const SheetFile& file)
 {
-    return {sheet.Count,     sheet.SampleCount,   textsOf(sheet),
-            stampsOf(sheet), pathOf(sheet, file), file.KnownFile};
+    return {sheet.Count,     sheet.SampleCount,    textsOf(sheet),
+            stampsOf(sheet), ownPath(sheet, file), file.KnownFile};
 }
 
 std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetTables& sheet)
@@ -82,7 +80,7 @@ std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const She
 
 bool isEdited(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file)
 {
-    return recorded.path != pathOf(sheet, file) || recorded.file != file.KnownFile ||
+    return recorded.path != ownPath(sheet, file) || recorded.file != file.KnownFile ||
            recorded.samples != sheet.SampleCount || recorded.texts != textsOf(sheet);
 }
 

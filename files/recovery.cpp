@@ -26,11 +26,6 @@ constexpr int longestWithoutPause = 1000;
 constexpr std::size_t mostLines = 500; ///< of one event; more is a matter for the copy
 
 /// A sheet begun from a template is not the template, nor is one that was read in part the whole file.
-std::string pathOfSheet()
-{
-    return sheet.TemplateOpened || sheet.ReadInPart ? std::string() : sheet.SheetPath;
-}
-
 /// What the foot of the window says as long as unsaved work cannot be written.
 void tell(bool kept)
 {
@@ -48,7 +43,7 @@ RecoveryLabel nextLabel()
 {
     RecoveryLabel label = recoveryCopy.label;
     ++label.number;
-    label.path = pathOfSheet();
+    label.path = ownPath(sheet, sheet);
     label.file = label.path.empty() ? std::nullopt : sheet.KnownFile;
     return label;
 }
@@ -100,7 +95,7 @@ bool hasBase()
     if (recoveryCopy.onDisk || recoveryCopy.journalBegun)
         return true;
     return !isEdited(*recoveryCopy.recorded, sheet, sheet) &&
-           (!pathOfSheet().empty() || isEmptySheet(*recoveryCopy.recorded));
+           (!ownPath(sheet, sheet).empty() || isEmptySheet(*recoveryCopy.recorded));
 }
 
 bool appendChanges(const std::vector<ChangedCount>& changes)
@@ -259,7 +254,7 @@ std::string textOfUnsavedWork()
 {
     if (sheet.KeysActive)
         storeShownSample();
-    stampHead("Last modified (dd/mm/yyyy):", pathOfSheet(), ports.clock->now());
+    stampHead("Last modified (dd/mm/yyyy):", ownPath(sheet, sheet), ports.clock->now());
     fillEmptyCells(sheet, shownCaptions());
     const auto totals = sampleTotals(sheet);
     // Sums are never read back, and no sum keeps a copy from being written.

@@ -161,6 +161,25 @@ TEST_F(Recovery, fileThatIsAnotherOneByNowIsNotWrittenOver)
     EXPECT_EQ(shown(2), 1) << "the counts alone";
 }
 
+TEST_F(Recovery, sheetThatWasReadInPartIsNotItsFileAfterACrashEither)
+{
+    count('Q', 2);
+    saveAs("/cores/Lake.csv");
+    const std::string whole = files.contents["/cores/Lake.csv"];
+    files.contents["/cores/Half.csv"] = whole.substr(0, whole.size() / 2);
+    sheet.SheetPristine = true;
+    dialogs.paths = {"/cores/Half.csv"};
+    mnuOpen_Click();
+    afterEvent();
+    ASSERT_TRUE(sheet.ReadInPart);
+    count('W', 1);
+    pause();
+    crash();
+    expectOffer("Untitled", "3", Answer::yes);
+    findRecoveryCopies();
+    EXPECT_TRUE(sheet.SheetPath.empty() && shown(1) == 2 && shown(2) == 1);
+}
+
 TEST_F(Recovery, sheetThatIsCutShortByItsOwnSaveIsWholeInTheCopy)
 {
     count('Q', 2);

@@ -5,7 +5,8 @@
 static std::string shownNumber(const QDate& day, QChar letter, qsizetype length)
 {
     const int number = letter == 'd' ? day.day() : letter == 'M' ? day.month() : day.year();
-    return (letter != 'y' && length >= 2 && number < 10 ? "0" : "") + std::to_string(number);
+    const std::string digits = std::to_string(number);
+    return letter != 'y' && length >= 2 && number < 10 ? '0' + digits : digits;
 }
 
 std::string shortDate(const QLocale& locale, const QDate& day)
