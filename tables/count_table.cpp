@@ -223,9 +223,11 @@ bool CountTableReader::readCounts()
             if (!count && (!wrong || place < *wrong))
                 wrong = place;
         }
-    if (wrong)
+    if (wrong) {
         refuseCell(samplesAreRows_ ? wrong->first : wrong->second,
                    samplesAreRows_ ? wrong->second : wrong->first);
+        result_.counts.clear();
+    }
     return !wrong;
 }
 

@@ -23,7 +23,8 @@ struct CountTable {
     char separator = ',';
     std::vector<std::string> taxa;    ///< in the order of the table
     std::vector<std::string> samples; ///< their names, in the order of the table
-    std::vector<std::int32_t> counts; ///< sample by sample, each taxon's in the order of `taxa`; none below 0
+    std::vector<std::int32_t> counts; ///< sample by sample, each taxon's in the order of `taxa`, none below
+                                      ///< 0; empty if a cell holds no count
     std::vector<std::string> remarks; ///< what is left out and why, and what to look at; whole sentences
     int surplusTaxa = 0;              ///< more than a sheet holds; the refusal is due to them alone
 

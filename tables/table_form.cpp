@@ -59,12 +59,14 @@ void showTable()
     TableForm& f = frmTable;
     f.table = readCountTable(f.text, f.reading);
     const CountTable& table = f.table;
-    f.Label1.caption = f.name + ": " + f.encoding + ", parted by " + separatorName(table.separator) +
+    f.Label1.caption = f.name + ": " + f.encoding + ", separated by " + separatorName(table.separator) +
                        ", samples in its " + (table.samplesStand == Samples::columns ? "columns" : "rows");
     const auto individuals = std::accumulate(table.counts.begin(), table.counts.end(), std::int64_t{0});
     f.Label2.caption = numberOf(table.taxa.size(), "taxon", "taxa") + " in " +
-                       numberOf(table.samples.size(), "sample", "samples") + ", " +
-                       numberOf(static_cast<std::size_t>(individuals), "individual", "individuals");
+                       numberOf(table.samples.size(), "sample", "samples");
+    if (!table.counts.empty())
+        f.Label2.caption +=
+            ", " + numberOf(static_cast<std::size_t>(individuals), "individual", "individuals");
     f.Label3.caption = table.refusal;
     f.Label3.visible = !table.refusal.empty();
     showCells();
@@ -79,7 +81,7 @@ void showTable()
     if (table.remarks.size() > shown)
         f.Text1.text += "And " + decimalText(static_cast<long long>(table.remarks.size() - shown)) +
                         " more of this kind.\r\n";
-    if (f.Text1.text.empty())
+    if (f.Text1.text.empty() && table.refusal.empty())
         f.Text1.text = "Nothing is left out.";
     f.Check1.visible = table.surplusTaxa > 0;
     f.Check1.checked = f.reading.leaveOutRarest;

@@ -40,8 +40,9 @@ void showPlan()
     frmTaxa.plan = planTaxa(readTaxonList(frmTaxa.Text1.text), sheet);
     const TaxonPlan& plan = frmTaxa.plan;
     const auto rows = static_cast<long long>(plan.rows.size());
-    frmTaxa.Label1.caption = rows == 1 ? "1 name gets a row, told by its key:"
-                                       : decimalText(rows) + " names get a row each, told by its key:";
+    frmTaxa.Label1.caption = rows == 0   ? "No name gets a row."
+                             : rows == 1 ? "1 name gets a row, told by its key:"
+                                         : decimalText(rows) + " names get a row each, told by its key:";
     std::string& text = frmTaxa.Text2.text;
     text.clear();
     for (const std::string& remark : plan.remarks)

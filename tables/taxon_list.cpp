@@ -89,6 +89,11 @@ public:
 private:
     bool isFree(int slot) const;
     bool mayBeNamed(int subtotal) const;
+    const std::string& nameToBe(int subtotal) const
+    {
+        const std::string& given = plan_.subtotalNames[subtotal];
+        return given.empty() ? sheet_.SheetHeader[2][subtotal + 1] : given;
+    }
     void chooseNew();
     void findGroups();
     void meetGroups();
@@ -197,9 +202,9 @@ void Planner::meetGroups()
     for (const Group& group : groups_)
         if (group.subtotal == 0 && std::any_of(new_.begin(), new_.end(),
                                                [&](const ListedTaxon* taxon) { return group.holds(*taxon); }))
-            plan_.remarks.push_back("Group \"" + group.name + "\" is left out: the sheet has \"" +
-                                    sheet_.SheetHeader[2][2] + "\" and \"" + sheet_.SheetHeader[2][3] +
-                                    "\" as its subtotals.");
+            plan_.remarks.push_back("Group \"" + group.name +
+                                    "\" is left out: the subtotals of the sheet are \"" + nameToBe(1) +
+                                    "\" and \"" + nameToBe(2) + "\".");
 }
 
 void Planner::place(const ListedTaxon& taxon, int slot)

@@ -56,18 +56,18 @@ TEST(TaxonList, freeRowsAreFilledInTheOrderOfTheKeys)
 
 TEST(TaxonList, groupsGoIntoTheSubtotals)
 {
-    EXPECT_EQ(
-        planned("Group;Taxon\nTrees;Pinus\nHerbs;Poaceae\nTrees;Alnus\n;Sphagnum\nAlgae;Pediastrum\n"),
-        "1 Pinus +1; 2 Poaceae +2; 3 Alnus +1; 4 Sphagnum; 5 Pediastrum; 1=Trees; 2=Herbs; "
-        "Group \"Algae\" is left out: the sheet has \"Subtotal-1\" and \"Subtotal-2\" as its subtotals.");
+    EXPECT_EQ(planned("Group;Taxon\nTrees;Pinus\nHerbs;Poaceae\nTrees;Alnus\n;Sphagnum\nAlgae;Pediastrum\n"),
+              "1 Pinus +1; 2 Poaceae +2; 3 Alnus +1; 4 Sphagnum; 5 Pediastrum; 1=Trees; 2=Herbs; "
+              "Group \"Algae\" is left out: the subtotals of the sheet are \"Trees\" and \"Herbs\".");
     EXPECT_EQ(planned("taxon\tsubtotal_1\tsubtotal_2\nPinus\tx\t\nPoaceae\t0\tYes\nBoth\t1\t1\n"),
               "1 Pinus +1; 2 Poaceae +2; 3 Both +1 +2; ");
     SheetTables sheet;
     sheet.SheetHeader[2][2] = "Herbs";
     sheet.TaxonRecord[135].Subtotal2 = "1"; // its taxa are not to be renamed
-    EXPECT_EQ(planned("taxon,group\nPinus,Trees\nPoaceae,Herbs\n", sheet),
-              "1 Pinus; 2 Poaceae +1; Group \"Trees\" is left out: the sheet has \"Herbs\" and "
-              "\"Subtotal-2\" as its subtotals.");
+    EXPECT_EQ(
+        planned("taxon,group\nPinus,Trees\nPoaceae,Herbs\n", sheet),
+        "1 Pinus; 2 Poaceae +1; Group \"Trees\" is left out: the subtotals of the sheet are \"Herbs\" and "
+        "\"Subtotal-2\".");
 }
 
 TEST(TaxonList, anExportedTableOfTaxaGivesTheSameRowsOnAnEmptySheet)

@@ -16,6 +16,13 @@ namespace {
 
 constexpr int lastCell = (tablePreview + 1) * (tablePreview + 1) - 1;
 
+/// It takes the room that the window leaves.
+void makeTall(QPlainTextEdit& area)
+{
+    area.setMinimumHeight(3 * area.fontMetrics().lineSpacing());
+    area.setMaximumHeight(QWIDGETSIZE_MAX);
+}
+
 void makeReadOnly(QPlainTextEdit& area)
 {
     area.setReadOnly(true);
@@ -44,6 +51,7 @@ TableWindow::TableWindow(MainWindow& main)
     refusal->setFont(strong);
     QPlainTextEdit* const remarks = area("Text1");
     makeReadOnly(*remarks);
+    makeTall(*remarks);
     remarks->setAccessibleName("What is left out and why");
     rarest_ = mark<QCheckBox>("Check1");
     QPushButton* const take = button("Command1", "New sheet");
@@ -63,7 +71,7 @@ TableWindow::TableWindow(MainWindow& main)
     whole->addWidget(rarest_);
     whole->addWidget(remarks, 1);
     whole->addLayout(buttons);
-    resize(640, 430);
+    resize(640, 400);
 }
 
 void TableWindow::presentMore()
@@ -122,7 +130,7 @@ TaxaWindow::TaxaWindow(MainWindow& main)
     makeReadOnly(*plan);
     plan->setAccessibleName("Where the names go");
     for (QPlainTextEdit* const text : {list, plan})
-        text->setMaximumHeight(QWIDGETSIZE_MAX);
+        makeTall(*text);
 
     auto* const lists = new QGridLayout;
     lists->addWidget(fixedText("Label2", "List of taxa:"), 0, 0);
