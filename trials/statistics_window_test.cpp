@@ -17,10 +17,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTest>
 
 namespace {
 
@@ -70,9 +70,7 @@ TEST_F(StatisticsWindows, theLineTakesNoRoomUntilItIsAskedFor)
     named<QAction>("mnuStatisticsLine")->trigger();
     EXPECT_TRUE(line->isVisible());
     EXPECT_TRUE(line->text().startsWith("Coverage ")) << line->text().toStdString();
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), line->mapToGlobal(QPointF(5, 5)),
-                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(line, &press);
+    QTest::mousePress(line, Qt::LeftButton, {}, {5, 5});
     auto* const offered = named<QMenu>("mnuHalfWidth");
     EXPECT_TRUE(offered->isVisible());
     EXPECT_EQ(offered->actions()[3]->text(), "+-3 %");

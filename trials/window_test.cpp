@@ -385,9 +385,7 @@ TEST_F(Editing, theLineAtTheFootStaysUntilTheNextDeed)
     const QString told = "'1,5' is no number, so the diagram has no depth scale: write 1.5.";
     EXPECT_EQ(foot(), told);
     named<QWidget>("Text1(1)")->setFocus(Qt::TabFocusReason);
-    QMouseEvent move(QEvent::MouseMove, {5, 5}, name->mapToGlobal(QPointF(5, 5)), Qt::NoButton, Qt::NoButton,
-                     {});
-    QApplication::sendEvent(name, &move);
+    QTest::mouseMove(name, {5, 5});
     EXPECT_EQ(foot(), told);
     named<QAction>("mnuItalic")->trigger();
     EXPECT_EQ(foot(), "");

@@ -55,6 +55,11 @@ void BoundWindow::runEvent(const std::function<void()>& handler)
     main_.onEvent(handler);
 }
 
+void BoundWindow::runPassing(const std::function<void()>& handler)
+{
+    main_.onPassing(handler);
+}
+
 void BoundWindow::bindWidget(QWidget* widget, const char* name, int index)
 {
     const auto row = std::find_if(table_.begin(), table_.end(), [&](const ControlRow& one) {

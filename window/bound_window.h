@@ -63,6 +63,8 @@ protected:
     void boxLeft(const QObject* widget);
     /// Runs the handler of one event of the user, then shows what it changed.
     void runEvent(const std::function<void()>& handler);
+    /// The same where the focus follows a press or a key: the line at the foot stays.
+    void runPassing(const std::function<void()>& handler);
 
 private:
     void bindWidget(QWidget* widget, const char* name, int index);

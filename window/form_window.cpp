@@ -111,7 +111,7 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
         visited_ = target;
         sheet.LastKeyDown = noKeyYet;
         if (control.kind->entered)
-            runEvent([&] { control.kind->entered(control.index); });
+            runPassing([&] { control.kind->entered(control.index); });
     }
     if (event->type() == QEvent::FocusOut && visited_ == target) {
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
@@ -121,7 +121,7 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event)
         visited_ = nullptr;
         boxLeft(target);
         if (form_.visible && control.kind->left)
-            runEvent([&] { control.kind->left(control.index); });
+            runPassing([&] { control.kind->left(control.index); });
     }
     return false;
 }
