@@ -88,7 +88,7 @@ void describe()
 {
     std::string& said = frmStatistics.Label1.caption;
     said = "% basis: " + sumName(chosenBasis());
-    if (!frmStatistics.Option1[1].selected)
+    if (!frmStatistics.Option1[1].selected && frmStatistics.SSTab1 != comparePage)
         said = "Sample " + sheet.SampleField(sheet.CurrentSample, 2) + ", " + said;
     if (const int marker = markerSlot(); marker != 0)
         said += basisWeights()[marker] != 0 ? "; the marker " + laboratory.marker +

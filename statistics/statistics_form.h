@@ -14,6 +14,8 @@
 enum StatisticsPage { richnessPage, limitsPage, comparePage, concentrationPage, statisticsPages };
 
 struct StatisticsForm {
+    StatisticsForm() { Option1[0].selected = true; }
+
     bool visible = false;
     int forwardRevision = 0; ///< goes up whenever the window is to come in front
     int SSTab1 = richnessPage;

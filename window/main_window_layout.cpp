@@ -196,7 +196,10 @@ QWidget* MainWindow::sumStrip()
         row->addWidget(toGo);
     }
     row->addStretch(1);
-    row->addWidget(fixedLabel("Label6", "Alarm and % basis"));
+    auto* const use = new ElidedLabel; // gives way to a target
+    use->setObjectName("Label6");
+    use->setText("Alarm and % basis");
+    row->addWidget(use);
     for (int total = 0; total < 3; ++total) {
         auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
         option->setAccessibleName(QString("Set alarm on ") + names[total]);

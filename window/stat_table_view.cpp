@@ -44,7 +44,7 @@ QVariant StatTableView::Model::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return text;
     case Qt::ToolTipRole:
-        return isText ? text : QVariant(); // long names are cut
+        return isText ? "<qt>" + text.toHtmlEscaped() + "</qt>" : QVariant(); // long ones are cut
     case Qt::TextAlignmentRole:
         return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default:
@@ -173,11 +173,11 @@ void StatTableView::present()
 void StatTableView::fitColumns()
 {
     resizeColumnsToContents();
-    constexpr int widest = 320;
+    constexpr int widest = 200; // room for the pictures; the tip shows a name whole
     QHeaderView& heads = *horizontalHeader();
     const int columns = static_cast<int>(table_.columns.size());
     const bool lastIsText = columns > 0 && table_.columns.back().isText;
     for (int column = 0; column < columns; ++column)
-        setColumnWidth(column, std::min(widest, columnWidth(column) + 8));
+        setColumnWidth(column, std::min(widest, columnWidth(column) + 4));
     heads.setStretchLastSection(!table_.barsHead.empty() || lastIsText);
 }

@@ -88,7 +88,7 @@ StatisticsWindow::StatisticsWindow(MainWindow& main)
     });
     setFirst(tabs_->tabBar());
     whole->addWidget(tabs_);
-    resize(860, 600);
+    resize(980, 640);
 }
 
 QLayout* StatisticsWindow::scopeRow()
