@@ -53,8 +53,10 @@ std::string threeDigits(double number)
 {
     if (!std::isfinite(number))
         return {};
+    if (number == 0)
+        return "0";
     const double shown = rounded(number, 3);
-    const int magnitude = shown == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(shown))));
+    const int magnitude = static_cast<int>(std::floor(std::log10(std::abs(shown))));
     return withCommas(withDecimals(shown, std::max(0, 2 - magnitude)));
 }
 

@@ -16,7 +16,7 @@ TEST(WrittenNumbers, AreWhatAScientistWrites)
     EXPECT_EQ(threeDigits(99.96), "100");
     EXPECT_EQ(threeDigits(3.4), "3.40");
     EXPECT_EQ(threeDigits(0.0123456), "0.0123");
-    EXPECT_EQ(threeDigits(0), "0.00");
+    EXPECT_EQ(threeDigits(0), "0");
     EXPECT_EQ(withThousands(1328), "1,328");
     EXPECT_EQ(withThousands(999), "999");
     EXPECT_EQ(withThousands(-1234567), "-1,234,567");

@@ -161,7 +161,9 @@ void StatTableView::present()
     std::vector<std::string> heads;
     for (const StatTable::Column& column : table_.columns)
         heads.push_back(column.head);
-    if (heads != headsShown_) {
+    const bool fills = rowsShown_ == 0 && !table_.rows.empty();
+    rowsShown_ = table_.rows.size();
+    if (heads != headsShown_ || fills) {
         headsShown_ = heads;
         fitColumns();
     }

@@ -24,4 +24,5 @@ private:
     BarPainter* painter_;
     int shown_ = -1;
     std::vector<std::string> headsShown_;
+    std::size_t rowsShown_ = 0;
 };
