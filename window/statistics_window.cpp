@@ -73,6 +73,7 @@ StatisticsWindow::StatisticsWindow(MainWindow& main)
     : FormWindow(main, "frmStatistics", "Statistics", controls())
 {
     setModal(false);
+    setWindowFlags(Qt::Window); // a click brings the main window in front of it
     auto* const whole = new QVBoxLayout(this);
     whole->addLayout(scopeRow());
     tabs_ = new QTabWidget;
