@@ -18,9 +18,18 @@ function(room name)
     endif()
 endfunction()
 
+# The headers of the test framework take longer to compile than most tests, and optimising tests takes as long again:
+# all test programs read the headers ready made and are left as they are written.
+add_library(test_headers OBJECT ${PROJECT_SOURCE_DIR}/cmake/test_headers.cpp)
+target_link_libraries(test_headers PUBLIC GTest::gtest)
+target_compile_options(test_headers PRIVATE -O0)
+target_precompile_headers(test_headers PRIVATE <gtest/gtest.h>)
+
 # room_test(name sources uses...) makes one test program and registers it.
 function(room_test name sources)
     add_executable(${name} ${sources})
+    target_compile_options(${name} PRIVATE -O0)
+    target_precompile_headers(${name} REUSE_FROM test_headers)
     target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest_main)
     add_test(NAME ${name} COMMAND ${name})
 endfunction()

@@ -30,13 +30,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const SheetTables empty;
     static SheetTables sheet;
     static SheetTables again;
-    sheet = again = empty;
+    sheet = empty;
     const std::string text = fileTextInCodePage({reinterpret_cast<const char*>(data), size});
     if (!readDataSheet(text, sheet))
         return 0;
     const auto once = written(sheet);
     if (!once)
         return 0;
+    again = empty;
     if (!readDataSheet(*once, again) || written(again) != once)
         std::abort();
     return 0;

@@ -34,8 +34,8 @@ TEST(WrittenTables, forOtherReaders)
     odd.SheetHeader[2][2] = "Trees, \xC5land";
     odd.SampleCount = sampleLimit;
     const char* const names[] = {"Pinus",
-                                 "Pinus, \xE9toil\xE9"
-                                 "e",
+                                 ("Pinus, \xE9toil\xE9"
+                                  "e"),
                                  "---",
                                  "Pinus",
                                  "sample",

@@ -11,12 +11,12 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -39,8 +39,7 @@ protected:
     }
     static void paste(QWidget* box)
     {
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
-        QApplication::sendEvent(box, &press);
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
     }
 };
 
