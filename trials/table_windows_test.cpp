@@ -37,10 +37,7 @@ protected:
         named<QAction>("mnuNewFromTable")->trigger();
         return named<QDialog>("frmTable");
     }
-    static void paste(QWidget* box)
-    {
-        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
-    }
+    static void paste(QWidget* box) { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }
 };
 
 } // namespace
