@@ -100,7 +100,8 @@ TEST_F(SmallWindows, f1OpensThePageOfTheWindowAndItsSearchGoesThroughAllPages)
     }
     const std::string folder = std::exchange(ports.programFolder, DELIVERED_FOLDER);
     open("mnuFind", "frmFind");
-    QTest::keyClick(form, Qt::Key_F1);
+    ASSERT_TRUE(waitFor([this] { return form->isActiveWindow(); }));
+    QTest::keyClick(form->windowHandle(), Qt::Key_F1);
     ASSERT_TRUE(frmManual.visible && form->isVisible());
     const auto all = QApplication::topLevelWidgets();
     const auto found = std::find_if(all.begin(), all.end(),
