@@ -199,6 +199,10 @@ TEST_F(Widgets, cellsStandWhereTheirRecordsSayAndGrowWithTheWindow)
     EXPECT_TRUE(order());
     EXPECT_GT(place("Text1(1)").width(), 1.8 * before);
     EXPECT_GT(named<QLineEdit>("Text1(1)")->font().pixelSize(), 1.8 * letters);
+    for (const char* name : {"Label14(0)", "Label14(1)", "Label14(2)"}) {
+        const auto* const stamp = named<QLabel>(name);
+        EXPECT_GE(stamp->width(), stamp->fontMetrics().horizontalAdvance("28/08/2028 (08:58:58)")) << name;
+    }
 
     const QRect home = place("Text1(1)");
     std::swap(sheet.KeySetting[1].Number, sheet.KeySetting[45].Number);

@@ -229,7 +229,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 /// The file manager is let go first: the questions of opening must not keep it waiting.
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const std::string path = droppedFile(*event).toStdString();
+    const std::string path = nativePath(droppedFile(*event));
     event->setDropAction(Qt::CopyAction);
     event->accept();
     QTimer::singleShot(0, this, [this, path] {

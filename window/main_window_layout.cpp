@@ -6,6 +6,7 @@
 #include "sheet/live_curve.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
+#include "window/steady_label.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 #include "window/text_area.h"
@@ -123,9 +124,7 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(samples, 2);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label3", "Serial No.:"));
-    QLabel* const serial = bind(new QLabel, "Label4");
-    serial->setMinimumWidth(serial->fontMetrics().horizontalAdvance("888/888")); // nothing moves with it
-    row->addWidget(serial);
+    row->addWidget(bind(new SteadyLabel("888/888"), "Label4"));
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
     row->addWidget(toolButton("Command9", "Go"));
@@ -264,9 +263,7 @@ QWidget* MainWindow::notePanel()
     const char* const names[] = {"Label11", "Label12", "Label13"};
     for (int date = 0; date < 3; ++date) {
         grid->addWidget(fixedLabel(names[date], captions[date]), 2 + date, 0);
-        QLabel* const stamp = bind(new QLabel, "Label14", date);
-        stamp->setMinimumWidth(stamp->fontMetrics().horizontalAdvance("88/88/8888 (88:88:88)"));
-        grid->addWidget(stamp, 2 + date, 1);
+        grid->addWidget(bind(new SteadyLabel("88/88/8888 (88:88:88)"), "Label14", date), 2 + date, 1);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
