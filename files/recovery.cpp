@@ -245,6 +245,7 @@ bool endRecovery(bool lossConfirmed)
     ports.journalTimer->stop();
     ports.pauseTimer->stop();
     ports.deadlineTimer->stop();
+    recoveryCopy.waiting = false; // if the program stays open after all, the next event waits anew
     if (lossConfirmed)
         removeCopy();
     return lossConfirmed || recoveryCopy.held || !hasUnsavedWork() || writeCopy();

@@ -322,8 +322,12 @@ TEST_F(Recovery, endKeepsTheCopyOnlyOfWorkWhoseSaveFailed)
     bool cancel = false;
     Form_Unload(cancel);
     EXPECT_TRUE(cancel && !ended);
-
+    afterEvent();
     files.room = SIZE_MAX;
+    timePasses();
+    EXPECT_TRUE(isThere(copyPath)) << "it goes on trying";
+    EXPECT_EQ(frmMain.diskNotice, "");
+
     dialogs.paths = {std::nullopt};
     close(Answer::yes);
     EXPECT_TRUE(ended);
