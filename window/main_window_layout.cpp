@@ -6,10 +6,12 @@
 #include "sheet/live_curve.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
+#include "window/name_box.h"
 #include "window/steady_label.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 #include "window/text_area.h"
+#include "window/total_frame.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -167,44 +169,49 @@ QWidget* MainWindow::sheetPages()
     return tabs_;
 }
 
+/// A total with its alarm, in a frame of its own.
+TotalFrame* MainWindow::totalFrame(int total, const char* name)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(3);
+    QLabel* const caption = total == 0 ? new QLabel : new ElidedLabel; // groups are named by the user
+    row->addWidget(bind(caption, "Label2", total));
+    QLineEdit* const sum = sums_[total] = readBox("Text3", total);
+    sum->setAccessibleName(name);
+    sum->setAlignment(Qt::AlignRight);
+    sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
+    row->addWidget(sum, 2);
+    QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
+    bell->setObjectName(indexed("hundredMark", total));
+    bell->setPixmap(bellPicture(devicePixelRatioF()));
+    bell->setToolTip("A full hundred");
+    bell->setAccessibleName(QString("A full hundred of ") + name);
+    QSizePolicy kept = bell->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    bell->setSizePolicy(kept);
+    bell->hide();
+    row->addWidget(bell);
+    QLabel* const toGo = bind(new QLabel, "Target", total);
+    toGo->setAccessibleName(QString("Target of ") + name);
+    row->addWidget(toGo);
+    auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
+    option->setAccessibleName(QString("Set alarm on ") + name);
+    option->setFocusPolicy(Qt::TabFocus);
+    alarms_.addButton(option); // one choice, though they stand in different frames
+    row->addWidget(option);
+    return totals_[total] = new TotalFrame(row);
+}
+
 QWidget* MainWindow::sumStrip()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(4);
-    const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
-    for (int total = 0; total < 3; ++total) {
-        QLabel* const caption = total == 0 ? new QLabel : new ElidedLabel; // groups are named by the user
-        row->addWidget(bind(caption, "Label2", total));
-        QLineEdit* const sum = sums_[total] = readBox("Text3", total);
-        sum->setAccessibleName(names[total]);
-        sum->setAlignment(Qt::AlignRight);
-        sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
-        row->addWidget(sum, 2);
-        QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
-        bell->setObjectName(indexed("hundredMark", total));
-        bell->setPixmap(bellPicture(devicePixelRatioF()));
-        bell->setToolTip("A full hundred");
-        bell->setAccessibleName(QString("A full hundred of ") + names[total]);
-        QSizePolicy kept = bell->sizePolicy();
-        kept.setRetainSizeWhenHidden(true);
-        bell->setSizePolicy(kept);
-        bell->hide();
-        row->addWidget(bell);
-        QLabel* const toGo = bind(new QLabel, "Target", total);
-        toGo->setAccessibleName(QString("Target of ") + names[total]);
-        row->addWidget(toGo);
-    }
-    row->addStretch(1);
-    auto* const use = new ElidedLabel; // gives way to a target
-    use->setObjectName("Label6");
-    use->setText("Alarm and % basis");
-    row->addWidget(use);
-    for (int total = 0; total < 3; ++total) {
-        auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
-        option->setAccessibleName(QString("Set alarm on ") + names[total]);
-        option->setFocusPolicy(Qt::TabFocus);
-        row->insertWidget(5 * total + 4, option);
-    }
+    row->addWidget(totalFrame(0, "All total"), 2);
+    row->addWidget(totalFrame(1, "First subtotal"), 2);
+    row->addWidget(totalFrame(2, "Second subtotal"), 2);
+    heading_ = fixedLabel("Label6", "Alarm and % basis");
+    heading_->setWordWrap(true); // two lines leave room to the names of the groups
+    row->addWidget(heading_);
     percent_ = toolButton("Command6", "%");
     percent_->setAccessibleName("Show percentages while held down");
     percent_->setToolTip("Percentages while held down, by the mouse or the space bar");
