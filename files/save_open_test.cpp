@@ -95,6 +95,7 @@ TEST_F(SheetFiles, everyFailedWriteIsToldAndCostsNothing)
         files.unwritable.clear();
         files.room = SIZE_MAX;
     }
+    EXPECT_NE(frmMain.notice.find("more than 32767 individuals"), std::string::npos);
     sheet.Count(1, 5) = 0;
     files.closeFails = true;
     dialogs.expect(busy, "Error");

@@ -147,6 +147,7 @@ void SaveSheet(SaveMode mode)
     // Before any dialog and any file: totals that no file can hold.
     const auto totals = sampleTotals(sheet);
     if (!totals) {
+        frmMain.notice = "A sample has more than 32767 individuals in a total: no data sheet holds that.";
         endFailed();
         return;
     }
