@@ -196,10 +196,12 @@ QWidget* MainWindow::sumStrip()
         row->addWidget(toGo);
     }
     row->addStretch(1);
-    auto* const use = new ElidedLabel; // gives way to a target
+    auto* const use = new ElidedLabel; // gives way to a target, before the names of the sums do
     use->setObjectName("Label6");
     use->setText("Alarm and % basis");
-    row->addWidget(use);
+    use->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    use->setMaximumWidth(use->sizeHint().width());
+    row->addWidget(use, 1000);
     for (int total = 0; total < 3; ++total) {
         auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
         option->setAccessibleName(QString("Set alarm on ") + names[total]);

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QHash>
 #include <QPainter>
 #include <QPdfWriter>
 #include <algorithm>
@@ -28,8 +29,15 @@ void paintOn(QImage& image, const Page& page, int dotsPerInch, int top)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.translate(0, -top);
     painter.scale(dotsPerInch / mmPerInch, dotsPerInch / mmPerInch);
-    paintPage(painter, page);
+    paintPage(painter, page, TextAs::outlines);
 }
+
+/// Fonts stand in a PDF file in the order of a hash table, which is another one in each run otherwise.
+struct SteadyHashes {
+    SteadyHashes() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SteadyHashes() { QHashSeed::resetRandomGlobalSeed(); }
+    Q_DISABLE_COPY(SteadyHashes)
+};
 
 /// Overwrites what stands between `begin` and `end`, both left alone, without a change of length: a PDF file
 /// counts its bytes.
@@ -76,6 +84,7 @@ void forgetTheClock(QByteArray& pdf)
 
 QByteArray pagePdf(const Page& page)
 {
+    const SteadyHashes steady;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);

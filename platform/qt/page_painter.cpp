@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QPaintDevice>
 #include <QPainter>
+#include <QPainterPath>
 #include <array>
 #include <vector>
 
@@ -36,7 +37,10 @@ QColor shown(Colour colour)
 
 class PagePainter {
 public:
-    PagePainter(QPainter& painter, const Page& page) : painter_(painter), page_(page) {}
+    PagePainter(QPainter& painter, const Page& page, TextAs texts)
+        : painter_(painter), page_(page), texts_(texts)
+    {
+    }
 
     void paint()
     {
@@ -109,8 +113,15 @@ private:
         const double width = text.width / scale;
         double x = text.anchor == Anchor::start ? 0 : text.anchor == Anchor::middle ? -width / 2 : -width;
         for (const TextRun& run : text.runs) {
-            painter_.setFont(fonts_[run.italic]);
-            painter_.drawText(QPointF(x, 0), QString::fromStdString(run.text));
+            const QString words = QString::fromStdString(run.text);
+            if (texts_ == TextAs::outlines) {
+                QPainterPath path;
+                path.addText(x, 0, fonts_[run.italic], words);
+                painter_.fillPath(path, shown(text.colour));
+            } else {
+                painter_.setFont(fonts_[run.italic]);
+                painter_.drawText(QPointF(x, 0), words);
+            }
             x += pageLetterWidth(run.text, run.italic) * measured;
         }
         painter_.restore();
@@ -118,15 +129,16 @@ private:
 
     QPainter& painter_;
     const Page& page_;
+    const TextAs texts_;
     const std::array<QFont, 2> fonts_ = {pageFont(false), pageFont(true)};
     std::vector<QPointF> points_;
 };
 
 } // namespace
 
-void paintPage(QPainter& painter, const Page& page)
+void paintPage(QPainter& painter, const Page& page, TextAs texts)
 {
-    PagePainter(painter, page).paint();
+    PagePainter(painter, page, texts).paint();
 }
 
 double pageLetterWidth(std::string_view text, bool italic)
