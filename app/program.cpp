@@ -8,6 +8,7 @@
 #include "figure/figure_form.h"
 #include "files/left_work.h"
 #include "files/recovery.h"
+#include "platform/qt/text.h"
 #include "statistics/statistics_form.h"
 
 #include <QApplication>
@@ -44,7 +45,7 @@ Program::Program(const QString& folder)
              &timer_,
              &recoveryTimer_,
              &pictures_,
-             folder.toStdString(),
+             nativePath(folder),
              15 * window_.screen()->size().width(),
              &journalTimer_,
              &pauseTimer_,

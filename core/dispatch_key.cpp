@@ -1,6 +1,7 @@
 #include "core/dispatch_key.h"
 
 #include "core/built_in_keys.h"
+#include "core/cue.h"
 #include "core/hooks.h"
 #include "core/hundred_mark.h"
 #include "core/layer_keys.h"
@@ -48,15 +49,15 @@ void giveFeedback()
     const bool reached = markHundred();
     if (sheet.SoundOn) { // on purpose: with the sound off there is no alarm and no backup either
         if (reached && sheet.AlarmArmed) {
-            ports.sound->play(Cue::SoundAlarm);
+            playCue(Cue::SoundAlarm);
             sheet.AlarmArmed = false;
             hooks.AutoBackup();
         } else if (sheet.MinusArmed) {
-            ports.sound->play(Cue::SoundUndo);
+            playCue(Cue::SoundUndo);
             sheet.AlarmArmed = true;
         } else {
             constexpr Cue cueOfLayer[] = {Cue::SoundKey1, Cue::SoundKey2, Cue::SoundKey3};
-            ports.sound->play(cueOfLayer[sheet.Layer]);
+            playCue(cueOfLayer[sheet.Layer]);
         }
     }
     sheet.WarnNotLatest = false;
@@ -65,9 +66,9 @@ void giveFeedback()
 Answer askAboutStaleSample()
 {
     if (sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+        playCue(Cue::SoundError);
     else
-        ports.sound->beep();
+        beep();
     return ports.dialogs->ask(
         "The datasheet that you are trying to modify is not the latest one. Do you continue?", "Warning!!",
         Buttons::yesNo, Icon::question);

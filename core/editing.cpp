@@ -2,6 +2,7 @@
 
 #include "core/action_log.h"
 #include "core/character_rule.h"
+#include "core/cue.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/offers.h"
@@ -18,7 +19,7 @@
 static void keepToCharacterRule(TextBox& box)
 {
     if (const auto refused = refusedCharacter(box.text, box.caret, sheet.LastKeyDown)) {
-        ports.sound->beep();
+        beep();
         ports.dialogs->ask("Using double quotation mark causes fatal error. Please choose another symbol.",
                            refused->title, Buttons::ok, Icon::exclamation);
         box.text = refused->text;

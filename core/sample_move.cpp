@@ -30,16 +30,18 @@ static int placeAfterMove(int sample, int from, int to)
     return sample;
 }
 
+void carrySample(int from, int to)
+{
+    forEachSampleTable(sheet, [&](auto&... tables) { (moveColumn(tables, from, to), ...); });
+    for (UndoEntry& entry : sheet.UndoStack)
+        entry.sample = placeAfterMove(entry.sample, from, to);
+    sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);
+}
+
 void MoveSample()
 {
-    const int from = sheet.MoveFrom;
-    const int to = sheet.MoveTo;
-    if (from != to) {
-        forEachSampleTable(sheet, [&](auto&... tables) { (moveColumn(tables, from, to), ...); });
-        for (UndoEntry& entry : sheet.UndoStack)
-            entry.sample = placeAfterMove(entry.sample, from, to);
-        sheet.CurrentSample = placeAfterMove(sheet.CurrentSample, from, to);
-
+    if (sheet.MoveFrom != sheet.MoveTo) {
+        carrySample(sheet.MoveFrom, sheet.MoveTo);
         markUnsavedWork();
         listSampleNames();
         frmMain.Combo2.text = sheet.SampleField(sheet.CurrentSample, 2);

@@ -5,3 +5,5 @@
 /// and what can be taken back, so that neither ever touches another sample's counts. CurrentSample follows
 /// its sample. A diagram that is open follows.
 void MoveSample();
+/// Of that, only what belongs to the samples and what names them by their columns, 1 to SampleCount.
+void carrySample(int from, int to);

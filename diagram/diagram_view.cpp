@@ -3,6 +3,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sample_names.h"
+#include "core/sample_sort.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_form.h"
 #include "sheet/basis.h"
@@ -60,9 +61,11 @@ void PrepareDiagram()
     fillShares(plot, sheet, basisWeights());
     layOutColumns(plot, sheet);
     setScrollRange();
-    frmDiagram.notice = outOfDepthOrder() ? "This sheet is not in depth order: a row's place and its "
-                                            "percentages may belong to different samples."
-                                          : "";
+    const bool unordered = outOfDepthOrder();
+    sampleSort.offer.visible = unordered;
+    frmDiagram.notice = unordered ? "This sheet is not in depth order: a row's place and its "
+                                    "percentages may belong to different samples."
+                                  : "";
 }
 
 DiagramView diagramView()

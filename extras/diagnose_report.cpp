@@ -192,13 +192,16 @@ std::string diagnoseReport(const SheetState& sheet, const std::vector<SeenKey>& 
                            const SystemFacts& facts)
 {
     const std::string& folder = facts.programFolder;
+    // As the system writes paths: the folder tells.
+    const std::string separator = folder.find('\\') != std::string::npos ? "\\" : "/";
+    const std::string references = folder + separator + "References";
     return std::string("TallyStrata ") + programVersion + ", diagnosis of " + facts.date + "\n" +
            keyboard(sheet, keys) + heading("Sound") +
            line("Cues", sheet.SoundOn ? "on, all eight were read"
                                       : "off: not all could be read, so there is no alarm and no backup") +
            line("Device", facts.soundDevice) + heading("Folders") + line("Program", folder) +
-           line("Key settings", folder + "/References") +
-           line("Backups", folder + "/References/Back up files") + line("Cues", folder + "/Sound files") +
-           heading("Versions") + line("TallyStrata", programVersion) + line("Qt", facts.qt) +
-           line("SDL", facts.sdl) + line("System", facts.system) + line("Screen", facts.screen);
+           line("Key settings", references) + line("Backups", references + separator + "Back up files") +
+           line("Cues", folder + separator + "Sound files") + heading("Versions") +
+           line("TallyStrata", programVersion) + line("Qt", facts.qt) + line("SDL", facts.sdl) +
+           line("System", facts.system) + line("Screen", facts.screen);
 }

@@ -1,6 +1,7 @@
 #include "files/new_sheet.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/forms.h"
 #include "core/hooks.h"
@@ -24,8 +25,8 @@ static const Form form("frmSiteName", frmSiteName.visible, frmSiteName_Command3_
 
 void mnuNew_Click()
 {
-    if (frmMain.Text3[0].text != "0" && sheet.SoundOn)
-        ports.sound->play(Cue::SoundError);
+    if (frmMain.Text3[0].text != "0")
+        playCue(Cue::SoundError);
     if (!mayLoseCounts())
         return;
     hooks.CloseDiagram();

@@ -1,6 +1,7 @@
 #include "files/open_sheet.h"
 
 #include "core/action_log.h"
+#include "core/cue.h"
 #include "core/editing.h"
 #include "core/fields.h"
 #include "core/forms.h"
@@ -61,11 +62,11 @@ bool mayGo(bool dropped, UnsavedWork& work)
     const bool unsaved = frmMain.Command5[0].enabled;
     if (sheet.SheetPristine && !(unsaved && (dropped || sheet.UnsavedEdits)))
         return keepOrAsk(work);
-    if (sheet.SoundOn && wholeNumber(frmMain.Text3[0].text) > 0)
-        ports.sound->play(Cue::SoundError);
+    if (wholeNumber(frmMain.Text3[0].text) > 0)
+        playCue(Cue::SoundError);
     const bool begun = frmMain.Label4.caption != "1/0";
-    if (sheet.SoundOn && begun)
-        ports.sound->play(Cue::SoundError);
+    if (begun)
+        playCue(Cue::SoundError);
     if (!begun && sheet.SampleTotal == 0 && !unsaved)
         return keepOrAsk(work);
     if (!mayLoseCounts()) {

@@ -51,7 +51,7 @@ constexpr bool numLockIn(std::uint32_t nativeModifiers)
 int virtualKeyFromEventAlone(std::uint32_t keycode, std::uint32_t keysym, bool numLock);
 
 /// Windows: the codes as they are, without the difference of left and right Shift, Ctrl and Alt.
-/// Not yet tried on Windows. A keypad digit with Shift held arrives there as its navigation key.
+/// Tried under Wine alone. A keypad digit with Shift held arrives there as its navigation key.
 int virtualKeyFromWindows(std::uint32_t nativeVirtualKey);
 
 /// macOS: `nativeVirtualKey` is the key code of the event, 0..126, `baseCharacter` what the key types without

@@ -4,6 +4,8 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "core/user_event.h"
+#include "sheet/key_names.h"
 
 #include <algorithm>
 
@@ -60,4 +62,5 @@ void ArrangeTaxonCells()
         frmMain.Label1[slot].top = top + cellIndexBelow;
         frmMain.Label1[slot].left = left + cellIndexInset;
     }
+    atEndOfUserEvent(nameKeys); // whether the settings are in force is settled behind this
 }

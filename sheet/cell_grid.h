@@ -22,5 +22,6 @@ constexpr int cellIndexInset = 15;
 std::array<int, 46> positionOfNumber();
 
 /// Gives each of the 135 cells its place: position i shows the key number that the key number map has put
-/// there, on all three pages alike. A map that names a number twice or not at all hides no taxon.
+/// there, on all three pages alike. A map that names a number twice or not at all hides no taxon. The
+/// names of the keys follow.
 void ArrangeTaxonCells();

@@ -1,14 +1,13 @@
 #include "sheet/find.h"
 
-#include "core/built_in_keys.h"
 #include "core/dispatch_key.h"
 #include "core/forms.h"
 #include "core/highlight.h"
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
-#include "platform/key_names.h"
 #include "sheet/cell_grid.h"
+#include "sheet/key_names.h"
 
 FindForm frmFind;
 static const Form form("frmFind", frmFind.visible, frmFind_Command2_Click);
@@ -46,29 +45,9 @@ void reset()
     sheet.FoundSlot = 0;
 }
 
-/// What the user sees for a key of the map in force.
-std::string definition(int row)
-{
-    if (sheet.UseKeySettings)
-        return sheet.KeySetting[row].Definition;
-    switch (row) {
-    case rowShift1:
-    case rowShift1Copy:
-        return keyName(builtInShift1);
-    case rowShift2:
-        return keyName(builtInShift2);
-    case rowUndo:
-        return keyName(builtInMinus);
-    case rowSave: // of the settings also then, if they could be read
-        return sheet.KeySetting[row].Definition;
-    default:
-        return keyName(builtInKeyCode(row));
-    }
-}
-
 std::string captionOf(const char* function, int row)
 {
-    const std::string key = definition(row);
+    const std::string key = keyDefinition(row);
     return key.empty() ? function : std::string(function) + ": " + key;
 }
 
@@ -96,7 +75,7 @@ void labelKeyMap()
         for (int number = 1; number <= keysPerLayer; ++number)
             for (const int position : positionsOf(number))
                 if (mapHolds(position, number) == heldByMap)
-                    frmFind.Command1[position].caption = definition(number);
+                    frmFind.Command1[position].caption = keyDefinition(number);
     for (const int place : {shift1Left, shift1Right})
         frmFind.Command1[place].caption = captionOf("Shift-1", rowShift1);
     for (const int place : {shift2Left, shift2Right})
@@ -121,18 +100,6 @@ std::vector<int> shiftKeysFor(int slot)
     default:
         return {};
     }
-}
-
-/// The key whose press counts a key number; 0 if it has none, or one that counts another number or nothing.
-int keyCodeOf(int keyNumber)
-{
-    if (!sheet.UseKeySettings)
-        return builtInKeyCode(keyNumber);
-    const int code = wholeNumber(sheet.KeySetting[keyNumber].Code);
-    for (int later = keyNumber + 1; later <= rowUndo; ++later)
-        if (wholeNumber(sheet.KeySetting[later].Code) == code)
-            return 0;
-    return code;
 }
 
 /// The colours of the rows come back as they were before the search.

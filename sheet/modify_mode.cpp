@@ -9,6 +9,8 @@
 #include "sheet/focus_and_pointer.h"
 #include "sheet/name_display.h"
 
+#include <algorithm>
+
 void mnuStartAmend_Click()
 {
     // 1.
@@ -61,6 +63,13 @@ bool Text2_MouseDown(int slot, bool rightButton)
 {
     sheet.PreviousCount = static_cast<float>(wholeNumber(frmMain.Text2[slot].text));
     return Text1_MouseDown(slot, rightButton);
+}
+
+int goFromCell(int slot, int step)
+{
+    const int next = std::clamp(slot + step, 1, taxonSlots);
+    frmMain.SSTab1 = (next - 1) / keysPerLayer;
+    return next;
 }
 
 /// Of a double click the captions of the additional info stay on show, greyed.

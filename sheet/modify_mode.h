@@ -11,6 +11,9 @@ void Command3_Click(int index);
 /// menu of the row, mnuRightButton, opens.
 bool Text1_MouseDown(int slot, bool rightButton);
 bool Text2_MouseDown(int slot, bool rightButton);
+/// The cell whose box comes `step` places after that of `slot`, both 1 to 135, in the order of the keys; at
+/// an end of the sheet the same. Its page comes into view.
+int goFromCell(int slot, int step);
 /// A double click ends the editing.
 void Text1_DblClick();
 void Text2_DblClick();

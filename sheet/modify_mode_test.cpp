@@ -55,6 +55,19 @@ TEST_F(ModifyMode, hasItsTableOfStates)
     expectMode(false);
 }
 
+TEST_F(ModifyMode, goesFromCellToCellInTheOrderOfTheKeysAndTurnsThePage)
+{
+    EXPECT_EQ(goFromCell(1, 1), 2);
+    EXPECT_EQ(frmMain.SSTab1, 0);
+    EXPECT_EQ(goFromCell(45, 1), 46);
+    EXPECT_EQ(frmMain.SSTab1, 1);
+    EXPECT_EQ(goFromCell(46, -1), 45);
+    EXPECT_EQ(frmMain.SSTab1, 0);
+    EXPECT_EQ(goFromCell(135, 1), 135);
+    EXPECT_EQ(frmMain.SSTab1, 2);
+    EXPECT_EQ(goFromCell(1, -1), 1);
+}
+
 TEST_F(ModifyMode, resumeOnAPristineSheetOffersNeitherResetNorNextSample)
 {
     mnuStartAmend_Click();

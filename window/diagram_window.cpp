@@ -1,11 +1,13 @@
 #include "window/diagram_window.h"
 
 #include "core/main_screen.h"
+#include "core/sample_sort.h"
 #include "core/sheet_state.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
 #include "platform/qt/text.h"
 #include "window/bring_forward.h"
+#include "window/elided_label.h"
 #include "window/main_window.h"
 #include "window/surface_view.h"
 
@@ -53,6 +55,7 @@ std::vector<ControlRow> diagramControls()
         {.name = "Command1", .clicked = frmDiagram_Command1_Click},
         {.name = "Text1", .record = &f.Text1},
         {.name = "Text2", .record = &f.Text2},
+        {.name = "mnuSortSamples", .record = &sampleSort.offer, .clicked = mnuSortSamples_Click},
     };
 }
 
@@ -76,8 +79,12 @@ DiagramWindow::DiagramWindow(MainWindow& main) : BoundWindow(*this, main, diagra
     setCentralWidget(surface);
     surface->setMouseTracking(true);
     surface->installEventFilter(this);
-    notice_ = new QLabel(surface);
+    notice_ = new ElidedLabel;
+    notice_->setParent(surface);
     notice_->setObjectName("notice");
+    sort_ = bind(new QToolButton(surface), "mnuSortSamples");
+    sort_->setText("Sort samples by depth");
+    sort_->setFocusPolicy(Qt::TabFocus);
     names_ = picture("Picture4", frmDiagram.Picture4, "Taxon names");
     names_->setPaper(Paper::window);
     diagram_ = picture("Picture1", frmDiagram.Picture1, "Percentage diagram");
@@ -299,7 +306,10 @@ void DiagramWindow::presentPlaces()
     put(panel_, f.frame3Place);
     put(buttons_, f.upDown1Place);
     put(corner_, f.cornerPlace);
-    notice_->setGeometry(pixels(f.picture4Place.left), 2, width() - pixels(f.picture4Place.left), 18);
+    constexpr int noticeLeft = 6;
+    const int besides = sort_->isHidden() ? 0 : sort_->sizeHint().width() + noticeLeft;
+    sort_->setGeometry(noticeLeft, 1, besides - noticeLeft, 19);
+    notice_->setGeometry(noticeLeft + besides, 2, width() - 2 * noticeLeft - besides, 18);
 }
 
 /// Waits for the event loop: the handler may ask something, which must not happen inside a resize.

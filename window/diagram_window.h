@@ -12,6 +12,7 @@ class QFrame;
 class QMouseEvent;
 class QScrollBar;
 class QSlider;
+class QToolButton;
 class SurfaceView;
 
 /// The widgets of frmDiagram, a window of its own beside the main one. Its controls stand where their records
@@ -44,6 +45,7 @@ private:
     bool keyOnPicture(SurfaceView* view, QEvent& event);
 
     QLabel* notice_ = nullptr;
+    QToolButton* sort_ = nullptr; ///< stands before it
     SurfaceView* diagram_ = nullptr;
     SurfaceView* dendrogram_ = nullptr;
     SurfaceView* names_ = nullptr;

@@ -6,7 +6,7 @@
 #include "core/sheet_state.h"
 #include "diagram/diagram_window.h"
 #include "extras/diagnose.h"
-#include "platform/key_codes.h"
+#include "platform/qt/system_keys.h"
 #include "sheet/percent_view.h"
 #include "window/capture_box.h"
 #include "window/diagram_window.h"
@@ -20,7 +20,7 @@
 /// been seen to arrive some 10 ms after the first.
 constexpr int releaseWaits = 15;
 
-KeyInput::KeyInput(MainWindow& window) : window_(window)
+KeyInput::KeyInput(MainWindow& window) : window_(window), keys_(systemKeys())
 {
     heldRelease_.setSingleShot(true);
     connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
@@ -31,6 +31,8 @@ KeyInput::KeyInput(MainWindow& window) : window_(window)
             keyboardLost();
     });
 }
+
+KeyInput::~KeyInput() = default;
 
 void KeyInput::keyboardLost()
 {
@@ -50,30 +52,9 @@ bool KeyInput::isForCounting(const QObject* target) const
            QApplication::activeModalWidget() == nullptr;
 }
 
-int KeyInput::virtualKey(const QKeyEvent& event)
+keycodes::RawKey KeyInput::rawKey(const QKeyEvent& event, int code) const
 {
-#if defined(Q_OS_WIN)
-    return keycodes::virtualKeyFromWindows(event.nativeVirtualKey());
-#elif defined(Q_OS_MACOS)
-    const int key = event.key(); // what the key types without modifiers, as a capital letter
-    const char32_t letter = key >= Qt::Key_A && key <= Qt::Key_Z ? static_cast<char32_t>(key + 'a' - 'A') : 0;
-    return keycodes::virtualKeyFromMac(event.nativeVirtualKey(), letter);
-#else
-    const bool numLock = keycodes::numLockIn(event.nativeModifiers());
-    if (const keycodes::Layout* const layout = layout_.layoutFor(event.nativeModifiers()))
-        return layout->virtualKey(event.nativeScanCode(), numLock);
-    return keycodes::virtualKeyFromEventAlone(event.nativeScanCode(), event.nativeVirtualKey(), numLock);
-#endif
-}
-
-static keycodes::RawKey rawKey(const QKeyEvent& event, int code)
-{
-#if defined(Q_OS_MACOS)
-    const quint32 physicalKey = event.nativeVirtualKey(); // there the scan code is the same for every key
-#else
-    const quint32 physicalKey = event.nativeScanCode();
-#endif
-    return {physicalKey, code, event.timestamp(), event.isAutoRepeat()};
+    return {keys_->physicalKey(event), code, event.timestamp(), event.isAutoRepeat()};
 }
 
 /// The diagnose window is in front: it is shown all keys, and no button of it takes one.
@@ -97,7 +78,7 @@ static bool isMeantElsewhere(Qt::KeyboardModifiers held)
 /// Counts the key if it is to count, or shows it to the diagnosis. True if no one else may see it.
 bool KeyInput::takesKey(QKeyEvent& event)
 {
-    const int code = virtualKey(event);
+    const int code = keys_->virtualKey(event);
     const keycodes::RawKey key = rawKey(event, code);
     if (code == 0) {
         if (frmDiagnose.visible && event.type() == QEvent::KeyPress)
@@ -129,7 +110,7 @@ static CaptureBox* captureBox()
 /// True if the key is for a capture box, or still that of one.
 bool KeyInput::isCaptured(QKeyEvent& event)
 {
-    const int code = virtualKey(event);
+    const int code = keys_->virtualKey(event);
     if (captureBox() == nullptr && !captured_.contains(code))
         return false;
     if (code == 0)
@@ -196,7 +177,7 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
             return true;
         if (target->isWindowType() &&
             event->type() == QEvent::KeyPress) // a box of another window takes it next
-            sheet.LastKeyDown = virtualKey(static_cast<QKeyEvent&>(*event));
+            sheet.LastKeyDown = keys_->virtualKey(static_cast<QKeyEvent&>(*event));
         return false;
     case QEvent::ShortcutOverride: {
         auto& key = static_cast<QKeyEvent&>(*event);
@@ -207,7 +188,7 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
         const QWidget* const active = QApplication::activeWindow();
         const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
-        const int code = inWindow ? virtualKey(key) : 0;
+        const int code = inWindow ? keys_->virtualKey(key) : 0;
         if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))
             return false;
         key.accept(); // no menu and no shortcut takes a key that counts

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "platform/key_repeat_filter.h"
-#include "platform/qt/x11_layout.h"
 
 #include <QObject>
 #include <QSet>
 #include <QTimer>
+#include <memory>
 
 class MainWindow;
 class QKeyEvent;
+class SystemKeys;
 
 /// The way of real keys into the program. The main window's keys are seen before any widget of it: a key that
 /// is bound goes no further, so it moves no focus, presses no button and opens no menu, and as the focus
@@ -18,13 +19,14 @@ class QKeyEvent;
 class KeyInput : public QObject {
 public:
     explicit KeyInput(MainWindow& window);
+    ~KeyInput() override;
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
 
 private:
     bool isForCounting(const QObject* target) const;
-    int virtualKey(const QKeyEvent& event);
+    keycodes::RawKey rawKey(const QKeyEvent& event, int code) const;
     bool takesKey(QKeyEvent& event);
     bool isCaptured(QKeyEvent& event);
     void deliver(const keycodes::KeyRepeatFilter::Events& events, int shift);
@@ -32,7 +34,7 @@ private:
     void keyboardLost();
 
     MainWindow& window_;
-    X11Layout layout_;
+    std::unique_ptr<SystemKeys> keys_;
     keycodes::KeyRepeatFilter repeats_;
     QSet<int> captured_;     ///< codes of the keys that went down in a capture box and are still down
     bool inDiagram_ = false; ///< the last key went to the diagram's window

@@ -17,12 +17,6 @@ double luminance(const QColor& colour)
            0.0722 * linear(colour.blueF());
 }
 
-QColor mixed(const QColor& from, const QColor& to, double share)
-{
-    const auto part = [share](int a, int b) { return static_cast<int>(std::lround(a + share * (b - a))); };
-    return {part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
-}
-
 struct TextOnGround {
     QPalette::ColorRole text;
     QList<QPalette::ColorRole> grounds;
@@ -41,6 +35,12 @@ const QList<TextOnGround>& texts()
 }
 
 } // namespace
+
+QColor mixed(const QColor& from, const QColor& to, double share)
+{
+    const auto part = [share](int a, int b) { return static_cast<int>(std::lround(a + share * (b - a))); };
+    return {part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
+}
 
 double contrast(const QColor& one, const QColor& other)
 {

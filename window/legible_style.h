@@ -12,6 +12,8 @@ public:
     void polish(QPalette& colours) override;
 };
 
+/// The colour that is `share` of the way, 0 to 1.
+QColor mixed(const QColor& from, const QColor& to, double share);
 /// Contrast of two colours as the Web Content Accessibility Guidelines define it, 1 to 21.
 double contrast(const QColor& one, const QColor& other);
 /// `text`, or if it has too little contrast to one of the grounds the first colour on the way to `strong`

@@ -7,14 +7,17 @@
 #include "files/open_sheet.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/key_names.h"
 #include "sheet/percent_view.h"
 #include "statistics/recount.h"
 #include "window/bring_forward.h"
 #include "window/diagram_window.h"
 #include "window/figure_window.h"
 #include "window/manual_window.h"
+#include "window/name_box.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
+#include "window/total_frame.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -229,7 +232,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 /// The file manager is let go first: the questions of opening must not keep it waiting.
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const std::string path = droppedFile(*event).toStdString();
+    const std::string path = nativePath(droppedFile(*event));
     event->setDropAction(Qt::CopyAction);
     event->accept();
     QTimer::singleShot(0, this, [this, path] {
@@ -253,8 +256,9 @@ void MainWindow::scaleFont()
     letters.setBold(true);
     for (QLineEdit* const sum : sums_) {
         sum->setFont(letters);
-        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("888888") + 12);
+        sum->setMinimumWidth(QFontMetrics(letters).horizontalAdvance("88888") + 12);
     }
+    heading_->setFixedWidth(QFontMetrics(centralWidget()->font()).horizontalAdvance("Alarm and ") + 2);
     statisticsLine_->setMinimumHeight(QFontMetrics(centralWidget()->font()).height() + 2);
     location_->setFixedHeight(3 * QFontMetrics(centralWidget()->font()).lineSpacing() + 1);
 }
@@ -264,6 +268,7 @@ void MainWindow::present()
     // A box that is disabled passes the focus on, which is not the user's doing.
     const MainFocus wanted = frmMain.focus;
     showControls();
+    presentKeyNames();
     presentNames();
     for (TaxonPage* const page : pages_) {
         page->placeCells();
@@ -274,8 +279,10 @@ void MainWindow::present()
     if (const QString title = shownText(frmMain.caption); title != windowTitle())
         setWindowTitle(title);
     presentNotice();
-    for (int total = 0; total < 3; ++total)
+    for (int total = 0; total < 3; ++total) {
         hundredMarks_[total]->setVisible(frmMain.hundredMark[total]);
+        totals_[total]->setWatched(frmMain.Option1[total].selected);
+    }
     presentRecount();
     curve_->present();
     presentMode();
@@ -314,7 +321,21 @@ void MainWindow::presentRecount()
     curve_->setVisible(!hidden);
 }
 
-/// What a screen reader says of a cell.
+/// Where the key indexes stand in Modify template mode.
+void MainWindow::presentKeyNames()
+{
+    const bool shown = keyNames.mnuKeyNames.checked && !frmMain.sheetColour;
+    if (keyNames.revision == keyNamesShown_ && shown == keyNamesOnShow_)
+        return;
+    if (keyNames.revision != keyNamesShown_)
+        namesShown_.fill({}); // tips name keys too
+    keyNamesShown_ = keyNames.revision;
+    keyNamesOnShow_ = shown;
+    for (TaxonPage* const page : pages_)
+        page->showKeyNames(shown);
+}
+
+/// What a screen reader says of a cell, and its tip.
 void MainWindow::presentNames()
 {
     for (TaxonPage* const page : pages_)
@@ -323,8 +344,9 @@ void MainWindow::presentNames()
             if (named == frmMain.Text1[slot].text)
                 continue;
             named = frmMain.Text1[slot].text;
-            page->nameBox(slot)->setToolTip(named == "---" ? QString()
-                                                           : shownText(named)); // long names are cut
+            const QString tip = shownText(tipOfCell(slot));
+            page->nameBox(slot)->setToolTip(tip);
+            page->countBox(slot)->setToolTip(tip);
             page->nameBox(slot)->setAccessibleName(QString("Taxon, key %1").arg(slot));
             page->countBox(slot)->setAccessibleName(
                 QString("Count of %1, key %2").arg(shownText(named)).arg(slot));

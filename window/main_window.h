@@ -5,6 +5,7 @@
 #include "statistics/watch_counts.h"
 #include "window/bound_window.h"
 
+#include <QButtonGroup>
 #include <QClipboard>
 #include <QMainWindow>
 #include <QPalette>
@@ -23,6 +24,7 @@ class QMouseEvent;
 class QTabWidget;
 class SurfaceView;
 class TaxonPage;
+class TotalFrame;
 
 /// The controls of frmMain.
 std::vector<ControlRow> mainControls();
@@ -78,6 +80,7 @@ private:
     // main_window_layout.cpp
     QWidget* sampleStrip();
     QWidget* sheetPages();
+    TotalFrame* totalFrame(int total, const char* name);
     QWidget* sumStrip();
     QWidget* statisticsStrip();
     QWidget* infoPanel();
@@ -97,6 +100,8 @@ private:
     bool boxPressed(QWidget* box, const QMouseEvent& press);
     /// True if the key press, its release or the wish for a menu goes no further.
     bool keyOnControl(QWidget* control, const QEvent& event);
+    /// True if the key went from a cell to the next one.
+    bool keyInCell(QWidget* box, const QKeyEvent& key);
     void boxDoubleClicked(const QWidget* box);
     /// True if what is pasted from a clipboard does not go into the box.
     bool boxPasted(const QWidget* box, QClipboard::Mode clipboard);
@@ -104,6 +109,7 @@ private:
     void presentMode();
 
     void presentNames();
+    void presentKeyNames();
     void presentRecount();
     void presentFocusAndPointer();
     void scaleFont();
@@ -119,6 +125,9 @@ private:
     QList<QLineEdit*> editedBoxes_;       ///< of the sample: its name and additional info
     QLineEdit* enteredByMouse_ = nullptr; ///< a box that is selected when the button comes up
     std::array<QLabel*, 3> hundredMarks_{};
+    std::array<TotalFrame*, 3> totals_{};
+    QLabel* heading_ = nullptr;          ///< Label6
+    QButtonGroup alarms_;                ///< Option1
     QAbstractButton* percent_ = nullptr; ///< Command6
     QComboBox* samples_ = nullptr;       ///< Combo2
     SurfaceView* curve_ = nullptr;       ///< Picture2
@@ -135,6 +144,8 @@ private:
     void presentForms();
 
     std::array<std::string, taxonSlots + 1> namesShown_;
+    int keyNamesShown_ = -1; ///< revision
+    bool keyNamesOnShow_ = false;
     std::unique_ptr<DiagramWindow> diagram_;
     std::unique_ptr<FigureWindow> figure_; ///< made when it is opened first
     std::unique_ptr<ManualWindow> manual_;

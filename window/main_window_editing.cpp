@@ -5,15 +5,18 @@
 #include "core/sheet_state.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/modify_mode.h"
 #include "sheet/percent_view.h"
 #include "window/main_window.h"
 #include "window/menu_key.h"
+#include "window/name_box.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -82,11 +85,43 @@ bool MainWindow::keyOnControl(QWidget* control, const QEvent& event)
     const auto& key = static_cast<const QKeyEvent&>(event);
     if (event.type() == QEvent::KeyPress && key.matches(QKeySequence::Paste))
         return boxPasted(control, QClipboard::Clipboard);
+    if (event.type() == QEvent::KeyPress && keyInCell(control, key))
+        return true;
     if (control != percent_)
         return false;
     if (key.key() == Qt::Key_Space && !key.isAutoRepeat())
         onEvent(event.type() == QEvent::KeyPress ? Command6_MouseDown : Command6_MouseUp);
     return false;
+}
+
+/// Enter and the arrows go from name to name, or from count to count, so that a flora is named without the
+/// mouse. The box is chosen before its page is turned to: a page that goes hands the focus on.
+bool MainWindow::keyInCell(QWidget* box, const QKeyEvent& key)
+{
+    const auto [kind, slot] = controlOf(box);
+    if (!sheet.Modifying || kind == nullptr || kind->hovered == nullptr || slot == 0)
+        return false;
+    const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeypadModifier;
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    int step = 0;
+    if ((enter || key.key() == Qt::Key_Down) && held == Qt::NoModifier)
+        step = 1;
+    else if ((enter && held == Qt::ShiftModifier) || (key.key() == Qt::Key_Up && held == Qt::NoModifier))
+        step = -1;
+    if (step == 0)
+        return false;
+    int next = slot;
+    beginEvent();
+    {
+        const UserEvent event;
+        next = goFromCell(slot, step);
+    }
+    const TaxonPage& page = *pages_[(next - 1) / keysPerLayer];
+    QLineEdit* const to = kind->isNumber ? page.countBox(next) : page.nameBox(next);
+    to->setFocus(Qt::TabFocusReason);
+    present();
+    to->selectAll();
+    return true;
 }
 
 void MainWindow::boxDoubleClicked(const QWidget* box)

@@ -6,9 +6,12 @@
 #include "sheet/live_curve.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
+#include "window/name_box.h"
+#include "window/steady_label.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 #include "window/text_area.h"
+#include "window/total_frame.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -123,9 +126,7 @@ QWidget* MainWindow::sampleStrip()
     row->addWidget(samples, 2);
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label3", "Serial No.:"));
-    QLabel* const serial = bind(new QLabel, "Label4");
-    serial->setMinimumWidth(serial->fontMetrics().horizontalAdvance("888/888")); // nothing moves with it
-    row->addWidget(serial);
+    row->addWidget(bind(new SteadyLabel("888/888"), "Label4"));
     row->addSpacing(8);
     row->addWidget(fixedLabel("Label15", "Latest sample:"));
     row->addWidget(toolButton("Command9", "Go"));
@@ -168,46 +169,49 @@ QWidget* MainWindow::sheetPages()
     return tabs_;
 }
 
+/// A total with its alarm, in a frame of its own.
+TotalFrame* MainWindow::totalFrame(int total, const char* name)
+{
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(3);
+    QLabel* const caption = total == 0 ? new QLabel : new ElidedLabel; // groups are named by the user
+    row->addWidget(bind(caption, "Label2", total));
+    QLineEdit* const sum = sums_[total] = readBox("Text3", total);
+    sum->setAccessibleName(name);
+    sum->setAlignment(Qt::AlignRight);
+    sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
+    row->addWidget(sum, 2);
+    QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
+    bell->setObjectName(indexed("hundredMark", total));
+    bell->setPixmap(bellPicture(devicePixelRatioF()));
+    bell->setToolTip("A full hundred");
+    bell->setAccessibleName(QString("A full hundred of ") + name);
+    QSizePolicy kept = bell->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    bell->setSizePolicy(kept);
+    bell->hide();
+    row->addWidget(bell);
+    QLabel* const toGo = bind(new QLabel, "Target", total);
+    toGo->setAccessibleName(QString("Target of ") + name);
+    row->addWidget(toGo);
+    auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
+    option->setAccessibleName(QString("Set alarm on ") + name);
+    option->setFocusPolicy(Qt::TabFocus);
+    alarms_.addButton(option); // one choice, though they stand in different frames
+    row->addWidget(option);
+    return totals_[total] = new TotalFrame(row);
+}
+
 QWidget* MainWindow::sumStrip()
 {
     auto* const row = new QHBoxLayout;
     row->setSpacing(4);
-    const char* const names[] = {"All total", "First subtotal", "Second subtotal"};
-    for (int total = 0; total < 3; ++total) {
-        QLabel* const caption = total == 0 ? new QLabel : new ElidedLabel; // groups are named by the user
-        row->addWidget(bind(caption, "Label2", total));
-        QLineEdit* const sum = sums_[total] = readBox("Text3", total);
-        sum->setAccessibleName(names[total]);
-        sum->setAlignment(Qt::AlignRight);
-        sum->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // captions first, then more room here
-        row->addWidget(sum, 2);
-        QLabel* const bell = hundredMarks_[total] = fixedLabel("hundredMark", {});
-        bell->setObjectName(indexed("hundredMark", total));
-        bell->setPixmap(bellPicture(devicePixelRatioF()));
-        bell->setToolTip("A full hundred");
-        bell->setAccessibleName(QString("A full hundred of ") + names[total]);
-        QSizePolicy kept = bell->sizePolicy();
-        kept.setRetainSizeWhenHidden(true);
-        bell->setSizePolicy(kept);
-        bell->hide();
-        row->addWidget(bell);
-        QLabel* const toGo = bind(new QLabel, "Target", total);
-        toGo->setAccessibleName(QString("Target of ") + names[total]);
-        row->addWidget(toGo);
-    }
-    row->addStretch(1);
-    auto* const use = new ElidedLabel; // gives way to a target, before the names of the sums do
-    use->setObjectName("Label6");
-    use->setText("Alarm and % basis");
-    use->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    use->setMaximumWidth(use->sizeHint().width());
-    row->addWidget(use, 1000);
-    for (int total = 0; total < 3; ++total) {
-        auto* const option = bind(new QRadioButton("Set alarm"), "Option1", total);
-        option->setAccessibleName(QString("Set alarm on ") + names[total]);
-        option->setFocusPolicy(Qt::TabFocus);
-        row->insertWidget(5 * total + 4, option);
-    }
+    row->addWidget(totalFrame(0, "All total"), 2);
+    row->addWidget(totalFrame(1, "First subtotal"), 2);
+    row->addWidget(totalFrame(2, "Second subtotal"), 2);
+    heading_ = fixedLabel("Label6", "Alarm and % basis");
+    heading_->setWordWrap(true); // two lines leave room to the names of the groups
+    row->addWidget(heading_);
     percent_ = toolButton("Command6", "%");
     percent_->setAccessibleName("Show percentages while held down");
     percent_->setToolTip("Percentages while held down, by the mouse or the space bar");
@@ -266,9 +270,7 @@ QWidget* MainWindow::notePanel()
     const char* const names[] = {"Label11", "Label12", "Label13"};
     for (int date = 0; date < 3; ++date) {
         grid->addWidget(fixedLabel(names[date], captions[date]), 2 + date, 0);
-        QLabel* const stamp = bind(new QLabel, "Label14", date);
-        stamp->setMinimumWidth(stamp->fontMetrics().horizontalAdvance("88/88/8888 (88:88:88)"));
-        grid->addWidget(stamp, 2 + date, 1);
+        grid->addWidget(bind(new SteadyLabel("88/88/8888 (88:88:88)"), "Label14", date), 2 + date, 1);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);

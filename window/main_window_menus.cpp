@@ -1,7 +1,9 @@
 // The menu bar. Each entry stands once in the table: its menu, name, caption, record and handler.
 
+#include "core/cue.h"
 #include "core/endings.h"
 #include "core/main_screen.h"
+#include "core/sample_sort.h"
 #include "core/transfer_taxa.h"
 #include "core/undo.h"
 #include "diagram/diagram_window.h"
@@ -20,6 +22,7 @@
 #include "keys/key_editor.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
+#include "sheet/key_names.h"
 #include "sheet/live_curve.h"
 #include "sheet/modify_mode.h"
 #include "sheet/name_display.h"
@@ -90,6 +93,8 @@ std::vector<EntryRow> entryTable()
         {"mnuEdit", "mnuStartAmend", "Modify template", &f.mnuStartAmend, mnuStartAmend_Click},
         {"mnuEdit", "mnuFinishAmend", "Resume counting", &f.mnuFinishAmend, mnuFinishAmend_Click},
         {"mnuEdit", "mnuTaxaFromList", "Taxa from a list...", &f.mnuTaxaFromList, mnuTaxaFromList_Click},
+        {"mnuEdit", "mnuSortSamples", "Sort samples by depth", &sampleSort.mnuSortSamples,
+         mnuSortSamples_Click},
         {"mnuEdit"},
         {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 
@@ -119,10 +124,14 @@ std::vector<EntryRow> entryTable()
         {"mnuAlignment", "mnuAlign(1)", "Right", &f.mnuAlign[1], {mnuAlign_Click, 1}, true},
 
         {"mnuView"},
+        {"mnuView", "mnuKeyNames", "Key names", &keyNames.mnuKeyNames, mnuKeyNames_Click, true},
         {"mnuView", "mnuStatisticsLine", "Statistics line", &statisticsLine.mnuStatisticsLine,
          mnuStatisticsLine_Click, true},
         {"mnuView", "mnuTarget", "Target...", nullptr, mnuTarget_Click},
         {"mnuView", "mnuStatistics", "Statistics...", nullptr, mnuStatistics_Click},
+
+        {"mnuView"},
+        {"mnuView", "mnuMute", "Mute", &hearing.mnuMute, mnuMute_Click, true},
 
         {"mnuTired", "mnuCoffee", "Coffee", nullptr, mnuCoffee_Click},
         {"mnuTired", "mnuBeach", "Beach", nullptr, mnuBeach_Click},
@@ -150,6 +159,7 @@ void MainWindow::makeMenus()
 {
     BoundWindow::makeMenus(*menuBar(), menus, entryTable());
     bindAction(menuNamed("mnuPercent")->menuAction(), frmMain.mnuPercent); // one entry of its own
+    connect(menuNamed("mnuEdit"), &QMenu::aboutToShow, this, [this] { onPassing(mnuEdit_Open); });
     makeRowMenu();
 }
 

@@ -72,7 +72,7 @@ std::optional<std::string> MessageBoxes::run(QFileDialog& dialog)
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     lastFolder_ = dialog.directory().path();
-    return dialog.selectedFiles().constFirst().toStdString();
+    return nativePath(dialog.selectedFiles().constFirst());
 }
 
 /// `ending`: of a name that is typed without a point.

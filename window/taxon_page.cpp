@@ -2,7 +2,11 @@
 
 #include "core/highlight.h"
 #include "core/main_screen.h"
+#include "platform/qt/text.h"
 #include "sheet/cell_grid.h"
+#include "sheet/key_names.h"
+#include "window/legible_style.h"
+#include "window/name_box.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -18,9 +22,10 @@ constexpr int indexHeight = 225;
 constexpr int twipsPerPoint = 20;
 constexpr int indexLetters = 7; // points
 
-QLineEdit* cellBox(QWidget* page, Qt::Alignment alignment)
+template <class Box>
+Box* cellBox(QWidget* page, Qt::Alignment alignment)
 {
-    auto* const box = new QLineEdit(page);
+    auto* const box = new Box(page);
     box->setFrame(false);
     box->setReadOnly(true);
     box->unsetCursor(); // the sheet's pointer holds here too
@@ -41,8 +46,8 @@ TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
 {
     setMinimumSize(pageWidth / 24, pageHeight / 24);
     for (int i = 0; i < keysPerLayer; ++i) {
-        names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
-        counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
+        names_ += cellBox<NameBox>(this, Qt::AlignLeft | Qt::AlignVCenter);
+        counts_ += cellBox<QLineEdit>(this, Qt::AlignRight | Qt::AlignVCenter);
         indexes_ += new QLabel(this);
         indexes_.back()->setAlignment(Qt::AlignCenter);
     }
@@ -50,9 +55,9 @@ TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
 
 QRect TaxonPage::scaled(int left, int top, int width, int height) const
 {
-    const auto pixels = [this](int twips) { return qRound(twips * pixelsPerTwip_); };
-    return {QPoint(leftMargin_ + pixels(left), pixels(top)),
-            QPoint(leftMargin_ + pixels(left + width) - 1, pixels(top + height) - 1)};
+    const auto across = [this](int twips) { return qRound(twips * pixelsAcross_); };
+    const auto down = [this](int twips) { return qRound(twips * pixelsPerTwip_); };
+    return {QPoint(across(left), down(top)), QPoint(across(left + width) - 1, down(top + height) - 1)};
 }
 
 QRect TaxonPage::cellRect(int slot) const
@@ -75,8 +80,8 @@ void TaxonPage::placeCells()
         return;
     placed_ = wanted;
 
-    pixelsPerTwip_ = std::min(width() / double(pageWidth), height() / double(pageHeight));
-    leftMargin_ = static_cast<int>((width() - pageWidth * pixelsPerTwip_) / 2);
+    pixelsAcross_ = width() / double(pageWidth);
+    pixelsPerTwip_ = std::min(pixelsAcross_, height() / double(pageHeight));
     for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
         const TextBox& name = frmMain.Text1[slot];
         const TextBox& count = frmMain.Text2[slot];
@@ -92,10 +97,15 @@ void TaxonPage::placeCells()
     update();
 }
 
+int TaxonPage::letterPixels(int points) const
+{
+    return std::max(1, qRound(points * twipsPerPoint * pixelsPerTwip_));
+}
+
 void TaxonPage::sizeLetters(QWidget* widget, int points) const
 {
     QFont letters = widget->font();
-    letters.setPixelSize(std::max(1, qRound(points * twipsPerPoint * pixelsPerTwip_)));
+    letters.setPixelSize(letterPixels(points));
     if (letters != widget->font())
         widget->setFont(letters);
 }
@@ -106,7 +116,7 @@ void TaxonPage::makeEditable(bool editable)
     QList<int> order;
     for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
         order << slot;
-        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
+        for (QLineEdit* const box : {static_cast<QLineEdit*>(nameBox(slot)), countBox(slot)}) {
             box->setReadOnly(!editable);
             box->setFrame(editable);
             box->setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);
@@ -121,13 +131,19 @@ void TaxonPage::makeEditable(bool editable)
         };
         return place(one) < place(other);
     });
-    QWidget* last = nullptr;
+    QList<QWidget*> stops;
     for (const int slot : order)
-        for (QLineEdit* const box : {nameBox(slot), countBox(slot)}) {
-            if (last != nullptr)
-                setTabOrder(last, box);
-            last = box;
-        }
+        stops << nameBox(slot);
+    for (const int slot : order)
+        stops << countBox(slot);
+    for (int stop = 1; stop < stops.size(); ++stop)
+        setTabOrder(stops[stop - 1], stops[stop]);
+}
+
+void TaxonPage::showKeyNames(bool shown)
+{
+    keyNamesShown_ = shown;
+    update();
 }
 
 void TaxonPage::frameCells()
@@ -148,20 +164,41 @@ void TaxonPage::resizeEvent(QResizeEvent*)
     placeCells();
 }
 
+QColor TaxonPage::blockColour() const
+{
+    const QColor window = palette().color(QPalette::Window);
+    return mixed(window, palette().color(window.lightness() < 128 ? QPalette::Light : QPalette::Mid),
+                 60 / 255.0);
+}
+
+/// Small and quiet: they are looked for, and must not be in the way of the counts above them.
+void TaxonPage::paintKeyNames(QPainter& painter, const QRegion& where) const
+{
+    QFont letters = font();
+    letters.setPixelSize(letterPixels(indexLetters));
+    painter.setFont(letters);
+    const QColor strong = palette().color(QPalette::WindowText);
+    const QColor ground = blockColour();
+    painter.setPen(legible(mixed(strong, ground, 0.4), strong, {ground}));
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
+        const QRect place = indexLabel(slot)->geometry();
+        const std::string& key = keyNames.ofNumber[slot - firstSlot() + 1];
+        if (!key.empty() && where.intersects(place))
+            painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, shownText(key));
+    }
+}
+
 void TaxonPage::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
 
     // The six blocks of the keyboard, so that the eye finds a key's place at once.
-    const bool dark = palette().color(QPalette::Window).lightness() < 128;
-    QColor block = palette().color(dark ? QPalette::Light : QPalette::Mid);
-    block.setAlpha(60);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(block);
+    painter.setBrush(blockColour());
     for (const int left : {240, 4560, 8880}) {
-        painter.drawRoundedRect(scaled(left - 105, 225, 4035, 1740), 6, 6);
-        painter.drawRoundedRect(scaled(left - 105, 2025, 4035, 2685), 6, 6);
+        painter.drawRoundedRect(scaled(left - 105, 225, 4035, 1815), 6, 6);
+        painter.drawRoundedRect(scaled(left - 105, 2085, 4035, 2625), 6, 6);
     }
 
     painter.setBrush(Qt::NoBrush);
@@ -171,6 +208,9 @@ void TaxonPage::paintEvent(QPaintEvent* event)
         if (event->rect().intersects(cell.toAlignedRect().adjusted(-2, -2, 2, 2)))
             painter.drawRect(cell.adjusted(-0.5, -0.5, 0.5, 0.5));
     }
+
+    if (keyNamesShown_)
+        paintKeyNames(painter, event->region());
 
     const double width = frameWidth();
     painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));

@@ -29,7 +29,7 @@ void paintOn(QImage& image, const Page& page, int dotsPerInch, int top)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.translate(0, -top);
     painter.scale(dotsPerInch / mmPerInch, dotsPerInch / mmPerInch);
-    paintPage(painter, page, TextAs::outlines);
+    paintPage(painter, page);
 }
 
 /// Fonts stand in a PDF file in the order of a hash table, which is another one in each run otherwise.

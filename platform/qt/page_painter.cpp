@@ -7,7 +7,6 @@
 #include <QHash>
 #include <QPaintDevice>
 #include <QPainter>
-#include <QPainterPath>
 #include <array>
 #include <vector>
 
@@ -15,6 +14,10 @@ namespace {
 
 // Widths of letters are true from here on; smaller ones are fitted to a grid of pixels.
 constexpr int measured = 100;
+
+/// Letters that are not kept as pixels are drawn as areas, whose corners depend on which letters of a window
+/// were drawn before; kept ones are the same in each run. By default only those up to 64 pixels are kept.
+const bool largeLettersAreKept = qputenv("QT_MAX_CACHED_GLYPH_SIZE", "400");
 
 QFont pageFont(bool italic)
 {
@@ -37,10 +40,7 @@ QColor shown(Colour colour)
 
 class PagePainter {
 public:
-    PagePainter(QPainter& painter, const Page& page, TextAs texts)
-        : painter_(painter), page_(page), texts_(texts)
-    {
-    }
+    PagePainter(QPainter& painter, const Page& page) : painter_(painter), page_(page) {}
 
     void paint()
     {
@@ -113,15 +113,8 @@ private:
         const double width = text.width / scale;
         double x = text.anchor == Anchor::start ? 0 : text.anchor == Anchor::middle ? -width / 2 : -width;
         for (const TextRun& run : text.runs) {
-            const QString words = QString::fromStdString(run.text);
-            if (texts_ == TextAs::outlines) {
-                QPainterPath path;
-                path.addText(x, 0, fonts_[run.italic], words);
-                painter_.fillPath(path, shown(text.colour));
-            } else {
-                painter_.setFont(fonts_[run.italic]);
-                painter_.drawText(QPointF(x, 0), words);
-            }
+            painter_.setFont(fonts_[run.italic]);
+            painter_.drawText(QPointF(x, 0), QString::fromStdString(run.text));
             x += pageLetterWidth(run.text, run.italic) * measured;
         }
         painter_.restore();
@@ -129,16 +122,15 @@ private:
 
     QPainter& painter_;
     const Page& page_;
-    const TextAs texts_;
     const std::array<QFont, 2> fonts_ = {pageFont(false), pageFont(true)};
     std::vector<QPointF> points_;
 };
 
 } // namespace
 
-void paintPage(QPainter& painter, const Page& page, TextAs texts)
+void paintPage(QPainter& painter, const Page& page)
 {
-    PagePainter(painter, page, texts).paint();
+    PagePainter(painter, page).paint();
 }
 
 double pageLetterWidth(std::string_view text, bool italic)

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 
 static void copyMissing(const QString& from, const QString& to, const QStringList& names)
 {
@@ -13,10 +14,17 @@ static void copyMissing(const QString& from, const QString& to, const QStringLis
     }
 }
 
+/// Asked by doing it: rights that the system grants by other means than the folder's own marks (Windows) or
+/// takes by the medium do not always show.
+static bool canBeWritten(const QString& folder)
+{
+    return QTemporaryFile(folder + "/tallystrata_XXXXXX").open();
+}
+
 QString programFolder(const QString& executableFolder, const QString& userFolder)
 {
     const QFileInfo beside(executableFolder + "/References");
-    if (beside.isDir() && beside.isWritable())
+    if (beside.isDir() && canBeWritten(beside.filePath()))
         return executableFolder;
 
     const QString delivered =

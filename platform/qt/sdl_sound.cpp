@@ -1,6 +1,6 @@
 #include "platform/qt/sdl_sound.h"
 
-#include <SDL2/SDL.h>
+#include <SDL.h>
 
 #include <QApplication>
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "platform/code_page.h"
 
+#include <QDir>
 #include <QString>
 
 /// Texts between the records (code page of the sheets) and the widgets.
@@ -16,6 +17,12 @@ inline std::string heldText(const QString& text)
 {
     return toCodePage(
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
+}
+
+/// A path as the user of this system writes it: on Windows with "\".
+inline std::string nativePath(const QString& path)
+{
+    return QDir::toNativeSeparators(path).toStdString();
 }
 
 /// The object name of one of several controls, as in "Text2(12)".

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+class QKeyEvent;
+
+/// What the key events of this system tell about the key itself; see platform/key_codes.h.
+class SystemKeys {
+public:
+    virtual ~SystemKeys() = default;
+    /// The code that the program works with; 0 if the key has none.
+    virtual int virtualKey(const QKeyEvent& event) = 0;
+    /// Which key of the keyboard it is, whatever it types: the same number down and up.
+    virtual std::uint32_t physicalKey(const QKeyEvent& event) const = 0;
+};
+
+/// Those of the system that the program was built for. Needs a QGuiApplication that outlives them.
+std::unique_ptr<SystemKeys> systemKeys();

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QFont>
+#include <QLineEdit>
+
+/// The box of a taxon's name. While it is only read, a name that is too long for it is set narrower, then its
+/// words are cut, and a single word loses its middle, since names are told apart by their beginnings and
+/// their ends; where the end is to be seen, it loses its beginning.
+class NameBox : public QLineEdit {
+public:
+    explicit NameBox(QWidget* parent) : QLineEdit(parent) {}
+
+    /// What of the name is on show.
+    QString readText() const { return fitted().text; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    struct Fitted {
+        QString of;
+        QFont letters;
+        int room = -1;
+        bool fromEnd = false;
+        QString text;
+        QFont narrowed;
+    };
+    const Fitted& fitted() const;
+
+    mutable Fitted fitted_; ///< kept, since a key press paints boxes anew
+};
