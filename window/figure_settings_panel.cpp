@@ -102,7 +102,8 @@ void FigureSettingsPanel::orderTabs()
                 continue;
             }
             for (QWidget* const part : widget->findChildren<QWidget*>())
-                if ((part->focusPolicy() & Qt::TabFocus) != 0 && part->focusProxy() == nullptr)
+                if ((part->focusPolicy() & Qt::TabFocus) != 0 && part->focusProxy() == nullptr &&
+                    part->window() == window()) // lists that drop down are windows
                     next(part);
         }
     }
