@@ -9,6 +9,7 @@
 #include "files/left_work.h"
 #include "files/recovery.h"
 #include "platform/qt/text.h"
+#include "platform/twips.h"
 #include "statistics/statistics_form.h"
 
 #include <QApplication>
@@ -46,7 +47,7 @@ Program::Program(const QString& folder)
              &recoveryTimer_,
              &pictures_,
              nativePath(folder),
-             15 * window_.screen()->size().width(),
+             twipsPerPixel * window_.screen()->size().width(),
              &journalTimer_,
              &pauseTimer_,
              &deadlineTimer_,

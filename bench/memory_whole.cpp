@@ -16,6 +16,6 @@ int main(int argc, char* argv[])
     if (!ports.files->write(path, fullSheetText()))
         return 1;
     program.window().onEvent([&] { openDropped(path); });
-    program.window().onEvent(mnuCurve_Click);
+    program.window().onEvent([] { mnuDiagramStyle_Click(styleAtStart); });
     return reportMemory();
 }

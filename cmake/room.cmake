@@ -31,5 +31,8 @@ function(room_test name sources)
     target_compile_options(${name} PRIVATE -O0)
     target_precompile_headers(${name} REUSE_FROM test_headers)
     target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest_main)
+    if(MINGW) # runs where the compiler's own libraries are not found
+        target_link_options(${name} PRIVATE -static)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
 endfunction()

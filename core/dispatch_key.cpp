@@ -83,50 +83,42 @@ bool isBoundKey(int keyCode)
 
 void DispatchKey(int keyCode, int shift)
 {
-    // 1, 2.
     layerKeyDown(keyCode);
-    // 3.
     if (keyCode == sheet.LastKey && sheet.RepeatGuard)
         return;
-    // 4. Each key has its own 70 milliseconds.
+    // Each key has its own 70 milliseconds.
     if (!isShiftKey(keyCode)) {
         sheet.LastKey = keyCode;
         sheet.RepeatGuard = true;
         ports.Timer1->start(repeatGuardMilliseconds);
     }
-    // 6. The Save key goes on: it may count something as well.
+    // The Save key goes on: it may count something as well.
     if (isSaveKey(keyCode))
         hooks.SaveSheet(plainOrUntouched());
-    // 7.
     if (!sheet.KeysActive || !isAccepted(keyCode))
         return;
-    // 8.
-    frmMain.hundredMark = {};
+    frmMain.hundredMark = {}; // it stands until the next key
     sheet.FreshSheet = false;
     frmMain.mnuNext.enabled = false;
-    // 9. Layer 0 turns no page here; letting go of the shift key does.
+    // Layer 0 turns no page here; letting go of the shift key does.
     if (!sheet.Modifying && sheet.Layer > 0)
         frmMain.SSTab1 = sheet.Layer;
-    // 10.
     const bool counts = !isShiftKey(keyCode) && keyCode != sheet.MinusKey;
     if (counts && !sheet.Modifying) {
         offerReset(true);
         offerSave(true);
         frmMain.mnuSaveHistory.enabled = true;
     }
-    // 11.
     sheet.MinusArmed = counts && sheet.MinusState > 0;
     if (sheet.MinusArmed)
         ++sheet.MinusState;
-    // 12.
     bool answeredYes = false;
     if (keyCode == sheet.MinusKey || sheet.Modifying) {
         frmMain.Text99.text.clear();
     } else {
-        // 13. Of a shift key too.
+        // A shift key makes the sheet one to save too.
         sheet.SheetPristine = false;
         frmMain.mnuNew.enabled = frmMain.mnuUndo.enabled = true;
-        // 14.
         if (leadingNumber(sheet.SampleField(sheet.CurrentSample, 1)) != sheet.SampleCount &&
             sheet.WarnNotLatest && !isShiftKey(keyCode)) {
             if (askAboutStaleSample() != Answer::yes)
@@ -134,20 +126,18 @@ void DispatchKey(int keyCode, int shift)
             answeredYes = true;
             sheet.WarnNotLatest = false;
         }
-        // 15 to 17.
         RecordCount(keyCode, shift);
         if (!isShiftKey(keyCode))
             giveFeedback();
     }
-    // 18.
     if (keyCode == sheet.MinusKey && sheet.MinusState == 0)
-        sheet.MinusState = 1;
-    // 19. The dialog took the key-ups of the shift keys.
+        sheet.MinusState = 1; // let go without a count between, it takes one back
+    // The dialog took the key-ups of the shift keys.
     if (answeredYes) {
         releaseLayerKeys();
         frmMain.SSTab1 = 0;
     }
-    // 20. For Undo too, at its key-down, before anything is taken back.
+    // For Undo too, at its key-down, before anything is taken back.
     if (sheet.DiagramOpen && !isShiftKey(keyCode))
         hooks.RefreshDiagram();
 }

@@ -15,10 +15,8 @@
 
 void AbortCount()
 {
-    // 1.
     playCue(Cue::SoundError);
-    // 2 to 5.
-    if (sheet.SampleTotal != 0) {
+    if (sheet.SampleTotal != 0) { // with nothing counted there is nothing to ask about
         if (ports.dialogs->ask("This action will abort all inputs after last saving. Do you proceed?",
                                "Caution!", Buttons::yesNo, Icon::question) == Answer::yes) {
             RestoreSnapshot();
@@ -30,10 +28,8 @@ void AbortCount()
             frmMain.Command2[0].enabled = true;
         }
     }
-    // 6.
     if (sheet.DiagramOpen)
         hooks.RedrawDiagram();
-    // 7.
     if (!sheet.Modifying)
         frmMain.focus = MainFocus::Text99;
 }

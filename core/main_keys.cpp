@@ -18,15 +18,12 @@ void Form_KeyDown(int keyCode, int shift)
 
 void Form_KeyUp(int keyCode, int /*shift*/)
 {
-    // 1, 2.
     layerKeyUp(keyCode);
-    // 3.
     if (!sheet.Modifying && sheet.Layer < 2)
         frmMain.SSTab1 = sheet.Layer;
-    // 4. On purpose not tied to the key that came up.
+    // On purpose not tied to the key that came up.
     if (sheet.MinusState == 1 && !sheet.Modifying)
         Undo();
-    // 5.
     if (keyCode == sheet.MinusKey)
         sheet.MinusState = 0;
 }

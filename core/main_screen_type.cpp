@@ -40,9 +40,8 @@ MainScreen::MainScreen()
 
     for (Button* button : {&Command2[0], &Command3[1], &Command5[0], &Command5[1]})
         button->enabled = false;
-    for (MenuEntry* entry :
-         {&mnuFinishAmend, &mnuTaxaFromList, &mnuSave, &mnuSaveHistory, &mnuNext, &mnuUndo, &mnuReset,
-          &mnuNew, &mnuBar, &mnuArea, &mnuCurve, &mnuDot, &mnuDotCurve, &mnuFavorite})
+    for (MenuEntry* entry : {&mnuFinishAmend, &mnuTaxaFromList, &mnuSave, &mnuSaveHistory, &mnuNext, &mnuUndo,
+                             &mnuReset, &mnuNew, &mnuDiagramStyles, &mnuFavorite})
         entry->enabled = false;
     mnuItalic.checked = true;
     mnuFontSize[8].checked = true;

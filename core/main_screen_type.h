@@ -78,7 +78,7 @@ struct MainScreen {
     MenuEntry mnuNew, mnuNewFromTable, mnuOpen, mnuSave, mnuSaveAs, mnuSaveCopy, mnuNext, mnuSaveHistory;
     MenuEntry mnuPercent, mnuPercentAll, mnuPercentSub1, mnuPercentSub2; ///< captions follow the subtotals
     MenuEntry mnuUndo, mnuReset, mnuStartAmend, mnuFinishAmend, mnuTaxaFromList, mnuFind;
-    MenuEntry mnuBar, mnuArea, mnuCurve, mnuDot, mnuDotCurve;
+    MenuEntry mnuDiagramStyles; ///< all styles of the menu Diagram, offered together
     MenuEntry mnuItalic, mnuFavorite;
     MenuEntry mnuCopyDiversity, mnuSaveDiversity;    ///< pop-up of the saturation curve
     std::array<MenuEntry, taxonSlots + 1> mnuMoveTo; ///< mnuMoveTo1, 2, 3: target slots of a move

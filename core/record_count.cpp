@@ -42,33 +42,27 @@ static std::string slotTextOfKey(int keyCode)
 
 void RecordCount(int keyCode, int /*shift*/)
 {
-    // 1, 2. The write to the carrier changes the count before it returns.
+    // The write to the carrier changes the count before it returns.
     const std::string carried = slotTextOfKey(keyCode);
     setText0(carried);
-    // 3.
     frmMain.Text99.text.clear();
-    // 4.
     const int carriedSlot = std::abs(wholeNumber(carried));
     const int slot =
         carriedSlot <= taxonSlots ? carriedSlot : 0; // the carrier counts no slot beside the sheet
     if (sheet.UndoStack[0].slot != 0)
         frmMain.Text1[slot].backColor = frmMain.Text2[slot].backColor = plainRow;
-    // 5, 6. A key without a slot is put on the stack too, as a stop for Undo.
+    // A key without a slot is put on the stack too, as a stop for Undo.
     if (!isShiftKey(keyCode)) {
         std::move_backward(sheet.UndoStack.begin(), sheet.UndoStack.end() - 1, sheet.UndoStack.end());
         const int sign = sheet.MinusArmed ? -1 : 1;
         sheet.UndoStack[0] = {sheet.CurrentSample, sign * slot};
     }
-    // 7, 8.
     const int counted = std::abs(sheet.UndoStack[0].slot);
     if (counted == 0 || sheet.FreshSheet || isShiftKey(keyCode) || keyCode == sheet.MinusKey)
         return;
     touchSheet();
-    // 9 to 12.
     logAction((sheet.MinusArmed ? "(Amend) " : "") + frmMain.Label1[counted].caption + ": " +
               frmMain.Text1[counted].text);
-    // 13.
     frmMain.Text2[counted].bold = frmMain.Text1[counted].bold = true;
-    // 14.
     highlight(counted, countedRow);
 }

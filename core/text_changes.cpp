@@ -129,7 +129,5 @@ void Text3_Change(int total)
 void Label4_Change()
 {
     if (sheet.SampleCount > 1)
-        for (MenuEntry* style :
-             {&frmMain.mnuBar, &frmMain.mnuArea, &frmMain.mnuCurve, &frmMain.mnuDot, &frmMain.mnuDotCurve})
-            style->enabled = true;
+        frmMain.mnuDiagramStyles.enabled = true;
 }

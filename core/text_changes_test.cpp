@@ -107,7 +107,7 @@ TEST_F(Totals, openTheNextSampleAndStampTheFirstIndividual)
 TEST_F(Totals, sampleThatIsOnlyShownIsNoEdit)
 {
     setLabel4("1/2");
-    EXPECT_FALSE(frmMain.mnuBar.enabled); // one sample makes no diagram
+    EXPECT_FALSE(frmMain.mnuDiagramStyles.enabled); // one sample makes no diagram
     addSamples(3);
     sheet.Count(2, 7) = 1;
     sheet.Count(3, 7) = 40000;
@@ -118,5 +118,5 @@ TEST_F(Totals, sampleThatIsOnlyShownIsNoEdit)
         EXPECT_EQ("", sheet.SampleStamp(sample, 2));
     }
     EXPECT_TRUE(counts == sheet.Count && names == sheet.SampleField);
-    EXPECT_TRUE(sheet.SheetPristine && !frmMain.Command5[0].enabled && frmMain.mnuBar.enabled);
+    EXPECT_TRUE(sheet.SheetPristine && !frmMain.Command5[0].enabled && frmMain.mnuDiagramStyles.enabled);
 }

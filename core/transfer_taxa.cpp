@@ -58,30 +58,24 @@ void TransferTaxa(int target)
     if (!isTaxon(source) || !isTaxon(target) || source == target)
         return;
     const VisitInterrupted interrupted; // the move renames and recounts boxes, which is no edit of them
-    // 1.
     for (int sample = 0; sample <= sheet.SampleCount; ++sample)
         sheet.Count(sample, target) = std::exchange(sheet.Count(sample, source), 0);
-    // 2, 3. Row number and key index stay with the slot.
+    // Row number and key index stay with the slot.
     TaxonFields& from = sheet.TaxonRecord[source];
     TaxonFields& to = sheet.TaxonRecord[target];
     to.Subtotal1 = std::exchange(from.Subtotal1, "0");
     to.Subtotal2 = std::exchange(from.Subtotal2, "0");
     to.Name = std::exchange(from.Name, noText);
-    // 4.
     setText1(target, frmMain.Text1[source].text);
     setText2(target, frmMain.Text2[source].text);
     setText1(source, noText);
     setText2(source, "0");
     frmMain.Label1[source].bold = false;
-    // 5.
     highlight(target, takenBackRow);
-    // 6.
     logAction("(Move) " + frmMain.Text1[target].text + ": " + decimalText(source) + " to " +
               decimalText(target));
-    // 7.
     RecountTotals(sheet.CurrentSample);
     underlineBasis();
-    // 8.
     markEdited();
     sheet.SheetPristine = false;
     frmMain.mnuNew.enabled = true;

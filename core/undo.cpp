@@ -32,20 +32,15 @@ static void takeBack(UndoEntry entry)
 {
     const int slot = std::abs(entry.slot);
     const int sign = entry.slot > 0 ? 1 : -1;
-    // 3.
-    if (entry.sample != sheet.CurrentSample) {
+    if (entry.sample != sheet.CurrentSample) { // a count is taken back before the user's eyes
         showSample(entry.sample);
         logAction("(Change sample: " + frmMain.Combo2.text + ")");
     }
-    // 4.
     setText2(slot, decimalText(within32Bits(std::int64_t{wholeNumber(frmMain.Text2[slot].text)} - sign)));
     sheet.Count(sheet.CurrentSample, slot) = wholeNumber(frmMain.Text2[slot].text);
-    // 5, 6.
     const bool rings = touchesHundred();
     playCue(rings ? Cue::SoundAlarm : Cue::SoundUndo);
-    // 7.
     highlight(slot, takenBackRow);
-    // 8.
     std::move(sheet.UndoStack.begin() + 1, sheet.UndoStack.end(), sheet.UndoStack.begin());
     sheet.UndoStack.back() = {};
     logAction((sign < 0 ? "(Undo-amend) " : "(Undo) ") + frmMain.Label1[slot].caption + ": " +
@@ -58,18 +53,15 @@ void Undo()
 {
     if (!sheet.KeysActive) // the boxes show percentages, which must not become counts
         return;
-    // 1, 2. An entry without a slot is never taken off: what lies below it is out of reach.
+    // An entry without a slot is never taken off: what lies below it is out of reach.
     const bool takesBack = sheet.UndoStack[0].slot != 0;
     if (takesBack)
         takeBack(sheet.UndoStack[0]);
-    // 9.
     RecountTotals(sheet.CurrentSample);
     if (takesBack)
         markHundred();
-    // 10.
     if (sheet.UndoStack[0].slot == 0)
         frmMain.mnuUndo.enabled = false;
-    // 11.
     sheet.AlarmArmed = true;
     if (sheet.DiagramOpen)
         hooks.RedrawDiagram();

@@ -5,7 +5,6 @@ DiagramForm frmDiagram;
 DiagramForm::DiagramForm()
 {
     mnuSub1.checked = true;
-    mnuCurve.checked = true;
     mnuTaxaName.checked = true;
     Text1.enabled = Text2.enabled = false;
 }

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "diagram/coniss.h"
+#include "diagram/diagram_styles.h"
 #include "diagram/plot_data.h"
 #include "platform/controls.h"
 #include "platform/drawing.h"
 
 #include <optional>
 
-/// Where a control stands in its window, in twips (15 to a pixel at the design size).
+/// Where a control stands in its window, in twips.
 struct Place {
     int left = 0;
     int top = 0;
@@ -74,7 +75,7 @@ struct DiagramForm {
     std::string notice;                      ///< line above the names; empty: none
 
     MenuEntry mnuSub1, mnuSub2, mnuAll;
-    MenuEntry mnuBar, mnuArea, mnuDot, mnuCurve, mnuDotCurve;
+    int style = styleAtStart;             ///< number in diagramStyles
     MenuEntry mnuVertical, mnuHorizontal; ///< mnuVertical1, 2 and mnuHorizontal1, 2 show the same mark
     MenuEntry mnuTaxaName;
     MenuEntry nmuConiss;

@@ -4,6 +4,7 @@
 #include "diagram/diagram_form.h"
 #include "diagram/paint_diagram.h"
 #include "platform/ports.h"
+#include "platform/twips.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +20,6 @@ constexpr int MarginScroll = 345; ///< window less top of the scroll bar
 constexpr int scrollBarHeight = 255;
 constexpr int noticeHeight = 300;
 constexpr int panelHeight = 780;
-constexpr int twipsPerPixel = 15;
 constexpr int overhang = 210; ///< by which the last column's name may pass the diagram's edge
 
 /// As high as the longest name needs, but a third of the room is the diagram's; a name beyond that is cut.

@@ -18,16 +18,6 @@ float zoom()
     return static_cast<float>(frmDiagram.Slider2.value) / 5.0F;
 }
 
-DiagramStyle style()
-{
-    const DiagramForm& f = frmDiagram;
-    return f.mnuBar.checked     ? DiagramStyle::bar
-           : f.mnuArea.checked  ? DiagramStyle::curve
-           : f.mnuDot.checked   ? DiagramStyle::dot
-           : f.mnuCurve.checked ? DiagramStyle::barAndCurve
-                                : DiagramStyle::dotAndCurve;
-}
-
 void setScrollRange()
 {
     const PlotData& plot = frmDiagram.plot;
@@ -70,8 +60,8 @@ void PrepareDiagram()
 
 DiagramView diagramView()
 {
-    return {style(), sheet.DiagramColour, zoom(), static_cast<float>(frmDiagram.HScroll1.value),
-            frmDiagram.Picture1.scale};
+    return {diagramStyles[frmDiagram.style].paintColumn, sheet.DiagramColour, zoom(),
+            static_cast<float>(frmDiagram.HScroll1.value), frmDiagram.Picture1.scale};
 }
 
 std::vector<float> diagramRows()

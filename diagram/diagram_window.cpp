@@ -25,16 +25,6 @@ constexpr int designWidth = 9735; // twips
 constexpr int designHeight = 7545;
 constexpr int leastPicture = 500;
 
-void showStyle(DiagramStyle style)
-{
-    DiagramForm& f = frmDiagram;
-    f.mnuBar.checked = style == DiagramStyle::bar;
-    f.mnuArea.checked = style == DiagramStyle::curve;
-    f.mnuDot.checked = style == DiagramStyle::dot;
-    f.mnuCurve.checked = style == DiagramStyle::barAndCurve;
-    f.mnuDotCurve.checked = style == DiagramStyle::dotAndCurve;
-}
-
 void showBasis()
 {
     frmDiagram.mnuSub1.checked = frmMain.Option1[1].selected;
@@ -81,13 +71,6 @@ void load()
     listDiagramSamples();
 }
 
-void launch(DiagramStyle style)
-{
-    TestSampleNames();
-    showStyle(style);
-    LaunchDiagram();
-}
-
 void stepTo(int sample)
 {
     frmDiagram.DiagramSample = sample;
@@ -97,29 +80,11 @@ void stepTo(int sample)
 
 } // namespace
 
-void mnuBar_Click()
+void mnuDiagramStyle_Click(int style)
 {
-    launch(DiagramStyle::bar);
-}
-
-void mnuArea_Click()
-{
-    launch(DiagramStyle::curve);
-}
-
-void mnuDot_Click()
-{
-    launch(DiagramStyle::dot);
-}
-
-void mnuCurve_Click()
-{
-    launch(DiagramStyle::barAndCurve);
-}
-
-void mnuDotCurve_Click()
-{
-    launch(DiagramStyle::dotAndCurve);
+    TestSampleNames();
+    frmDiagram.style = style;
+    LaunchDiagram();
 }
 
 void LaunchDiagram()
@@ -222,7 +187,6 @@ void frmDiagram_Resize(int width, int height)
     f.ScaleHeight = f.Height - f.chromeHeight;
     if (f.ResizeHold || !sheet.DiagramOpen)
         return;
-    // 1.
     layOutDiagramWindow();
     const bool narrow = f.picture1Place.width < leastPicture;
     const bool low = f.picture1Place.height < leastPicture;
@@ -236,7 +200,7 @@ void frmDiagram_Resize(int width, int height)
         ports.dialogs->ask("Frame too small", "Error", Buttons::ok, Icon::exclamation);
         layOutDiagramWindow();
     }
-    // 4. On purpose without the zoom, and without a limit.
+    // On purpose without the zoom, and without a limit.
     const float beyond = f.plot.ColumnLeft[taxonSlots] - f.Picture1.scale.width + f.plot.LastColumnWidth +
                          2.0F * static_cast<float>(f.plot.ColumnGap);
     constexpr float farthest = 2e9F; // a mistyped count may make a column wider than a whole number can say
@@ -245,13 +209,11 @@ void frmDiagram_Resize(int width, int height)
     f.HScroll1.largeChange = static_cast<int>(f.Picture1.scale.width);
     f.HScroll1.smallChange = 10;
     f.HScroll1.visible = f.HScroll1.max > 0;
-    // 5.
     paintDiagram();
     paintTaxonNames();
     placePanel();
     if (f.ConissShown && f.picture2Visible)
         drawDendrogram();
-    // 6.
     sheet.DiagramHeight = f.Height;
     sheet.DiagramWidth = f.Width;
 }
@@ -278,9 +240,9 @@ void frmDiagram_KeyUp(int keyCode)
         sheet.MinusState = 0;
 }
 
-void frmDiagram_Style_Click(DiagramStyle style)
+void frmDiagram_Style_Click(int style)
 {
-    showStyle(style);
+    frmDiagram.style = style;
     paintDiagram();
 }
 

@@ -9,11 +9,7 @@
 /// its painting does nothing.
 
 /// The entries of the main window's Diagram menu: the style, then the window. Nothing with a single sample.
-void mnuBar_Click();
-void mnuArea_Click();
-void mnuDot_Click();
-void mnuCurve_Click();
-void mnuDotCurve_Click();
+void mnuDiagramStyle_Click(int style); ///< number in diagramStyles
 void LaunchDiagram();
 
 /// The window has gone, or is to go.
@@ -40,7 +36,7 @@ void frmDiagram_KeyDown(int keyCode, int shift);
 void frmDiagram_KeyUp(int keyCode);
 
 /// The window's own menus.
-void frmDiagram_Style_Click(DiagramStyle style);
+void frmDiagram_Style_Click(int style); ///< number in diagramStyles
 void frmDiagram_Basis_Click(int basis); ///< 0 all, 1 and 2 a subtotal
 void mnuDefaultDGColour_Click();
 void mnuCustomDGColour_Click();

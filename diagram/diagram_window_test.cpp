@@ -41,7 +41,7 @@ protected:
     }
     void open()
     {
-        mnuCurve_Click();
+        mnuDiagramStyle_Click(styleAtStart);
         ASSERT_TRUE(sheet.DiagramOpen);
     }
     static void nameByCode()
@@ -64,7 +64,7 @@ protected:
 TEST_F(Diagram, opensAtItsSizeWithTheChosenStyleButNotForOneSample)
 {
     open();
-    EXPECT_TRUE(f.mnuCurve.checked && !f.mnuBar.checked);
+    EXPECT_EQ(f.style, styleAtStart);
     EXPECT_TRUE(f.mnuAll.checked && !f.mnuSub1.checked) << "as the main window stands";
     EXPECT_TRUE(f.Width == 9735 && f.Height == 7545);
     EXPECT_FLOAT_EQ(f.Picture1.scale.width, 500);
@@ -76,11 +76,11 @@ TEST_F(Diagram, opensAtItsSizeWithTheChosenStyleButNotForOneSample)
     EXPECT_FLOAT_EQ(f.Picture1.scale.width, static_cast<float>(12000 - 2310) / 15 / 0.99F)
         << "shows more columns";
     closeDiagram();
-    mnuBar_Click();
-    EXPECT_TRUE(f.Width == 12000 && f.mnuBar.checked && !f.mnuCurve.checked);
+    mnuDiagramStyle_Click(0);
+    EXPECT_TRUE(f.Width == 12000 && f.style == 0);
     closeDiagram();
     sheet.SampleCount = 1;
-    mnuBar_Click();
+    mnuDiagramStyle_Click(0);
     EXPECT_FALSE(sheet.DiagramOpen);
 }
 

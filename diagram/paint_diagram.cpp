@@ -8,6 +8,8 @@ namespace {
 constexpr Colour black = RGB(0, 0, 0);
 constexpr Colour white = RGB(255, 255, 255);
 
+} // namespace
+
 /// Paints one column. Samples count by rank, so that the share of rank i stands at row i.
 class ColumnPainter {
 public:
@@ -18,28 +20,13 @@ public:
     {
     }
 
-    void paint(float width)
+    void bars()
     {
-        const DiagramStyle style = view_.style;
-        if (style == DiagramStyle::bar || style == DiagramStyle::barAndCurve)
-            for (int i = 1; i <= samples_; ++i)
-                bar(i);
-        if (style == DiagramStyle::curve)
-            curveEnds();
-        if (style != DiagramStyle::bar && style != DiagramStyle::dot)
-            curve();
-        drawing_.line(base_, 10, base_, 10.0F * static_cast<float>(samples_), black);
-        if (style == DiagramStyle::dot || style == DiagramStyle::dotAndCurve)
-            dots();
-        ticks(width);
+        for (int i = 1; i <= samples_; ++i)
+            bar(i);
     }
 
-private:
-    float end(int i) const { return (plot_.Share(i, column_) * 100 + left_) * view_.zoom; }
-    bool empty(int i) const { return plot_.Share(i, 0) == 0; }
-
-    void bar(int i) { drawing_.line(base_, rows_[i], end(i), rows_[i], view_.colour); }
-
+    /// Closes the curve against the axis.
     void curveEnds()
     {
         for (int i = 2; i < samples_; ++i)
@@ -59,6 +46,8 @@ private:
             if (!empty(i - 1) && !empty(i))
                 drawing_.line(end(i), rows_[i], end(i - 1), rows_[i - 1], view_.colour);
     }
+
+    void axis() { drawing_.line(base_, 10, base_, 10.0F * static_cast<float>(samples_), black); }
 
     void dots()
     {
@@ -81,6 +70,12 @@ private:
         } while (width > percent + 5 && percent < farthest);
     }
 
+private:
+    float end(int i) const { return (plot_.Share(i, column_) * 100 + left_) * view_.zoom; }
+    bool empty(int i) const { return plot_.Share(i, 0) == 0; }
+
+    void bar(int i) { drawing_.line(base_, rows_[i], end(i), rows_[i], view_.colour); }
+
     Drawing& drawing_;
     const PlotData& plot_;
     const std::vector<float>& rows_;
@@ -91,7 +86,40 @@ private:
     const int samples_;
 };
 
-} // namespace
+// The axis lies over bars and curves and under dots.
+
+void paintBars(ColumnPainter& column)
+{
+    column.bars();
+    column.axis();
+}
+
+void paintCurve(ColumnPainter& column)
+{
+    column.curveEnds();
+    column.curve();
+    column.axis();
+}
+
+void paintDots(ColumnPainter& column)
+{
+    column.axis();
+    column.dots();
+}
+
+void paintBarsAndCurve(ColumnPainter& column)
+{
+    column.bars();
+    column.curve();
+    column.axis();
+}
+
+void paintDotsAndCurve(ColumnPainter& column)
+{
+    column.curve();
+    column.axis();
+    column.dots();
+}
 
 Scale rowScale(int samples, float width)
 {
@@ -121,8 +149,9 @@ Drawing planDiagram(const PlotData& plot, const std::vector<float>& rows, const 
         const float ends = plot.ColumnLeft[column + 1] - view.scroll;
         if (ends * view.zoom < 0 || begins * view.zoom >= width)
             continue;
-        ColumnPainter(drawing, plot, rows, view, column, begins)
-            .paint(plot.ColumnLeft[column + 1] - plot.ColumnLeft[column]);
+        ColumnPainter painter(drawing, plot, rows, view, column, begins);
+        view.paintColumn(painter);
+        painter.ticks(plot.ColumnLeft[column + 1] - plot.ColumnLeft[column]);
     }
     return drawing;
 }

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "diagram/diagram_styles.h"
 #include "diagram/plot_data.h"
 #include "platform/drawing.h"
 
 #include <vector>
 
-enum class DiagramStyle { bar, curve, dot, barAndCurve, dotAndCurve };
-
 /// What part of a diagram is painted, and how.
 struct DiagramView {
-    DiagramStyle style = DiagramStyle::barAndCurve;
+    void (*paintColumn)(ColumnPainter&) = diagramStyles[styleAtStart].paintColumn;
     Colour colour;    ///< of bars, curves and dots
     float zoom = 1;   ///< units of width to one percent
     float scroll = 0; ///< percent that lie left of the view

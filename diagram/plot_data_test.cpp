@@ -59,9 +59,9 @@ struct SmallDiagram {
         view.colour = green;
         view.scale = rowScale(4, 500);
     }
-    Drawing paint(DiagramStyle style)
+    Drawing paint(void (*style)(ColumnPainter&))
     {
-        view.style = style;
+        view.paintColumn = style;
         return planDiagram(plot, rowPositions(sheet, false), view);
     }
 };
@@ -133,30 +133,30 @@ TEST(Painting, stylesDrawTheirLinesAndAnEmptySampleBreaksTheCurve)
     SmallDiagram diagram;
     diagram.view.scale.width = 6; // the first column alone
     // Rows lie at 10, 17.5, 25 and 40; the shares end at 55, 5, 105 and 30.
-    const auto bars = marksOf(diagram.paint(DiagramStyle::bar), green);
+    const auto bars = marksOf(diagram.paint(paintBars), green);
     ASSERT_EQ(bars.size(), 4);
     EXPECT_TRUE(bars[2].x1 == 5 && bars[2].x2 == 105 && bars[2].y1 == 25 && bars[2].y2 == 25);
 
-    const auto curve = marksOf(diagram.paint(DiagramStyle::curve), green);
+    const auto curve = marksOf(diagram.paint(paintCurve), green);
     ASSERT_EQ(curve.size(), 5);
     EXPECT_TRUE(curve[0].y1 == 10 && curve[1].y1 == 25) << "closed on both sides of the empty sample";
     EXPECT_TRUE(curve[2].y1 == 10 && curve[3].y1 == 40) << "and at its ends";
     EXPECT_TRUE(curve[4].x1 == 30 && curve[4].y1 == 40 && curve[4].x2 == 105 && curve[4].y2 == 25);
 
-    EXPECT_EQ(marksOf(diagram.paint(DiagramStyle::barAndCurve), green).size(), 5);
-    const auto dots = marksOf(diagram.paint(DiagramStyle::dotAndCurve), green);
+    EXPECT_EQ(marksOf(diagram.paint(paintBarsAndCurve), green).size(), 5);
+    const auto dots = marksOf(diagram.paint(paintDotsAndCurve), green);
     ASSERT_EQ(dots.size(), 4);
     EXPECT_TRUE(dots[1].kind == Mark::Kind::circle && dots[1].x1 == 55 && dots[1].x2 == 1.5F);
     diagram.plot.Share(1, 1) = 0.005F; // as a 32-bit number just below
     diagram.plot.Share(3, 1) = 0.0051F;
-    EXPECT_EQ(marksOf(diagram.paint(DiagramStyle::dot), green).size(), 2);
+    EXPECT_EQ(marksOf(diagram.paint(paintDots), green).size(), 2);
 }
 
 TEST(Painting, axesAndTicksStandInEachColumnInView)
 {
     SmallDiagram diagram; // column 1: 5 to 115 with its gap, column 2: 115 to 190
     diagram.view.scale.width = 6;
-    const auto black = marksOf(diagram.paint(DiagramStyle::bar), RGB(0, 0, 0));
+    const auto black = marksOf(diagram.paint(paintBars), RGB(0, 0, 0));
     ASSERT_EQ(black.size(), 1 + 2 * 11);
     EXPECT_TRUE(black[0].x1 == 5 && black[0].y1 == 10 && black[0].y2 == 40);
     EXPECT_FLOAT_EQ(black[1].y2, diagram.view.scale.top + diagram.view.scale.height * 0.008F);
@@ -164,12 +164,12 @@ TEST(Painting, axesAndTicksStandInEachColumnInView)
 
     diagram.view.scroll = 120; // the first column has left the view
     diagram.view.scale.width = 60;
-    const auto second = marksOf(diagram.paint(DiagramStyle::bar), RGB(0, 0, 0));
+    const auto second = marksOf(diagram.paint(paintBars), RGB(0, 0, 0));
     ASSERT_FALSE(second.empty());
     EXPECT_EQ(second[0].x1, -5);
     diagram.view.zoom = 0.2F; // five times as much fits in
-    EXPECT_EQ(marksOf(diagram.paint(DiagramStyle::bar), green).size() % 4, 0);
-    EXPECT_EQ(marksOf(diagram.paint(DiagramStyle::bar), green)[0].x1, -1);
+    EXPECT_EQ(marksOf(diagram.paint(paintBars), green).size() % 4, 0);
+    EXPECT_EQ(marksOf(diagram.paint(paintBars), green)[0].x1, -1);
 
     EXPECT_TRUE(planDiagram(diagram.plot, {0, 10}, diagram.view).marks.empty());
 }

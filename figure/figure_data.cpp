@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "core/sample_names.h"
 #include "core/sheet_name.h"
+#include "core/taxon_name.h"
 #include "platform/code_page.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ FigureData figureData(const SheetTables& sheet, const std::string& path)
         }
         if (!counted)
             continue;
-        const bool named = !fields.Name.empty() && fields.Name != "---";
+        const bool named = !fields.Name.empty() && fields.Name != noText;
         taxon.name = uniqueName(seen, named ? utf8FromCodePage(fields.Name) : "Unnamed " + decimalText(slot));
         taxon.inSubtotal1 = fields.Subtotal1 == "1";
         taxon.inSubtotal2 = fields.Subtotal2 == "1";

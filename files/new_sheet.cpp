@@ -48,13 +48,10 @@ static void closeSiteName()
 
 void frmSiteName_Command1_Click()
 {
-    // 1.
     sheet.SheetHeader[1][1] = frmSiteName.Text1.text;
     showSheetName(baseName(sheet.SheetPath).value_or("Untitled"));
-    // 2, 3.
     sheet.NamesNotNumeric = !isDepth(frmSiteName.Text1.text);
     const std::string name = frmSiteName.Text1.text.empty() ? "1: ---" : frmSiteName.Text1.text;
-    // 4, 5.
     logAction("(New sample: " + name + ")");
     sheet.CurrentSample = 1;
     sheet.SampleField(1, 1) = "1";
@@ -62,11 +59,9 @@ void frmSiteName_Command1_Click()
     frmMain.Combo2.items = {name};
     ++frmMain.Combo2.itemsRevision;
     setText1(0, name); // shows in Combo2 too
-    // 6.
     frmMain.Label14[0].caption = sheet.SampleStamp(1, 1) = dateStamp(ports.clock->now());
     for (int date = 2; date <= 3; ++date)
         frmMain.Label14[date - 1].caption = sheet.SampleStamp(1, date) = noText;
-    // 7, 8.
     frmMain.Text4.text = sheet.SampleNote(1, 0) = orDashes(frmSiteName.Text2.text);
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Text5[item].text = sheet.AdditionalInfo(1, item) = orDashes(frmSiteName.Text3[item].text);
@@ -74,12 +69,10 @@ void frmSiteName_Command1_Click()
     markUnsavedWork(); // what was typed
     frmMain.mnuNew.enabled = true;
     tellOfName(name);
-    // 9.
     closeSiteName();
-    // 10.
     showSerial(1);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
-    // 11. A second stamp of the same text, as every history has it here.
+    // A second stamp of the same text, as every history has it here.
     StampAction();
 }
 

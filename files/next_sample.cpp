@@ -95,7 +95,6 @@ void moveToDepth()
 /// False if the name is refused or the user keeps the counts of the placeholder.
 bool AddSample()
 {
-    // 1.
     if (isNameTaken()) {
         ports.dialogs->ask("The sample name is already used. Choose another name.", "Error!", Buttons::ok,
                            Icon::exclamation);
@@ -104,7 +103,6 @@ bool AddSample()
     const bool takesPlaceholder = hasNoSample();
     if (takesPlaceholder && !mayEmptyPlaceholder())
         return false;
-    // 3, 4.
     sheet.LatestSerial = largestSerial();
     if (!takesPlaceholder) {
         ++sheet.SampleCount;
@@ -123,23 +121,20 @@ bool AddSample()
         if (slot > 0)
             setText2(slot, "0");
     }
-    // 11, 12. An info may have been renamed for the first sample.
+    // An info may have been renamed for the first sample.
     frmMain.Text4.text = sheet.SampleNote(sample, 0) = orDashes(frmNext.Text2.text);
     for (int item = 1; item <= infoItems; ++item) {
         frmMain.Label10[item].caption = sheet.AdditionalInfo(0, item) = frmNext.Label3[item].caption;
         frmMain.Text5[item].text = sheet.AdditionalInfo(sample, item) = orDashes(frmNext.Text3[item].text);
     }
-    // 13.
     showSerial(sample);
     sheet.TaxonRecord[0].Subtotal1 = sheet.TaxonRecord[0].Subtotal2 = "0";
     sheet.SampleTotal = 0;
     for (int total = 0; total < 3; ++total)
         setText3(total, "0");
-    // 6, 14.
     logAction("(New sample: " + name + ")");
     moveToDepth();
     hooks.ReloadDiagram();
-    // 15.
     TakeSnapshot();
     markUnsavedWork();
     frmMain.mnuNew.enabled = true;

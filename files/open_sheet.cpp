@@ -54,7 +54,7 @@ bool keepOrAsk(UnsavedWork& work)
     return !hasUnsavedWork() || work.kept || work.givenUp;
 }
 
-/// Steps 1 to 4. True if the sheet in memory may go.
+/// True if the sheet in memory may go.
 bool mayGo(bool dropped, UnsavedWork& work)
 {
     // No dialog follows a drop, so it asks wherever there is unsaved work. Names that were edited leave the
@@ -86,7 +86,7 @@ bool mayGo(bool dropped, UnsavedWork& work)
     return true;
 }
 
-/// Steps 9 to 11.
+/// Names of the sheet, its subtotals and its samples, with the last sample on show.
 void showHeads()
 {
     const int last = sheet.SampleCount;
@@ -103,7 +103,7 @@ void showHeads()
         setText3(total, "0");
 }
 
-/// Step 12: the row's key index shows its name and its count in the last sample.
+/// The row's key index shows its name and its count in the last sample.
 void showTaxon(int row)
 {
     const int keyIndex = sheet.KeyIndexOfRow[row];
@@ -141,7 +141,7 @@ void emptySheet()
     sheet.SheetUnnamed = unnamed;
 }
 
-/// Steps 8 to 15.
+/// Shows each part as soon as it is read: of a file that ends early as much as it has.
 Reading readSheet(DataSheetReader& reader, const std::string& path, const std::string& name)
 {
     const ShowingSample showing;
@@ -222,7 +222,7 @@ void showTexts()
     }
 }
 
-/// Steps 16 to 29, after the file has been closed.
+/// After the file has been closed: totals, curve, offers and marks follow what was read.
 void settle()
 {
     ArrangeTaxonCells();
@@ -247,11 +247,12 @@ void settle()
     AutoBackup();
     ApplyItalics();
 
-    constexpr int designWidth = 7545;
+    constexpr int widthAtFifty = 7545; // and the whole screen at the most samples
     sheet.DiagramHeight = 0;
     sheet.DiagramWidth = 0;
     if (sheet.SampleCount > 50)
-        sheet.DiagramWidth = designWidth + (ports.screenWidth - designWidth) * (sheet.SampleCount - 50) / 200;
+        sheet.DiagramWidth =
+            widthAtFifty + (ports.screenWidth - widthAtFifty) * (sheet.SampleCount - 50) / 200;
     TestSampleNames();
     if (sheet.TemplateOpened)
         showSiteName();

@@ -149,7 +149,7 @@ TEST_F(SheetFiles, openingShowsTheLastSampleAndForgetsTheSheetBefore)
     EXPECT_EQ(frmMain.Text4.text, "note 2");
     EXPECT_EQ(frmMain.caption, "TallyStrata 3.2.5 - [Lake1]");
     EXPECT_EQ(lastAction(), "(Open) /home/Lake1.csv");
-    EXPECT_TRUE(frmMain.mnuBar.enabled && frmMain.Command5[1].enabled);
+    EXPECT_TRUE(frmMain.mnuDiagramStyles.enabled && frmMain.Command5[1].enabled);
     EXPECT_FALSE(frmMain.Command5[0].enabled || frmMain.mnuSave.enabled || sheet.NamesNotNumeric);
     EXPECT_EQ(files.contents.count(folder + "Master_back_up.csv"), 1U);
     EXPECT_TRUE(sheet.SheetPristine && sheet.FreshSheet);

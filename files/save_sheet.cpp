@@ -43,14 +43,14 @@ std::string proposedName(SaveMode mode)
     return sheet.SheetPath.empty() ? sheet.ProposedPath : sheet.SheetPath;
 }
 
-/// Path A: the dialog was cancelled.
+/// The dialog was cancelled.
 void endCancelled()
 {
     sheet.SaveResult = 2;
     endProgress();
 }
 
-/// Path B: anything else that went wrong. One message stands for all.
+/// Anything else that went wrong. One message stands for all.
 void endFailed()
 {
     sheet.SaveResult = 2;

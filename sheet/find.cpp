@@ -124,7 +124,7 @@ std::string FindForm::Capitalise(std::string text)
 void FindForm::Display()
 {
     const std::string name = List1.items[static_cast<std::size_t>(List1.chosen)];
-    // 1, 2. The last match has the page and the count.
+    // The last match has the page and the count.
     reset();
     for (int slot = 1; slot <= taxonSlots; ++slot) {
         if (frmMain.Text1[slot].text != name)
@@ -133,18 +133,15 @@ void FindForm::Display()
         frmMain.SSTab1 = layerOf(slot);
         sheet.FoundSlot = slot;
     }
-    // 3, 4.
     for (const int key : shiftKeysFor(sheet.FoundSlot))
         Command1[key].backColor = keyToTake;
     for (const int position : positionsOf(keyNumberOf(sheet.FoundSlot)))
         Command1[position].backColor = keyToTake;
-    // 5.
     Command3.enabled = true;
 }
 
 void FindForm::SelectTaxon()
 {
-    // 1.
     const int slot = sheet.FoundSlot;
     if (slot == 0)
         return;
@@ -153,14 +150,12 @@ void FindForm::SelectTaxon()
         frmMain.notice = "No key counts this taxon alone. See the key settings.";
         return;
     }
-    // 2.
     const std::int32_t before = sheet.ActionCount;
     sheet.Layer = layerOf(slot);
     DispatchKey(code, 0);
     const bool counted = sheet.ActionCount != before;
-    // 3.
     unload();
-    // 4. After a No to the question about an older sample nothing was counted, so nothing is marked.
+    // After a No to the question about an older sample nothing was counted, so nothing is marked.
     if (!counted)
         return;
     for (int other = 1; other <= taxonSlots; ++other)
@@ -184,16 +179,14 @@ void mnuFind_Click()
 
 void frmFind_Text1_Change()
 {
-    // 1.
     reset();
-    // 2.
     ListBox& list = frmFind.List1;
     list = ListBox();
     frmFind.Command3.enabled = false;
     const std::string text = frmFind.Text1.text;
     if (text.empty())
         return;
-    // 3, 4. Only a small letter at the beginning is forgiven.
+    // Only a small letter at the beginning is forgiven.
     const std::string capitalised = FindForm::Capitalise(text);
     for (const bool longer : {false, true})
         for (int slot = 1; slot <= taxonSlots; ++slot) {
@@ -206,7 +199,6 @@ void frmFind_Text1_Change()
         return;
     list.chosen = 0;
     frmFind.Command3.enabled = true;
-    // 5.
     if (list.items.size() == 1)
         frmFind.Display();
 }

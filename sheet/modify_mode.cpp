@@ -13,28 +13,22 @@
 
 void mnuStartAmend_Click()
 {
-    // 1.
     frmMain.Text4.enabled = true;
     frmMain.Text4.text = sheet.SampleNote(sheet.CurrentSample, 0);
-    // 2.
     for (int item = 1; item <= infoItems; ++item) {
         frmMain.Label10[item].visible = frmMain.Label10[item].enabled = true;
         frmMain.Text5[item].enabled = true;
     }
-    // 3.
     AmendingOnOff(0);
 }
 
 void mnuFinishAmend_Click()
 {
     leaveEditedBox(); // the button and the menu leave the focus in the box
-    // 1.
     frmMain.Text4.enabled = false;
     for (int item = 1; item <= infoItems; ++item)
         frmMain.Label10[item].enabled = frmMain.Text5[item].enabled = false; // boxes keep their captions
-    // 2.
     ApplyItalics();
-    // 3.
     AmendingOnOff(1);
 }
 

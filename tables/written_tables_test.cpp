@@ -16,7 +16,7 @@ void write(const std::string& name, SheetTables sheet)
     const auto file = [&](const std::string& ending, const std::string& text) {
         const std::filesystem::path path = folder / (name + ending);
         std::ofstream(path, std::ios::binary) << text;
-        EXPECT_EQ(bytesOf(path), text);
+        EXPECT_EQ(bytesOf(path.string()), text);
     };
     file(".csv", dataSheetText(sheet, *sampleTotals(sheet)));
     file("_counts.csv", countsTable(sheet));

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Fails when an include goes against the rooms and arrows that stand at the top of docs/architecture.md, or when
-something else than a .cpp of a handler reaches for the program's own records."""
+something else than a .cpp of a handler reaches for the program's own records, or when an object of the whole process
+is missing there."""
 
 import pathlib
 import re
@@ -39,6 +40,12 @@ for source in sources:
             faults.append(f"{path}: {here} may not include {there} ({included})")
         if included in instances and path.endswith(".h") and not path.endswith("_test.h"):
             faults.append(f"{path}: a header may not reach for the program's records ({included})")
+
+page = (root / "docs/architecture.md").read_text()
+for header in root.glob("*/**/*.h"):
+    for kind, name in re.findall(r"^extern (?!const )(\w+) (\w+);", header.read_text(encoding="utf-8"), re.M):
+        if room_of(header.relative_to(root).as_posix()) not in ("", "trials") and f"`{name}`" not in page:
+            faults.append(f"{header.relative_to(root)}: {name} is missing among the objects of docs/architecture.md")
 
 computing = re.findall(r"^- `(\S+)`", (root / "docs/architecture.md").read_text(), re.M)
 assert computing, "no list of computing files found in docs/architecture.md"

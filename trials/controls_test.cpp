@@ -407,9 +407,12 @@ void Controls::expectHandlers()
     for (const auto& entry : bound->entries()) {
         const std::string name = entry.action->objectName().toStdString();
         EXPECT_TRUE(entry.clicked) << name;
-        if (nameOf(entry.clicked.address()).empty()) { // a style of the diagram: the entry itself tells
-            entry.action->trigger();
-            EXPECT_TRUE(entry.record != nullptr && entry.record->checked) << name;
+        const auto* const style = std::find_if(std::begin(diagramStyles), std::end(diagramStyles),
+                                               [&](const DiagramStyle& one) { return one.name == name; });
+        if (style != std::end(diagramStyles)) {
+            EXPECT_EQ(nameOf(entry.clicked.address()),
+                      GetParam() == "frmMain" ? "mnuDiagramStyle_Click" : "frmDiagram_Style_Click");
+            EXPECT_EQ(entry.clicked.value(), style - diagramStyles) << name;
             continue;
         }
         expectHandler(GetParam(), name, "_Click", entry.clicked.address());

@@ -25,6 +25,12 @@ std::string utf8(const fs::path& path)
     return {bytes.begin(), bytes.end()};
 }
 
+/// As the system takes a path of more than 260 letters.
+fs::path deepPath(const std::string& utf8)
+{
+    return L"\\\\?\\" + fs::path(std::u8string(utf8.begin(), utf8.end())).make_preferred().wstring();
+}
+
 class DiskOfWindows : public ::testing::Test {
 protected:
     DiskOfWindows() { fs::create_directories(folder); }
@@ -119,13 +125,15 @@ TEST_F(DiskOfWindows, aPathMayBeLong)
     std::string deep = utf8(folder);
     for (int level = 0; level < 12; ++level) {
         deep += "/a folder with a long and telling name";
-        fs::create_directory(fs::path(L"\\\\?\\" + fs::path(deep).make_preferred().wstring()));
+        fs::create_directory(deepPath(deep));
     }
     const std::string file = deep + "/sheet.csv";
     ASSERT_GT(file.size(), 300U);
     EXPECT_TRUE(disk::write(file, "old") && disk::replace(file, "new") && disk::append(file, "er"));
-    EXPECT_EQ(text(fs::path(L"\\\\?\\" + fs::path(file).make_preferred().wstring())), "newer");
-    fs::remove_all(fs::path(L"\\\\?\\" + folder.wstring()));
+    EXPECT_EQ(text(deepPath(file)), "newer");
+    EXPECT_TRUE(disk::remove(file));
+    for (; deep != utf8(folder); deep.erase(deep.rfind('/')))
+        RemoveDirectoryW(deepPath(deep).c_str());
 }
 
 TEST_F(DiskOfWindows, aLockIsHeldOnceAndLeavesNothing)

@@ -117,7 +117,7 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
 
     sheet.SampleCount = 2;
     sheet.WarnNotLatest = false;
-    window->onEvent([] { frmMain.mnuCurve.enabled = true; });
+    window->onEvent([] { frmMain.mnuDiagramStyles.enabled = true; });
     named<QAction>("mnuCurve")->trigger();
     const auto isActive = [](const char* name) {
         return QApplication::activeWindow() != nullptr && QApplication::activeWindow()->objectName() == name;

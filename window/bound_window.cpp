@@ -263,6 +263,8 @@ QAction* BoundWindow::addEntry(QMenu& menu, const EntryRow& row)
     entries_.push_back({action, row.clicked, row.record});
     if (row.record != nullptr)
         bindAction(action, *row.record);
+    if (row.chosen != nullptr)
+        choices_.push_back({action, row.chosen, *row.clicked.value()});
     return action;
 }
 
@@ -280,6 +282,8 @@ void BoundWindow::showControls()
     showAll(options_);
     showAll(checks_);
     showAll(actions_);
+    for (const Choice& one : choices_)
+        one.action->setChecked(*one.chosen == one.number);
     showAll(bars_);
     showAll(sliders_);
     showAll(scrolls_);

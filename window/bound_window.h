@@ -67,6 +67,12 @@ protected:
     void runPassing(const std::function<void()>& handler);
 
 private:
+    /// Of several entries one is checked: that whose number is the chosen one.
+    struct Choice {
+        QAction* action;
+        const int* chosen;
+        int number;
+    };
     void bindWidget(QWidget* widget, const char* name, int index);
     void bindText(QWidget* widget, TextBox& record, Control control);
     void bindButton(QWidget* widget, Control control);
@@ -88,6 +94,7 @@ private:
     QList<OptionBinding> options_;
     QList<CheckBinding> checks_;
     QList<ActionBinding> actions_;
+    std::vector<Choice> choices_;
     QList<BarBinding> bars_;
     QList<SliderBinding> sliders_;
     QList<ScrollBinding> scrolls_;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 constexpr int noIndex = -1; ///< of a control that is not one of several
 
@@ -114,4 +115,9 @@ struct EntryRow {
     Handler clicked = {};
     bool checkable = false;
     bool hidden = false;
+    const int* chosen = nullptr; ///< one of several: checked while this is what `clicked` is given
 };
+
+/// The styles of the diagram, as they stand in both windows' menus: `clicked` is given the style's number.
+std::vector<EntryRow> styleEntries(const char* menu, MenuEntry* record, void (*clicked)(int style),
+                                   const int* chosen = nullptr);

@@ -6,6 +6,7 @@
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
 #include "platform/qt/text.h"
+#include "platform/twips.h"
 #include "window/bring_forward.h"
 #include "window/elided_label.h"
 #include "window/main_window.h"
@@ -30,11 +31,9 @@
 
 namespace {
 
-constexpr double twipsPerPixel = 15;
-
 int pixels(int twips)
 {
-    return qRound(twips / twipsPerPixel);
+    return qRound(twips / double{twipsPerPixel});
 }
 
 std::vector<ControlRow> diagramControls()
@@ -112,7 +111,7 @@ DiagramWindow::DiagramWindow(MainWindow& main) : BoundWindow(*this, main, diagra
     parting_->setFrameShape(QFrame::VLine);
 
     frmDiagram.chromeHeight =
-        static_cast<int>((menuBar()->sizeHint().height() + statusBar()->sizeHint().height()) * twipsPerPixel);
+        (menuBar()->sizeHint().height() + statusBar()->sizeHint().height()) * twipsPerPixel;
     setMinimumSize(150, 120); // below that the window says itself that it is too small
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
         if (focused != nullptr && focused->window() == this)
@@ -320,12 +319,9 @@ void DiagramWindow::resized()
     resizeWaits_ = true;
     QTimer::singleShot(0, this, [this] {
         resizeWaits_ = false;
-        frmDiagram.chromeWidth = static_cast<int>((width() - centralWidget()->width()) * twipsPerPixel);
-        frmDiagram.chromeHeight = static_cast<int>((height() - centralWidget()->height()) * twipsPerPixel);
-        runEvent([this] {
-            frmDiagram_Resize(static_cast<int>(width() * twipsPerPixel),
-                              static_cast<int>(height() * twipsPerPixel));
-        });
+        frmDiagram.chromeWidth = (width() - centralWidget()->width()) * twipsPerPixel;
+        frmDiagram.chromeHeight = (height() - centralWidget()->height()) * twipsPerPixel;
+        runEvent([this] { frmDiagram_Resize(width() * twipsPerPixel, height() * twipsPerPixel); });
     });
 }
 

@@ -15,12 +15,6 @@
 
 namespace {
 
-template <DiagramStyle style>
-void chooseStyle()
-{
-    frmDiagram_Style_Click(style);
-}
-
 const std::vector<MenuRow> menus = {{"mnuBasis", "% &Basis", nullptr},
                                     {"mnuDrawMode", "&Style", nullptr},
                                     {"mnuColour", "Colour", "mnuDrawMode"},
@@ -38,14 +32,6 @@ std::vector<EntryRow> entryTable()
         {"mnuBasis", "mnuSub2", "Subtotal-2", &f.mnuSub2, {frmDiagram_Basis_Click, 2}, true},
         {"mnuBasis", "mnuAll", "All total", &f.mnuAll, {frmDiagram_Basis_Click, 0}, true},
 
-        {"mnuDrawMode", "mnuBar", "&Bar", &f.mnuBar, chooseStyle<DiagramStyle::bar>, true},
-        {"mnuDrawMode", "mnuArea", "&Curve", &f.mnuArea, chooseStyle<DiagramStyle::curve>, true},
-        {"mnuDrawMode", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, chooseStyle<DiagramStyle::dot>, true},
-        {"mnuDrawMode"},
-        {"mnuDrawMode", "mnuCurve", "Bar and curve", &f.mnuCurve, chooseStyle<DiagramStyle::barAndCurve>,
-         true},
-        {"mnuDrawMode", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve,
-         chooseStyle<DiagramStyle::dotAndCurve>, true},
         {"mnuDrawMode"},
         {"mnuColour", "mnuDefaultDGColour", "Default", nullptr, mnuDefaultDGColour_Click},
         {"mnuColour", "mnuCustomDGColour", "Custom", nullptr, mnuCustomDGColour_Click},
@@ -91,7 +77,11 @@ std::vector<EntryRow> entryTable()
 
 void DiagramWindow::makeMenus()
 {
-    BoundWindow::makeMenus(*menuBar(), menus, entryTable());
+    std::vector<EntryRow> entries =
+        styleEntries("mnuDrawMode", nullptr, frmDiagram_Style_Click, &frmDiagram.style);
+    for (const EntryRow& entry : entryTable())
+        entries.push_back(entry);
+    BoundWindow::makeMenus(*menuBar(), menus, entries);
 }
 
 /// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.

@@ -4,6 +4,7 @@
 #include "core/endings.h"
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "files/open_sheet.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"

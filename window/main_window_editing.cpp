@@ -3,6 +3,7 @@
 
 #include "core/main_screen.h"
 #include "core/sheet_state.h"
+#include "core/taxon_name.h"
 #include "platform/qt/text.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/modify_mode.h"
@@ -38,7 +39,7 @@ void makeEditable(QLineEdit* box, bool editable)
 /// What stands in the box of a row without a taxon, and of a sheet without a sample.
 bool isNoName(const QString& name)
 {
-    return name == "---" || name == "-9999";
+    return name == noText || name == "-9999";
 }
 
 QPalette modifyColours(QPalette colours, Colour sheet)

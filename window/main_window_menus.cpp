@@ -98,12 +98,6 @@ std::vector<EntryRow> entryTable()
         {"mnuEdit"},
         {"mnuEdit", "mnuFind", "Find", &f.mnuFind, mnuFind_Click},
 
-        {"mnuDiagram", "mnuBar", "&Bar", &f.mnuBar, mnuBar_Click},
-        {"mnuDiagram", "mnuArea", "&Curve", &f.mnuArea, mnuArea_Click},
-        {"mnuDiagram", "mnuDot", "&Dot (>0.5% only)", &f.mnuDot, mnuDot_Click},
-        {"mnuDiagram"},
-        {"mnuDiagram", "mnuCurve", "Bar and curve", &f.mnuCurve, mnuCurve_Click},
-        {"mnuDiagram", "mnuDotCurve", "Dot and curve", &f.mnuDotCurve, mnuDotCurve_Click},
         {"mnuDiagram"},
         {"mnuDiagram", "mnuFigure", "Figure...", nullptr, mnuFigure_Click},
 
@@ -157,7 +151,11 @@ std::vector<EntryRow> entryTable()
 
 void MainWindow::makeMenus()
 {
-    BoundWindow::makeMenus(*menuBar(), menus, entryTable());
+    std::vector<EntryRow> entries =
+        styleEntries("mnuDiagram", &frmMain.mnuDiagramStyles, mnuDiagramStyle_Click);
+    for (const EntryRow& entry : entryTable())
+        entries.push_back(entry);
+    BoundWindow::makeMenus(*menuBar(), menus, entries);
     bindAction(menuNamed("mnuPercent")->menuAction(), frmMain.mnuPercent); // one entry of its own
     connect(menuNamed("mnuEdit"), &QMenu::aboutToShow, this, [this] { onPassing(mnuEdit_Open); });
     makeRowMenu();

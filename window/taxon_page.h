@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/twips.h"
+
 #include <QWidget>
 
 class NameBox;
@@ -47,9 +49,9 @@ private:
     QColor blockColour() const;
 
     int firstSlot_;
-    QList<int> framed_;               ///< slots
-    double pixelsPerTwip_ = 1.0 / 15; ///< of heights and letters
-    double pixelsAcross_ = 1.0 / 15;  ///< of widths
+    QList<int> framed_;                          ///< slots
+    double pixelsPerTwip_ = 1.0 / twipsPerPixel; ///< of heights and letters
+    double pixelsAcross_ = 1.0 / twipsPerPixel;  ///< of widths
     bool keyNamesShown_ = false;
     QList<int> placed_; ///< what the cells were last placed by
     QList<NameBox*> names_;

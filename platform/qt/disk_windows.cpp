@@ -47,13 +47,15 @@ bool isReadOnly(const std::wstring& path)
     return marks != INVALID_FILE_ATTRIBUTES && (marks & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
+constexpr DWORD quotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which not all headers have
+
 constexpr DWORD forReaders = FILE_SHARE_READ;
 constexpr DWORD forAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-class OpenFile {
+class HeldFile {
 public:
     /// `how`: one of CREATE_NEW, OPEN_ALWAYS, OPEN_EXISTING.
-    OpenFile(const std::wstring& path, DWORD access, DWORD shared, DWORD how,
+    HeldFile(const std::wstring& path, DWORD access, DWORD shared, DWORD how,
              DWORD marks = FILE_ATTRIBUTE_NORMAL)
     {
         failure_ = withPatience([&] {
@@ -61,9 +63,9 @@ public:
             return file_ != INVALID_HANDLE_VALUE;
         });
     }
-    ~OpenFile() { close(); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
+    ~HeldFile() { close(); }
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
 
     explicit operator bool() const { return file_ != INVALID_HANDLE_VALUE; }
     bool isMissing() const { return failure_ == ERROR_FILE_NOT_FOUND || failure_ == ERROR_PATH_NOT_FOUND; }
@@ -79,7 +81,7 @@ public:
         room.AllocationSize.QuadPart = std::max(before, static_cast<LONGLONG>(bytes));
         return SetFileInformationByHandle(file_, FileAllocationInfo, &room, sizeof room) != 0 ||
                (GetLastError() != ERROR_DISK_FULL && GetLastError() != ERROR_HANDLE_DISK_FULL &&
-                GetLastError() != ERROR_DISK_QUOTA_EXCEEDED); // else it finds out while it writes
+                GetLastError() != quotaExceeded); // else it finds out while it writes
     }
     bool write(std::string_view bytes, LONGLONG at) const
     {
@@ -147,10 +149,10 @@ std::string nameBeside(const std::string& path)
 /// A held file that the system removes when it is closed, by whomever and however.
 class FileLock : public disk::Lock {
 public:
-    explicit FileLock(std::unique_ptr<OpenFile> file) : file_(std::move(file)) {}
+    explicit FileLock(std::unique_ptr<HeldFile> file) : file_(std::move(file)) {}
 
 private:
-    std::unique_ptr<OpenFile> file_;
+    std::unique_ptr<HeldFile> file_;
 };
 
 } // namespace
@@ -160,7 +162,10 @@ private:
 
 bool disk::write(const std::string& path, std::string_view bytes)
 {
-    OpenFile file(wide(path), GENERIC_READ | GENERIC_WRITE, forReaders, OPEN_ALWAYS);
+    const std::wstring target = wide(path);
+    if (isReadOnly(target)) // an administrator of the disk's own system could
+        return false;
+    HeldFile file(target, GENERIC_READ | GENERIC_WRITE, forReaders, OPEN_ALWAYS);
     const auto before = file ? file.size() : std::nullopt;
     const auto old = before ? file.text() : std::nullopt;
     if (!before || !file.reserveRoom(*before, bytes.size()))
@@ -176,7 +181,7 @@ bool disk::write(const std::string& path, std::string_view bytes)
 
 bool disk::create(const std::string& path)
 {
-    const OpenFile file(wide(path), GENERIC_READ | GENERIC_WRITE, forAll, OPEN_ALWAYS);
+    const HeldFile file(wide(path), GENERIC_READ | GENERIC_WRITE, forAll, OPEN_ALWAYS);
     return file && file.sync();
 }
 
@@ -184,7 +189,7 @@ bool disk::replace(const std::string& path, std::string_view bytes)
 {
     const std::wstring target = wide(path);
     const std::wstring beside = wide(nameBeside(path));
-    OpenFile file(beside, GENERIC_WRITE, forReaders, CREATE_NEW);
+    HeldFile file(beside, GENERIC_WRITE, forReaders, CREATE_NEW);
     if (!file)
         return false;
     const auto takesTheName = [&] {
@@ -201,7 +206,7 @@ bool disk::replace(const std::string& path, std::string_view bytes)
 
 bool disk::append(const std::string& path, std::string_view bytes)
 {
-    OpenFile file(wide(path), GENERIC_WRITE, forAll, OPEN_ALWAYS);
+    HeldFile file(wide(path), GENERIC_WRITE, forAll, OPEN_ALWAYS);
     const auto before = file ? file.size() : std::nullopt;
     if (!before)
         return false;
@@ -213,7 +218,7 @@ bool disk::append(const std::string& path, std::string_view bytes)
 
 bool disk::settle(const std::string& path)
 {
-    OpenFile file(wide(path), GENERIC_WRITE, forAll, OPEN_EXISTING);
+    HeldFile file(wide(path), GENERIC_WRITE, forAll, OPEN_EXISTING);
     if (!file)
         return file.isMissing(); // removed meanwhile
     return file.sync() && file.close();
@@ -233,7 +238,7 @@ std::unique_ptr<disk::Lock> disk::tryLock(const std::string& path)
     const std::wstring target = wide(path);
     if (isReadOnly(target)) // left by a copy of the folder
         SetFileAttributesW(target.c_str(), FILE_ATTRIBUTE_NORMAL);
-    auto file = std::make_unique<OpenFile>(target, GENERIC_WRITE | DELETE, forReaders, OPEN_ALWAYS,
+    auto file = std::make_unique<HeldFile>(target, GENERIC_WRITE | DELETE, forReaders, OPEN_ALWAYS,
                                            FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT);
     return *file ? std::make_unique<FileLock>(std::move(file)) : nullptr;
 }

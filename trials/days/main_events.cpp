@@ -114,11 +114,11 @@ std::vector<DayEvent> eventsOfMainWindow()
         entry("mnuStartAmend", 3, mnuStartAmend_Click, &f.mnuStartAmend),
         entry("mnuFinishAmend", 12, mnuFinishAmend_Click, &f.mnuFinishAmend),
         entry("mnuFind", 6, mnuFind_Click, &f.mnuFind),
-        entry("mnuBar", 2, mnuBar_Click, &f.mnuBar),
-        entry("mnuArea", 2, mnuArea_Click, &f.mnuArea),
-        entry("mnuDot", 2, mnuDot_Click, &f.mnuDot),
-        entry("mnuCurve", 2, mnuCurve_Click, &f.mnuCurve),
-        entry("mnuDotCurve", 2, mnuDotCurve_Click, &f.mnuDotCurve),
+        {"mnuDiagramStyles", 10, Effect::none, [] { return frmMain.mnuDiagramStyles.enabled; },
+         [](Session& s) {
+             constexpr int styles = std::size(diagramStyles);
+             s.fromMenu([style = s.chance.below(styles)] { mnuDiagramStyle_Click(style); });
+         }},
         entry("mnuKeyCodeReader", 2, mnuKeyCodeReader_Click),
         entry("mnuInitial", 2, mnuInitial_Click),
         entry("mnuSubtotal", 5, mnuSubtotal_Click),
