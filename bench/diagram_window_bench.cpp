@@ -70,8 +70,8 @@ double repaints()
     for (std::size_t i = 0; i < std::size(diagramStyles); ++i) {
         const bool dots =
             diagramStyles[i].paintColumn == paintDots || diagramStyles[i].paintColumn == paintDotsAndCurve;
-        report(("repaint of all columns, " + std::string(diagramStyles[i].caption)).c_str(),
-               median(painted[i]), median(plain), dots ? 12 : 1.5);
+        report(("repaint of all columns, " + std::string(diagramStyles[i].name)).c_str(), median(painted[i]),
+               median(plain), dots ? 12 : 1.5);
     }
     return median(plain);
 }

@@ -72,7 +72,7 @@ int main(int argc, char* argv[])
     }
     report("plan the fullest figure", median(planning), median(sums), 25);
     report("Grimm's clusters of 250 samples of 135 taxa", median(clustering), median(sums), 5);
-    report("plan it and paint the preview", median(showing), median(plain), 3);
-    report("its PDF file", median(writing), median(plain), 12);
+    report("plan it and paint the preview", median(showing), median(plain), 5);
+    report("its PDF file", median(writing), median(plain), 20);
     return 0;
 }

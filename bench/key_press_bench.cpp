@@ -78,7 +78,7 @@ int main()
 {
     const Times few = keyPresses(1);
     const Times many = keyPresses(250);
-    report("key press to state, 250 samples, p99", p99(many.presses), p99(many.sums), 4);
+    report("key press to state, 250 samples, p99", p99(many.presses), p99(many.sums), 6);
     report("key press to state, 250 samples, to 1 sample", median(many.presses), median(few.presses), 1.5);
     return 0;
 }

@@ -4,6 +4,7 @@
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "files/fingerprint.h"
+#include "files/recorded_sheet.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
 
@@ -131,7 +132,7 @@ LabSample& sampleToFill(int sample)
 void readLaboratory()
 {
     laboratory = {};
-    if (sheet.SheetPath.empty() || sheet.TemplateOpened)
+    if (ownPath(sheet).empty())
         return;
     laboratory.path = labPathOf(sheet.SheetPath);
     const auto bytes = ports.files->read(laboratory.path, labLimit);
