@@ -146,7 +146,7 @@ TEST_F(ForeignFiles, whatWasNotReadIsToldAtTheFootUntilTheSheetIsTouched)
     for (const auto& [path, text, told, inPart] : cases) {
         openAs(path, text);
         EXPECT_EQ(frmMain.readingNotice, told);
-        EXPECT_EQ(sheet.ReadInPart, inPart) << path;
+        EXPECT_EQ(sheet.NotItsFile, inPart) << path;
         EXPECT_EQ(sheet.SheetPath, path);
         EXPECT_EQ(shown(1), stored(1)) << path;
     }

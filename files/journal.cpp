@@ -27,7 +27,7 @@ std::optional<JournalHead> readHead(std::string_view text)
     const auto checksum = wholeField((*fields)[6]);
     if (!number || !size || !checksum)
         return std::nullopt;
-    JournalHead head{{*number, (*fields)[3], std::nullopt, ""}, (*fields)[2] == "after the copy"};
+    JournalHead head{{*number, (*fields)[3], std::nullopt, "", ""}, (*fields)[2] == "after the copy"};
     if ((*fields)[4] == "file")
         head.label.file = Fingerprint{*size, *checksum};
     return head;
@@ -107,17 +107,19 @@ std::optional<Journal> readJournal(std::string_view text, std::optional<std::uin
     return journal;
 }
 
-std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet)
+BroughtCounts bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet)
 {
     SampleTable<std::int32_t, taxonSlots + 1> before = sheet.Count;
     const int columnsBefore = sheet.SampleCount;
+    BroughtCounts brought;
     for (const JournalLine& line : lines)
-        if (const int sample = columnOf(line, sheet))
+        if (const int sample = columnOf(line, sheet)) {
             sheet.Count(sample, line.slot) = line.count;
-    std::int64_t difference = 0;
+            brought.lastSample = sample;
+        }
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         for (int slot = 1; slot <= taxonSlots; ++slot)
-            difference += std::abs(std::int64_t(sheet.Count(sample, slot)) -
-                                   (sample > columnsBefore ? 0 : before(sample, slot)));
-    return difference;
+            brought.individuals += std::abs(std::int64_t(sheet.Count(sample, slot)) -
+                                            (sample > columnsBefore ? 0 : before(sample, slot)));
+    return brought;
 }

@@ -39,7 +39,10 @@ struct Journal {
 /// under the last head. Nothing if there is no such head.
 std::optional<Journal> readJournal(std::string_view text, std::optional<std::uint64_t> copy);
 
+struct BroughtCounts {
+    std::int64_t individuals = 0; ///< by which the sheet differs now, more and fewer added up
+    int lastSample = 0;           ///< column of the last line; 0: none
+};
 /// Puts the counts into a sheet. A sample is found by its serial number and name, else by its serial number;
-/// one that the sheet lacks becomes a column of it as long as there is room. Returns how many individuals
-/// the counts differ by, more and fewer added up.
-std::int64_t bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet);
+/// one that the sheet lacks becomes a column of it as long as there is room.
+BroughtCounts bringCounts(const std::vector<JournalLine>& lines, SheetTables& sheet);

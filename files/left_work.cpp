@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/sheet_name.h"
 #include "core/sheet_state.h"
+#include "core/show_sample.h"
 #include "files/data_sheet_reader.h"
 #include "files/fingerprint.h"
 #include "files/journal.h"
@@ -13,11 +14,9 @@
 #include "files/open_sheet.h"
 #include "files/recovery.h"
 #include "files/recovery_copy.h"
-#include "files/sheet_on_screen.h"
 #include "files/sheet_text.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
-#include "sheet/file_location.h"
 
 #include <algorithm>
 
@@ -64,6 +63,15 @@ std::int64_t individualsIn(const SheetTables& tables)
     return sum;
 }
 
+/// The last column if no sample has the serial number.
+int columnOfSerial(const std::string& serial, const SheetTables& tables)
+{
+    for (int sample = 1; sample <= tables.SampleCount; ++sample)
+        if (tables.SampleField(sample, 1) == serial)
+            return sample;
+    return tables.SampleCount;
+}
+
 std::string sheetTextOf(SheetTables& tables)
 {
     tables.SheetHeader[1][2] = "Last modified (dd/mm/yyyy):";
@@ -108,17 +116,13 @@ void takeUp(LeftWork& work, const LeftFiles& left)
 {
     const RecoveryLabel& label = work.label;
     const bool named = !label.path.empty() && !work.fileIsAnother;
-    openSheetText(sheetTextOf(*work.tables), recoveryCopyPath(left.place), label.file);
-    sheet.SheetPath = named ? label.path : std::string();
-    if (!named)
-        sheet.KnownFile.reset();
-    sheet.ProposedPath = work.fileIsAnother ? recoveredPath(label.path) : std::string();
-    sheet.SheetUnnamed = !named;
-    showSheetName(baseName(sheet.SheetPath).value_or("Untitled"));
-    frmMain.Text6.text = named ? toCodePageFromUtf8(sheet.SheetPath) : "File location: ---";
-    WrapFileLocation();
-    sheet.FreshSheet = false;
-    markUnsavedWork();
+    if (named)
+        openUnsavedText(sheetTextOf(*work.tables), label.path, label.file);
+    else
+        openUnsavedText(sheetTextOf(*work.tables));
+    if (work.fileIsAnother)
+        sheet.ProposedPath = recoveredPath(label.path);
+    showSample(work.sample);
     logAction("(Recovery copy taken up: " + std::to_string(work.fromJournal) + " counts from the journal)");
     goOnFromCopy(left.place, label, left.copy.has_value(), left.journal.has_value(), work.journalGoesOn);
     copyBeforeOverwriting(); // one copy that holds what came from the journal
@@ -202,12 +206,16 @@ std::optional<LeftWork> understandLeftWork(const std::optional<std::string>& cop
     }
     work.journalGoesOn = lines.has_value();
     if (lines && !lines->lines.empty()) {
-        work.fromJournal = bringCounts(lines->lines, *work.tables);
+        const BroughtCounts brought = bringCounts(lines->lines, *work.tables);
+        work.fromJournal = brought.individuals;
+        work.sample = brought.lastSample;
         work.label.lastCounted = lines->lines.back().clock;
     }
     if (!work.label.path.empty() && fingerprintOfFile(work.label.path) != work.label.file)
         work.fileIsAnother = true;
     work.individuals = individualsIn(*work.tables);
+    if (work.sample == 0)
+        work.sample = columnOfSerial(work.label.shownSerial, *work.tables);
     return work;
 }
 

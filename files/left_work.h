@@ -13,6 +13,7 @@ struct LeftWork {
     std::unique_ptr<SheetTables> tables; ///< the sheet with all its counts
     RecoveryLabel label;                 ///< of the copy, or of a journal without one; lastCounted of both
     std::int64_t individuals = 0;        ///< of all samples
+    int sample = 0;                      ///< column that was being counted
     std::int64_t fromJournal = 0;        ///< individuals that were only in the journal
     bool journalGoesOn = false;          ///< the journal is that of the copy, or there is only the journal
     bool fileIsAnother = false;          ///< the sheet's file is gone or holds something else by now

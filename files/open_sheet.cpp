@@ -285,6 +285,8 @@ void open(const std::function<std::optional<std::string>()>& choose, bool droppe
         else
             frmMain.notice = "The file could not be read.";
     }
+    if (!replaced) // the sheet that stays is still none of the template's own
+        sheet.TemplateOpened = false;
     endProgress();
     ApplyItalics();
     TestSampleNames();
@@ -318,7 +320,10 @@ bool openSheetText(const std::string& text, const std::string& path, const std::
     } else {
         endEarly();
     }
-    sheet.ReadInPart = reading == Reading::percentages || reading == Reading::failed;
+    const bool inPart = reading == Reading::percentages || reading == Reading::failed;
+    sheet.NotItsFile = inPart || sheet.TemplateOpened;
+    if (reading == Reading::failed)
+        sheet.TemplateOpened = false;
     frmMain.readingNotice = reading == Reading::percentages
                                 ? "This is a percentage table: what stands in the "
                                   "cells are rounded percentages, not counts."
@@ -331,10 +336,10 @@ bool openSheetText(const std::string& text, const std::string& path, const std::
     return true;
 }
 
-void openUnsavedText(const std::string& text)
+void openUnsavedText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file)
 {
-    openSheetText(text, {}, std::nullopt);
-    sheet.SheetUnnamed = true;
+    openSheetText(text, path, file);
+    sheet.SheetUnnamed = path.empty();
     sheet.FreshSheet = false;
     markUnsavedWork();
 }

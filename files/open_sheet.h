@@ -14,6 +14,8 @@ void mnuOpen_Click();
 bool openSheetText(const std::string& text, const std::string& path, const std::optional<Fingerprint>& file);
 /// The same for a file that was dropped onto the window, questions included. `path`: UTF-8.
 void openDropped(const std::string& path);
-/// Replaces the sheet in memory by one that no file holds yet: it has no name and is work to save. `text`: of
-/// a data sheet, in the code page.
-void openUnsavedText(const std::string& text);
+/// Replaces the sheet in memory by one that is work to save. `text`: of a data sheet, in the code page;
+/// `path`: the file in which it is to be saved, and `file` what that holds until then; without them it has no
+/// name.
+void openUnsavedText(const std::string& text, const std::string& path = {},
+                     const std::optional<Fingerprint>& file = std::nullopt);

@@ -52,15 +52,14 @@ std::uint64_t stampsOf(const SheetTables& sheet)
 
 } // namespace
 
-std::string ownPath(const SheetTables& sheet, const SheetFile& file)
+std::string ownPath(const SheetFile& file)
 {
-    return sheet.TemplateOpened || file.ReadInPart ? std::string() : file.SheetPath;
+    return file.NotItsFile ? std::string() : file.SheetPath;
 }
 
 RecordedSheet recordOf(const SheetTables& sheet, const SheetFile& file)
 {
-    return {sheet.Count,     sheet.SampleCount,    textsOf(sheet),
-            stampsOf(sheet), ownPath(sheet, file), file.KnownFile};
+    return {sheet.Count, sheet.SampleCount, textsOf(sheet), stampsOf(sheet), ownPath(file), file.KnownFile};
 }
 
 std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const SheetTables& sheet)
@@ -80,7 +79,7 @@ std::vector<ChangedCount> changedCounts(const RecordedSheet& recorded, const She
 
 bool isEdited(const RecordedSheet& recorded, const SheetTables& sheet, const SheetFile& file)
 {
-    return recorded.path != ownPath(sheet, file) || recorded.file != file.KnownFile ||
+    return recorded.path != ownPath(file) || recorded.file != file.KnownFile ||
            recorded.samples != sheet.SampleCount || recorded.texts != textsOf(sheet);
 }
 

@@ -7,7 +7,7 @@
 
 /// Path of the file that holds the sheet; empty: none. A sheet begun from a template is not the template, and
 /// one that was read in part is not its file.
-std::string ownPath(const SheetTables& sheet, const SheetFile& file);
+std::string ownPath(const SheetFile& file);
 
 /// What is on disk of a sheet, to tell what of it is not.
 struct RecordedSheet {

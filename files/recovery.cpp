@@ -25,7 +25,6 @@ constexpr int longestWithoutPause = 1000;
 
 constexpr std::size_t mostLines = 500; ///< of one event; more is a matter for the copy
 
-/// A sheet begun from a template is not the template, nor is one that was read in part the whole file.
 /// What the foot of the window says as long as unsaved work cannot be written.
 void tell(bool kept)
 {
@@ -43,8 +42,9 @@ RecoveryLabel nextLabel()
 {
     RecoveryLabel label = recoveryCopy.label;
     ++label.number;
-    label.path = ownPath(sheet, sheet);
+    label.path = ownPath(sheet);
     label.file = label.path.empty() ? std::nullopt : sheet.KnownFile;
+    label.shownSerial = sheet.SampleField(sheet.CurrentSample, 1);
     return label;
 }
 
@@ -95,7 +95,7 @@ bool hasBase()
     if (recoveryCopy.onDisk || recoveryCopy.journalBegun)
         return true;
     return !isEdited(*recoveryCopy.recorded, sheet, sheet) &&
-           (!ownPath(sheet, sheet).empty() || isEmptySheet(*recoveryCopy.recorded));
+           (!ownPath(sheet).empty() || isEmptySheet(*recoveryCopy.recorded));
 }
 
 bool appendChanges(const std::vector<ChangedCount>& changes)
@@ -245,6 +245,7 @@ bool endRecovery(bool lossConfirmed)
     ports.journalTimer->stop();
     ports.pauseTimer->stop();
     ports.deadlineTimer->stop();
+    recoveryCopy.waiting = false; // if the program stays open after all, the next event waits anew
     if (lossConfirmed)
         removeCopy();
     return lossConfirmed || recoveryCopy.held || !hasUnsavedWork() || writeCopy();
@@ -254,7 +255,7 @@ std::string textOfUnsavedWork()
 {
     if (sheet.KeysActive)
         storeShownSample();
-    stampHead("Last modified (dd/mm/yyyy):", ownPath(sheet, sheet), ports.clock->now());
+    stampHead("Last modified (dd/mm/yyyy):", ownPath(sheet), ports.clock->now());
     fillEmptyCells(sheet, shownCaptions());
     const auto totals = sampleTotals(sheet);
     // Sums are never read back, and no sum keeps a copy from being written.

@@ -11,7 +11,7 @@ std::string recoveryCopyText(std::string_view sheetText, const RecoveryLabel& la
     return std::string(sheetText) +
            provedLine({copyMark, std::to_string(label.number), label.path, label.file ? "file" : "no file",
                        std::to_string(file.size), std::to_string(file.checksum), label.lastCounted,
-                       std::to_string(sheetText.size())},
+                       label.shownSerial, std::to_string(sheetText.size())},
                       checksumOf(sheetText));
 }
 
@@ -24,15 +24,15 @@ std::optional<ProvedCopy> readRecoveryCopy(std::string_view text)
         return std::nullopt;
     const std::string_view sheetText = text.substr(0, end + 1);
     const auto fields = fieldsOfProvedLine(text.substr(end + 1), checksumOf(sheetText));
-    if (!fields || fields->size() != 8 || fields->front() != copyMark ||
-        (*fields)[7] != std::to_string(sheetText.size()))
+    if (!fields || fields->size() != 9 || fields->front() != copyMark ||
+        (*fields)[8] != std::to_string(sheetText.size()))
         return std::nullopt;
     const auto number = wholeField((*fields)[1]);
     const auto size = wholeField((*fields)[4]);
     const auto checksum = wholeField((*fields)[5]);
     if (!number || !size || !checksum)
         return std::nullopt;
-    RecoveryLabel label{*number, (*fields)[2], std::nullopt, (*fields)[6]};
+    RecoveryLabel label{*number, (*fields)[2], std::nullopt, (*fields)[6], (*fields)[7]};
     if ((*fields)[3] == "file")
         label.file = Fingerprint{*size, *checksum};
     return ProvedCopy{sheetText, label};

@@ -12,6 +12,7 @@ struct RecoveryLabel {
     std::string path;                ///< of the sheet's file, UTF-8; empty: it has none
     std::optional<Fingerprint> file; ///< of that file as it was last read or written
     std::string lastCounted;         ///< date and time, as in "15/11/2026 (14:05:09)"; empty: nothing counted
+    std::string shownSerial;         ///< serial number of the sample on show, of a copy only
 
     friend bool operator==(const RecoveryLabel&, const RecoveryLabel&) = default;
 };

@@ -1,6 +1,7 @@
 #include "files/recovery.h"
 
 #include "core/endings.h"
+#include "core/show_sample.h"
 #include "files/data_sheet_reader.h"
 #include "files/open_sheet.h"
 #include "files/recovery_program_test.h"
@@ -125,6 +126,25 @@ TEST_F(Recovery, editsAreCopiedAsSoonAsTheHandPauses)
     EXPECT_NE(files.contents[copyPath].find("charcoal"), std::string::npos);
 }
 
+TEST_F(Recovery, theSampleThatWasBeingCountedComesBackOnShow)
+{
+    addSamples(3);
+    showSample(2);
+    sheet.WarnNotLatest = false;
+    count('Q', 2);
+    for (const bool inJournal : {false, true}) {
+        timePasses(); // all of it is in the copy
+        sheet.WarnNotLatest = false;
+        count('Q', inJournal ? 1 : 0);
+        crash();
+        expectOffer("Untitled", inJournal ? "3" : "2", Answer::yes);
+        findRecoveryCopies();
+        EXPECT_EQ(sheet.CurrentSample, 2);
+        EXPECT_EQ(frmMain.Combo2.text, "20");
+        EXPECT_EQ(shown(1), inJournal ? 3 : 2);
+    }
+}
+
 TEST_F(Recovery, fileThatIsAnotherOneByNowIsNotWrittenOver)
 {
     count('Q', 2);
@@ -171,7 +191,7 @@ TEST_F(Recovery, sheetThatWasReadInPartIsNotItsFileAfterACrashEither)
     dialogs.paths = {"/cores/Half.csv"};
     mnuOpen_Click();
     afterEvent();
-    ASSERT_TRUE(sheet.ReadInPart);
+    ASSERT_TRUE(sheet.NotItsFile);
     count('W', 1);
     pause();
     crash();
@@ -302,8 +322,12 @@ TEST_F(Recovery, endKeepsTheCopyOnlyOfWorkWhoseSaveFailed)
     bool cancel = false;
     Form_Unload(cancel);
     EXPECT_TRUE(cancel && !ended);
-
+    afterEvent();
     files.room = SIZE_MAX;
+    timePasses();
+    EXPECT_TRUE(isThere(copyPath)) << "it goes on trying";
+    EXPECT_EQ(frmMain.diskNotice, "");
+
     dialogs.paths = {std::nullopt};
     close(Answer::yes);
     EXPECT_TRUE(ended);

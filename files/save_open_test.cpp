@@ -95,6 +95,7 @@ TEST_F(SheetFiles, everyFailedWriteIsToldAndCostsNothing)
         files.unwritable.clear();
         files.room = SIZE_MAX;
     }
+    EXPECT_NE(frmMain.notice.find("more than 32767 individuals"), std::string::npos);
     sheet.Count(1, 5) = 0;
     files.closeFails = true;
     dialogs.expect(busy, "Error");
@@ -242,7 +243,7 @@ TEST_F(SheetFiles, aSheetWithDisorderedKeyIndexesCanBeSavedAndOpenedAgain)
         open(path);
         tap('Q', 2);
         const int counted = stored(1);
-        if (sheet.ReadInPart)
+        if (sheet.NotItsFile)
             dialogs.paths.push_back(path);
         mnuSave_Click();
         sheet.SheetPristine = true;
@@ -302,13 +303,20 @@ TEST_F(SheetFiles, aTemplateHoldsTheTaxaAndIsNotOverwrittenUnasked)
     EXPECT_EQ(frmMain.Text3[0].text, "0");
     frmSiteName_Command3_Click();
     dialogs.paths.push_back(std::nullopt);
-    mnuOpen_Click(); // a change of mind leaves it a sheet begun from a template
+    mnuOpen_Click(); // a change of mind does not make the template the sheet's file
+    EXPECT_FALSE(sheet.TemplateOpened);
     tap('Q');
     dialogs.paths.push_back("/home/Lake2.csv");
     mnuSave_Click();
     EXPECT_EQ(dialogs.proposed, "/home/pollen.csv");
     EXPECT_EQ(sheet.SheetPath, "/home/Lake2.csv");
-    EXPECT_FALSE(sheet.TemplateOpened);
+    mnuSave_Click(); // without a dialog
+
+    const std::string pollen = files.contents.at("/home/pollen.csv");
+    sheet.SheetPristine = true;
+    open("/home/pollen.csv");
+    saveAs("/home/pollen.csv"); // as the user wants it
+    EXPECT_EQ(files.contents.at(folder + "Before_pollen.csv"), pollen);
 }
 
 TEST_F(SheetFiles, backupsGoToTheMasterFirstAndThenRoundTheRing)

@@ -121,12 +121,12 @@ void takeName(const std::string& path, const std::string& name)
 bool mayTake(const std::string& path, bool isTable)
 {
     const bool isOwn = path == sheet.SheetPath;
-    const bool changed = isOwn && !sheet.ReadInPart && sheetFileHasChanged();
+    const bool changed = isOwn && !sheet.NotItsFile && sheetFileHasChanged();
     if (changed && !mayWriteOver(path)) {
         endCancelled();
         return false;
     }
-    const bool unknown = changed || (isOwn && sheet.ReadInPart);
+    const bool unknown = changed || (isOwn && sheet.NotItsFile);
     if (!(unknown || (!isOwn && !isTable)) || keepFormerBytes(path, unknown))
         return true;
     frmMain.notice = "What the file holds could not be kept among the backups: save under another name.";
@@ -147,12 +147,12 @@ void SaveSheet(SaveMode mode)
     // Before any dialog and any file: totals that no file can hold.
     const auto totals = sampleTotals(sheet);
     if (!totals) {
+        frmMain.notice = "A sample has more than 32767 individuals in a total: no data sheet holds that.";
         endFailed();
         return;
     }
     const bool isTable = isPercentageTable(mode);
-    if (!isTable &&
-        (sheet.SheetPath.empty() || ((sheet.TemplateOpened || sheet.ReadInPart) && mode != SaveMode::copy)))
+    if (!isTable && (sheet.SheetPath.empty() || (sheet.NotItsFile && mode != SaveMode::copy)))
         mode = SaveMode::saveAs;
 
     std::string path = sheet.SheetPath;
@@ -189,7 +189,7 @@ void SaveSheet(SaveMode mode)
             markUnsavedWork(); // the sheet's own file holds no counts now
     } else if (mode != SaveMode::copy || path == sheet.SheetPath) {
         offerSave(false);
-        sheet.TemplateOpened = sheet.ReadInPart = false;
+        sheet.TemplateOpened = sheet.NotItsFile = false;
         TakeSnapshot(); // what a reset goes back to is what is on disk
         hooks.SheetSaved();
     }

@@ -10,7 +10,7 @@ namespace {
 
 void write(const std::string& name, SheetTables sheet)
 {
-    const std::filesystem::path folder = "written_tables";
+    const std::filesystem::path folder = WRITTEN_TABLES;
     std::filesystem::create_directories(folder);
     fillEmptyCells(sheet, {});
     const auto file = [&](const std::string& ending, const std::string& text) {

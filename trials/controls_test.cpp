@@ -373,6 +373,11 @@ void Controls::expectEdits()
         paste(widget, QString(1 << 20, 'x'));
         EXPECT_EQ(record.text, std::string(textLimit, 'x'));
         EXPECT_EQ(frmMain.notice, "A box holds 32767 characters: what would come after them is left out.");
+        for (int again = 0; again < 2 && !isLine; ++again) { // the record holds a line's end as two
+            frmMain.notice.clear();
+            paste(widget, QString("x\n").repeated(textLimit));
+            EXPECT_FALSE(frmMain.notice.empty());
+        }
         paste(widget, "7");
     }
 }

@@ -31,6 +31,8 @@ protected:
                 if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                     ADD_FAILURE() << box->text().toStdString();
                     box->reject();
+                } else if (dialog != nullptr) {
+                    dialog->reject();
                 }
                 return;
             }
@@ -40,8 +42,8 @@ protected:
             auto* const name = dialog->findChild<QLineEdit*>("fileNameEdit");
             proposed = name->text();
             name->setFocus(); // as when a user types: else the list's selection writes into it
-            name->setText(typed);
-            QTimer::singleShot(0, dialog, [dialog, typed] {
+            QTimer::singleShot(0, dialog, [dialog, name, typed] {
+                name->setText(typed);
                 typed.isEmpty() ? dialog->reject() : static_cast<QDialog*>(dialog)->accept();
             });
         });

@@ -4,6 +4,7 @@
 
 #include "sheet/percent_view.h"
 
+#include "core/amending.h"
 #include "core/main_keys.h"
 
 #include <QAction>
@@ -12,6 +13,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -138,6 +140,21 @@ TEST_F(RealKeys, ctrlAndALetterCountsNothingAndBoxesInWorkKeepTheirShortcuts)
     tap(place::q);
     EXPECT_EQ(box.text(), "q");
     EXPECT_EQ(total(), 0);
+}
+
+TEST_F(RealKeys, whatTheFootSaysOutlivesTheKeyThatItIsAbout)
+{
+    window->onEvent([] { AmendingOnOff(0); });
+    QLineEdit* const name = named<QLineEdit>("Text1(0)");
+    name->setFocus();
+    name->selectAll();
+    for (const int key : {place::digit1, place::comma, place::digit3})
+        tap(key);
+    ASSERT_EQ(name->text(), "1,3");
+    const auto foot = [this] { return window->statusBar()->currentMessage(); };
+    EXPECT_EQ(foot(), "'1,3' is no number, so the diagram has no depth scale: write 1.3.");
+    tap(place::backspace);
+    EXPECT_EQ(foot(), "");
 }
 
 TEST_F(RealKeys, aHeldKeyRepeatsWithoutComingUp)

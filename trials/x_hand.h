@@ -11,9 +11,9 @@
 /// Keys by their places on a US keyboard (X keycodes).
 namespace place {
 constexpr int escape = 9, digit1 = 10, digit3 = 12, minus = 20, save = 21, backspace = 22, tab = 23, q = 24,
-              w = 25, p = 33, enter = 36, ctrl = 37, a = 38, f = 41, semicolon = 47, shift = 50, period = 60,
-              alt = 64, space = 65, f1 = 67, f4 = 70, f10 = 76, numLock = 77, keypad1 = 87, up = 111,
-              left = 113, right = 114, down = 116, deleteKey = 119, leftSuper = 133;
+              w = 25, p = 33, enter = 36, ctrl = 37, a = 38, f = 41, semicolon = 47, shift = 50, comma = 59,
+              period = 60, alt = 64, space = 65, f1 = 67, f4 = 70, f10 = 76, numLock = 77, keypad1 = 87,
+              up = 111, left = 113, right = 114, down = 116, deleteKey = 119, leftSuper = 133;
 constexpr std::string_view letterRows[] = {"1234567890", "qwertyuiop", "asdfghjkl", "zxcvbnm"};
 constexpr int rowStarts[] = {10, 24, 38, 52};
 inline int of(char sign)

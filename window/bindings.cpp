@@ -118,7 +118,7 @@ static int caretInWidget(const TextBox& record)
 TypedText typedInto(NoteBinding& binding)
 {
     QPlainTextEdit& widget = *binding.widget;
-    const auto limit = std::max<qsizetype>(textLimit, static_cast<qsizetype>(binding.shown.text.size()));
+    const auto limit = std::max<qsizetype>(textLimit, shownText(binding.shown.text).remove('\r').size());
     const QString text = widget.toPlainText();
     const std::string held = heldLines(accepted(text.left(limit), false));
     const auto before = heldLines(accepted(text.left(widget.textCursor().position()), false)).size();

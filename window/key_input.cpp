@@ -147,14 +147,15 @@ void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
             box->keyCameUp(key.code);
         return;
     }
-    window_.onEvent([&] {
+    const auto handle = [&] {
         if (frmDiagnose.visible)
             key.isDown ? frmDiagnose_KeyDown(key.code) : frmDiagnose_KeyUp(key.code);
         else if (inDiagram_)
             key.isDown ? frmDiagram_KeyDown(key.code, shift) : frmDiagram_KeyUp(key.code);
         else
             key.isDown ? Form_KeyDown(key.code, shift) : Form_KeyUp(key.code, shift);
-    });
+    };
+    key.isDown ? window_.onEvent(handle) : window_.onPassing(handle);
 }
 
 /// Ctrl and a letter is for the hidden shortcuts, also where Ctrl itself is bound.

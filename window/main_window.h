@@ -44,8 +44,8 @@ public:
         onPassing(handler);
     }
 
-    /// The same where the mouse only passes or the focus follows a press or a key: what the line at the foot
-    /// says was not read yet.
+    /// The same where the mouse only passes, the focus follows a press or a key, or a key comes up: what the
+    /// line at the foot says was not read yet.
     template <class Handler>
     void onPassing(Handler&& handler)
     {
@@ -66,6 +66,8 @@ public:
 
     /// The window of the diagram, where keys count too.
     const DiagramWindow& diagramWindow() const { return *diagram_; }
+    /// Before a small window is shown.
+    void keepManualReadable(QWidget& smallWindow);
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;

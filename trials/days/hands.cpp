@@ -85,10 +85,10 @@ UndoEntry Hands::press(int key, bool inDiagram, const OneEvent& event, const boo
     const bool guarded = key == guarded_;
     const bool taken = dispatched && !guarded && sheet.KeysActive && numberOf(key) >= 0;
     bool counts = false;
-    if (dispatched && isShift(key)) {
-        held_.insert(key);
-    } else if (taken && key == sheet.MinusKey) {
+    const bool isUndo = taken && key == sheet.MinusKey;
+    if (isUndo)
         undoUsed_ = undoUsed_ && held_.count(key) != 0;
+    if (isUndo || (dispatched && isShift(key))) { // settings may make one key both
         held_.insert(key);
     } else if (taken) {
         counts = !sheet.Modifying;

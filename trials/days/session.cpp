@@ -210,6 +210,12 @@ void Session::crash()
     const std::size_t lost = keptInFile();
     dialogs.purpose = "/home/round.csv"; // what was lost is taken up
     start();
+    for (int place = 1; place <= recoveryPlaces && keptInFile() != lost; ++place) {
+        // One that was declined while the disk was full has stayed in its place and is offered first.
+        files.remove(recoveryJournalPath(recoveryCopy.place));
+        files.remove(recoveryCopyPath(recoveryCopy.place));
+        start();
+    }
     dialogs.purpose.reset();
     require(!copied || keptInFile() == lost, "what a crash took comes back");
 }
