@@ -13,6 +13,7 @@
 #include "sheet/live_curve.h"
 #include "statistics/laboratory.h"
 #include "statistics/recount.h"
+#include "statistics/sheet_concentrations.h"
 
 /// What belongs to the sheet before goes with it.
 static void sheetOpened()
@@ -42,4 +43,5 @@ void connectRooms()
     hooks.RefreshDiagram = refreshDiagram;
     hooks.RedrawDiagram = redrawDiagram;
     hooks.SampleRenamed = followSampleNames;
+    hooks.ConcentrationOf = concentrationOfSums;
 }

@@ -23,12 +23,13 @@ inline double millisecondsSinceStart()
 }
 
 /// Runs the event loop until the window is exposed and painted, and prints how long that took from the start.
-inline int reportReady(const QWidget& window)
+/// `apart`: milliseconds since then that are not to count.
+inline int reportReady(const QWidget& window, double apart = 0)
 {
     while (!window.windowHandle()->isExposed() || !window.isActiveWindow())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QApplication::processEvents();
-    std::printf("%.0f\n", millisecondsSinceStart());
+    std::printf("%.0f\n", millisecondsSinceStart() - apart);
     std::fflush(stdout);
     _exit(0);
 }

@@ -7,8 +7,10 @@
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
+    const double before = millisecondsSinceStart();
     std::optional<DeliveredCopy> folder(DELIVERED_FOLDER);
+    const double copying = millisecondsSinceStart() - before;
     Program program(folder->path());
     folder.reset(); // reportReady() leaves without cleaning up
-    return reportReady(program.window());
+    return reportReady(program.window(), copying);
 }

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "core/measured_concentration.h"
 #include "core/save_mode.h"
 
-/// What a handler of the core sets off in rooms above it. app/wiring.cpp connects them; what is not connected
-/// does nothing.
+/// What a handler of a lower room sets off, or asks, in rooms that it does not include. app/wiring.cpp
+/// connects them; what is not connected does nothing.
 struct Hooks {
     bool (*ReadKeySettings)() = [] { return false; }; ///< false: missing or unreadable
     void (*ArrangeTaxonCells)() = [] {};
@@ -23,6 +24,9 @@ struct Hooks {
     void (*RefreshDiagram)() = [] {}; ///< after a key, while the diagram is open
     void (*RedrawDiagram)() = [] {};  ///< other counts or another % basis, while the diagram is open
     void (*SampleRenamed)() = [] {};  ///< the sample on show, while the diagram is open
+    /// Of a sample of the sheet, for the figure.
+    std::optional<MeasuredConcentration> (*ConcentrationOf)(int sample) =
+        [](int) -> std::optional<MeasuredConcentration> { return {}; };
 };
 
 extern Hooks hooks;

@@ -131,16 +131,20 @@ bool pictureMouseDown(DiagramPicture picture, float x, float y, bool right)
     return opens;
 }
 
+void moveDiagramSample()
+{
+    MoveSample();
+    logAction("(Move sample) " + sheet.SampleField(sheet.MoveTo, 2) + ": " + decimalText(sheet.MoveFrom) +
+              " to " + decimalText(sheet.MoveTo));
+}
+
 void pictureMouseUp()
 {
     DiagramForm& f = frmDiagram;
     if (!sheet.DiagramOpen)
         return;
-    if (f.MovingSample && sheet.MoveFrom != sheet.MoveTo) {
-        MoveSample();
-        logAction("(Move sample) " + sheet.SampleField(sheet.MoveTo, 2) + ": " + decimalText(sheet.MoveFrom) +
-                  " to " + decimalText(sheet.MoveTo));
-    }
+    if (f.MovingSample && sheet.MoveFrom != sheet.MoveTo)
+        moveDiagramSample();
     endDrag();
     paintSampleLine();
     placePanel();

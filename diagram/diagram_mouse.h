@@ -12,6 +12,9 @@ void pictureMouseUp();
 void mouseOverControls();
 void mouseOverSurface();
 
+/// Moves the sample from MoveFrom to MoveTo, with its line of the log.
+void moveDiagramSample();
+
 /// Draws the guide lines that follow the mouse. `x` counts from the diagram's beginning, not from the view's.
 void TargetLine(float x, float y, DiagramPicture picture);
 /// Shows source and target of a sample move in their boxes.

@@ -3,8 +3,10 @@
 #include "core/editing.h"
 #include "core/program_test.h"
 #include "core/sample_move.h"
+#include "core/sample_sort.h"
 #include "core/text_changes.h"
 #include "diagram/coniss_window.h"
+#include "diagram/diagram_hand.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_view.h"
@@ -23,6 +25,7 @@ protected:
     Diagram()
     {
         frmDiagram = DiagramForm();
+        hooks.ReloadDiagram = reloadDiagram;
         hooks.ReorderDiagram = reorderDiagram;
         hooks.RefreshDiagram = refreshDiagram;
         hooks.RedrawDiagram = redrawDiagram;
@@ -175,11 +178,60 @@ TEST_F(Diagram, followsTheBasisOfEitherWindow)
     EXPECT_EQ(f.merges.MergeSumSquare, merges);
 }
 
+TEST_F(Diagram, theWheelScrollsAndZoomsByNotches)
+{
+    open();
+    f.HScroll1.max = 300;
+    f.HScroll1.value = 100;
+    turnWheel(-120, false);
+    EXPECT_EQ(f.HScroll1.value, 130);
+    turnWheel(40, false); // a touchpad
+    EXPECT_EQ(f.HScroll1.value, 120);
+    turnWheel(12000, false);
+    EXPECT_EQ(f.HScroll1.value, 0);
+    turnWheel(120, true);
+    EXPECT_EQ(f.Slider2.value, 6);
+    for (int part = 0; part < 3; ++part)
+        turnWheel(-40, true);
+    EXPECT_EQ(f.Slider2.value, 5);
+    turnWheel(-1200, true);
+    EXPECT_EQ(f.Slider2.value, 1);
+}
+
+TEST_F(Diagram, keysPickSamplesAndMoveThemWhereTheMouseMay)
+{
+    open();
+    const int samples = sheet.SampleCount;
+    pickSample(-samples);
+    EXPECT_EQ(f.Slider1.value, 1);
+    pickSample(1);
+    EXPECT_TRUE(f.Slider1.value == 2 && f.DiagramSample == 2);
+    const std::string second = sheet.SampleField(2, 2);
+    carryPickedSample(-1);
+    EXPECT_EQ(sheet.SampleField(2, 2), second) << "depths have their places";
+    closeDiagram();
+    nameByCode();
+    open();
+    f.Slider1.value = 2;
+    const std::string moved = sheet.SampleField(2, 2);
+    carryPickedSample(-1);
+    EXPECT_EQ(sheet.SampleField(1, 2), moved);
+    EXPECT_TRUE(f.Slider1.value == 1 && f.Text1.text == "2" && f.Text2.text == "1");
+    EXPECT_EQ(sheet.ActionText.back(), "(Move sample) " + moved + ": 2 to 1");
+    carryPickedSample(-1);
+    EXPECT_EQ(f.Slider1.value, 1);
+    EXPECT_EQ(sheet.ActionText.back(), "(Move sample) " + moved + ": 2 to 1") << "at its end it stays";
+}
+
 TEST_F(Diagram, saysWhenTheSheetIsNotInDepthOrder)
 {
     std::swap(sheet.SampleField(1, 2), sheet.SampleField(2, 2));
     open();
     EXPECT_FALSE(f.notice.empty());
+    EXPECT_TRUE(sampleSort.offer.visible);
+    mnuSortSamples_Click();
+    EXPECT_TRUE(f.notice.empty() && !sampleSort.offer.visible);
+    std::swap(sheet.SampleField(1, 2), sheet.SampleField(2, 2));
     closeDiagram();
     nameByCode();
     open();

@@ -66,6 +66,9 @@ std::string figureCaption(const FigurePlan& plan, const FigureSettings& settings
                 " times, taxa that stay below " + plainDecimal(settings.below) + " %.";
     if (settings.plus)
         text += " +: below 0.5 %.";
+    if (settings.concentration > 0 && hasConcentrations(plan.data))
+        text += " Concentrations: " + plan.data.totals[static_cast<std::size_t>(settings.basis)] +
+                " by a marker, with 95 % limits (Stockmarr 1971, Maher 1981).";
     const bool clustered = settings.dendrogram > 0 || settings.zonesBy == ZonesBy::stick;
     if (clustered && !plan.clusters.merges.empty())
         text += " Clusters: " + methodName(settings) + ", of " +

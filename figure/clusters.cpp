@@ -17,8 +17,10 @@ struct Cluster {
 double increaseOf(const Cluster& a, const Cluster& b)
 {
     double squares = 0;
+    const double ofA = 1 / a.size();
+    const double ofB = 1 / b.size();
     for (std::size_t taxon = 0; taxon < a.sum.size(); ++taxon) {
-        const double difference = a.sum[taxon] / a.size() - b.sum[taxon] / b.size();
+        const double difference = a.sum[taxon] * ofA - b.sum[taxon] * ofB;
         squares += difference * difference;
     }
     return a.size() * b.size() / (a.size() + b.size()) * squares;

@@ -18,13 +18,32 @@ std::string uniqueName(std::map<std::string, int>& seen, const std::string& name
     return times == 1 ? name : uniqueName(seen, name + " (" + decimalText(times) + ")");
 }
 
+/// "12.5 recount" or "12.5 recount 2" beside "12.5": a check of the counting, no sample of the core.
+bool isRecount(const SheetTables& sheet, const std::string& name)
+{
+    constexpr std::string_view again = " recount";
+    const std::size_t end = name.rfind(again);
+    if (end == std::string::npos)
+        return false;
+    const std::string_view number = std::string_view(name).substr(end + again.size());
+    if (!number.empty() && (number.size() < 2 || number.front() != ' ' ||
+                            number.find_first_not_of("0123456789", 1) != std::string_view::npos))
+        return false;
+    for (int column = 1; column <= sheet.SampleCount; ++column)
+        if (sheet.SampleField(column, 2) == name.substr(0, end))
+            return true;
+    return false;
+}
+
 void collectSamples(FigureData& data, const SheetTables& sheet)
 {
     data.byDepth = true;
     for (int column = 1; column <= sheet.SampleCount; ++column) {
         const std::string& name = sheet.SampleField(column, 2);
+        if (isRecount(sheet, name))
+            continue;
         data.byDepth = data.byDepth && isDepth(name);
-        data.samples.push_back({utf8FromCodePage(name), leadingNumber(name), column});
+        data.samples.push_back({utf8FromCodePage(name), leadingNumber(name), column, {}});
     }
     const auto shallower = [](const FigureSample& a, const FigureSample& b) { return a.depth < b.depth; };
     const auto [least, most] = std::minmax_element(data.samples.begin(), data.samples.end(), shallower);
@@ -66,4 +85,10 @@ FigureData figureData(const SheetTables& sheet, const std::string& path)
                    utf8FromCodePage(sheet.SheetHeader[2][3])};
     data.sheetName = path.size() < 4 ? "" : baseName(path).value_or("");
     return data;
+}
+
+bool hasConcentrations(const FigureData& data)
+{
+    return std::any_of(data.samples.begin(), data.samples.end(),
+                       [](const FigureSample& sample) { return sample.concentration.has_value(); });
 }

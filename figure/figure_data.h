@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/measured_concentration.h"
 #include "core/sheet_tables.h"
 
 #include <array>
@@ -7,12 +8,14 @@
 #include <string>
 #include <vector>
 
-/// What figures and clusters are made from: the sheet's counts, without anything that only the screen needs.
+/// What figures and clusters are made from: the sheet's counts, without anything that only the screen needs,
+/// and without recounts.
 
 struct FigureSample {
     std::string name; ///< UTF-8
     double depth = 0; ///< if FigureData::byDepth; else its place in the sheet, from 1
     int column = 0;   ///< in the sheet, from 1
+    std::optional<MeasuredConcentration> concentration = {}; ///< if it is known; not read from the sheet
     friend bool operator==(const FigureSample&, const FigureSample&) = default;
 };
 
@@ -33,6 +36,9 @@ struct FigureData {
     std::string sheetName;             ///< of the file; empty: it has none yet
     friend bool operator==(const FigureData&, const FigureData&) = default;
 };
+
+/// True if the concentration of a sample is known.
+bool hasConcentrations(const FigureData& data);
 
 /// `path`: of the sheet's file.
 FigureData figureData(const SheetTables& sheet, const std::string& path);

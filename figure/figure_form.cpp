@@ -1,6 +1,7 @@
 #include "figure/figure_form.h"
 
 #include "core/forms.h"
+#include "core/hooks.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
 #include "figure/caption.h"
@@ -33,12 +34,32 @@ double letterWidth(std::string_view text, bool italic)
     return ports.pictures->letterWidth(text, italic);
 }
 
+FigureData dataOfSheet()
+{
+    FigureData data = figureData(sheet, sheet.SheetPath);
+    for (FigureSample& sample : data.samples)
+        sample.concentration = hooks.ConcentrationOf(sample.column);
+    return data;
+}
+
 void replan()
 {
     FigureForm& f = frmFigure;
     f.plan = planFigure(f.data, f.settings, letterWidth);
     f.fit = f.plan.faults.empty() ? "" : whatWouldFit(f.data, f.settings, letterWidth);
     ++f.planRevision;
+}
+
+std::string tellFirstSettings(const FigureSettings& first)
+{
+    const FigureSettings usual;
+    const auto size = [](const FigureSettings& settings) {
+        return plainDecimal(settings.width) + " x " + plainDecimal(settings.height) + " mm";
+    };
+    return "The taxa do not fit a page of " + size(usual) + ": this one is " + size(first) +
+           (first.threshold > usual.threshold
+                ? ", with a threshold of " + plainDecimal(first.threshold) + " %."
+                : ".");
 }
 
 /// Reads settings; false if there are none.
@@ -68,11 +89,15 @@ void readOwnSettings()
     f.settings = {};
     f.kept = {};
     f.notice.clear();
-    readSettings(settingsPath(sheet.SheetPath));
+    const bool kept = readSettings(settingsPath(sheet.SheetPath));
     f.unkept = false;
     if (const auto remembered = unkeptSettings.find(sheet.SheetPath); remembered != unkeptSettings.end()) {
         f.settings = remembered->second;
         f.unkept = true;
+    } else if (!kept) {
+        f.settings = firstSettings(f.data, letterWidth);
+        if (f.settings != FigureSettings())
+            f.notice += (f.notice.empty() ? "" : " ") + tellFirstSettings(f.settings);
     }
     f.settingsBelong = true;
 }
@@ -151,11 +176,11 @@ void saveTable(const std::string& table)
 void mnuFigure_Click()
 {
     FigureForm& f = frmFigure;
+    f.data = dataOfSheet();
     if (!f.settingsBelong)
         readOwnSettings();
     f.visible = true;
     ++f.forwardRevision;
-    f.data = figureData(sheet, sheet.SheetPath);
     replan();
 }
 
@@ -196,7 +221,7 @@ void FigureTimer_Timer()
     FigureForm& f = frmFigure;
     if (!f.visible)
         return;
-    FigureData data = figureData(sheet, sheet.SheetPath);
+    FigureData data = dataOfSheet();
     if (data == f.data)
         return;
     f.data = std::move(data);
@@ -299,8 +324,11 @@ std::vector<DatedDepth> agesIn(std::string_view text)
     std::vector<DatedDepth> ages;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-        std::string_view line = text.substr(0, end);
+        std::string copy(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
+        if (copy.find_first_of(";\t") != std::string::npos) // then a comma is decimal
+            std::replace(copy.begin(), copy.end(), ',', '.');
+        std::string_view line = copy;
         std::vector<double> numbers;
         constexpr std::string_view between = " \t,;\"";
         while (!line.empty()) {

@@ -51,5 +51,5 @@ void saveSticks();
 /// "Read ages...": the table of a CSV file.
 void readAges();
 /// Depths and ages, one pair a line, separated by blanks, tabs, commas or semicolons; lines without two
-/// numbers are skipped.
+/// numbers are skipped. Beside tabs or semicolons a comma is decimal.
 std::vector<DatedDepth> agesIn(std::string_view text);

@@ -166,6 +166,7 @@ TEST_F(FigureWindowTest, agesAreReadAsPeopleWriteThem)
     const std::vector<DatedDepth> ages = {{10, 100}, {20.5, -3}};
     EXPECT_EQ(agesIn("depth,age\r\n10,100\r\n20.5,-3\r\n"), ages);
     EXPECT_EQ(agesIn("10\t100\n\n20.5 ; -3"), ages);
+    EXPECT_EQ(agesIn("Tiefe;Alter\n10,0;100\n20,5;-3"), ages) << "a comma between digits";
     EXPECT_TRUE(agesIn("").empty());
 }
 

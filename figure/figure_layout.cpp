@@ -36,11 +36,9 @@ double tallestName(const FigureData& data, const std::vector<ShownTaxon>& taxa,
         const std::string& name = data.taxa[shown.taxon].name;
         tallest = std::max(tallest, nameHeight(nameRuns(name, slantOf(settings, name)), settings, widths));
     }
-    const double panels[] = {settings.cumulative, settings.total, settings.zones, settings.dendrogram};
-    const auto names = panelNames(settings);
-    for (std::size_t i = 0; i < names.size(); ++i)
-        if (panels[i] > 0)
-            tallest = std::max(tallest, nameHeight({{names[i], false}}, settings, widths));
+    for (const PanelKind& panel : panelKinds(settings))
+        if (settings.*panel.width > 0)
+            tallest = std::max(tallest, nameHeight({{panel.name, false}}, settings, widths));
     constexpr double aboveFrame = 1.5;
     return tallest + aboveFrame;
 }
@@ -85,15 +83,12 @@ void placeColumns(FigureLayout& layout, const FigureSettings& settings)
         layout.plotRight = x + column.width;
         x += column.width + settings.gap;
     }
-    const std::pair<FigurePanel&, double> panels[] = {{layout.cumulative, settings.cumulative},
-                                                      {layout.total, settings.total},
-                                                      {layout.zones, settings.zones},
-                                                      {layout.dendrogram, settings.dendrogram}};
-    for (const auto& [panel, width] : panels) {
+    for (const PanelKind& panel : panelKinds(settings)) {
+        const double width = settings.*panel.width;
         if (width <= 0)
             continue;
         x += settings.panelGap;
-        panel = {x, width};
+        layout.*panel.place = {x, width};
         x += width;
         layout.plotRight = x;
     }
@@ -115,10 +110,16 @@ void placeSamples(FigureLayout& layout, const FigureData& data, const FigureSett
 
 } // namespace
 
-std::array<const char*, 4> panelNames(const FigureSettings& settings)
+std::array<PanelKind, 5> panelKinds(const FigureSettings& settings)
 {
-    return {"Sum of groups", "Individuals", "Zone",
-            settings.method == ClusterMethod::grimm ? "CONISS" : "Unweighted CONISS"};
+    using L = FigureLayout;
+    using S = FigureSettings;
+    return {{{&L::cumulative, &S::cumulative, "cumulative", "Sum of groups"},
+             {&L::total, &S::total, "total", "Individuals"},
+             {&L::concentration, &S::concentration, "concentration", "Concentration"},
+             {&L::zones, &S::zones, "zones", "Zone"},
+             {&L::dendrogram, &S::dendrogram, "dendrogram",
+              settings.method == ClusterMethod::grimm ? "CONISS" : "Unweighted CONISS"}}};
 }
 
 double FigureLayout::yOf(double depth) const
@@ -167,9 +168,9 @@ FigureLayout layOutFigure(const FigureData& data, const FigureShares& shares,
     }
     double free =
         settings.width - settings.right - layout.plotLeft - settings.gap * static_cast<double>(taxa.size());
-    for (const double panel : {settings.cumulative, settings.total, settings.zones, settings.dendrogram})
-        if (panel > 0)
-            free -= panel + settings.panelGap;
+    for (const PanelKind& panel : panelKinds(settings))
+        if (settings.*panel.width > 0)
+            free -= settings.*panel.width + settings.panelGap;
     shareWidth(layout, settings, free);
     if (!taxa.empty() && layout.mmPerPercent <= leastScale)
         return layout;

@@ -39,7 +39,7 @@ struct FigureLayout {
     double firstDepth = 0; ///< at plotTop + pad
     double lastDepth = 0;  ///< at plotBottom - pad
     std::vector<FigureColumn> columns;
-    FigurePanel cumulative, total, zones, dendrogram;
+    FigurePanel cumulative, total, concentration, zones, dendrogram;
     std::vector<double> y; ///< of each sample
     double pad = 0;
 
@@ -49,8 +49,14 @@ struct FigureLayout {
 
 constexpr double leastScale = 0.1; ///< millimetres to a percent: below, nothing can be read
 
-/// What stands above the panels, from left to right.
-std::array<const char*, 4> panelNames(const FigureSettings& settings);
+/// The panels right of the taxa, from left to right.
+struct PanelKind {
+    FigurePanel FigureLayout::*place;
+    double FigureSettings::*width;
+    const char* id;
+    const char* name; ///< stands above it
+};
+std::array<PanelKind, 5> panelKinds(const FigureSettings& settings);
 
 /// `headings`: height that the group headings need, 0 for none. The scale is 0 or less, and there are no
 /// places of columns, where the page has no room for them.

@@ -28,6 +28,7 @@ const std::vector<NumberSetting> numberSettings = {
     {"panel_gap", &S::panelGap, 0, 30, "mm", "Gap before each", SettingsGroup::panels},
     {"cumulative", &S::cumulative, 0, 200, "mm", "Sum of groups", SettingsGroup::panels},
     {"total", &S::total, 0, 200, "mm", "Sums of individuals", SettingsGroup::panels},
+    {"concentration", &S::concentration, 0, 200, "mm", "Concentration", SettingsGroup::panels},
     {"zones", &S::zones, 0, 200, "mm", "Names of zones", SettingsGroup::panels},
     {"dendrogram", &S::dendrogram, 0, 200, "mm", "Dendrogram", SettingsGroup::panels},
 };

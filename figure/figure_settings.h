@@ -114,6 +114,7 @@ struct FigureSettings {
     double panelGap = 2.5; ///< before each
     double cumulative = 25;
     double total = 9;
+    double concentration = 0;
     double zones = 9;
     double dendrogram = 22;
 

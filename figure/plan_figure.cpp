@@ -3,9 +3,11 @@
 #include "core/number_text.h"
 #include "diagram/coniss.h"
 #include "figure/axis_labels.h"
+#include "figure/caption.h"
 #include "figure/scene.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cmath>
 
@@ -102,6 +104,8 @@ FigureSettings withoutEmptyPanels(FigureSettings settings, const FigurePlan& pla
         settings.zones = 0;
     if (plan.clusters.merges.empty())
         settings.dendrogram = 0;
+    if (!hasConcentrations(plan.data))
+        settings.concentration = 0;
     return settings;
 }
 
@@ -117,7 +121,10 @@ std::string nothingToDraw(const FigurePlan& plan, const std::vector<ShownTaxon>&
         return "No taxon is ticked.";
     if (taxa.empty())
         return "No taxon reaches " + plainDecimal(settings.threshold) + " % in " +
-               decimalText(settings.samples) + (settings.samples == 1 ? " sample." : " samples.");
+               decimalText(settings.samples) + (settings.samples == 1 ? " sample" : " samples") +
+               ": the largest share is " +
+               labelText(*std::max_element(plan.shares.largest.begin(), plan.shares.largest.end()), 0.1) +
+               " %.";
     if (settings.depthFrom && settings.depthTo && *settings.depthFrom >= *settings.depthTo)
         return "The depth axis must end below its beginning.";
     return "";
@@ -228,7 +235,30 @@ FigurePlan planFigure(const FigureData& data, const FigureSettings& chosen, cons
     planZoneLines(scene);
     planFoot(scene);
     findFaults(scene);
+    plan.page.description = figureCaption(plan, settings);
     return plan;
+}
+
+constexpr std::array<double, 10> thresholds = {1, 2, 3, 4, 5, 7, 10, 15, 20, 30}; // percent
+
+FigureSettings firstSettings(const FigureData& data, const LetterWidths& widths)
+{
+    const FigureSettings usual;
+    const auto hasRoom = [&](const FigureSettings& settings) {
+        const FigurePlan plan = planFigure(data, settings, widths);
+        return plan.faults.empty() || plan.layout.columns.empty(); // or nothing to draw
+    };
+    if (hasRoom(usual))
+        return usual;
+    FigureSettings wide = usual;
+    wide.width = 240;
+    wide.height = 150;
+    for (const double threshold : thresholds) {
+        wide.threshold = std::max(usual.threshold, threshold);
+        if (hasRoom(wide))
+            return wide;
+    }
+    return usual;
 }
 
 std::string whatWouldFit(const FigureData& data, const FigureSettings& settings, const LetterWidths& widths)
@@ -244,7 +274,7 @@ std::string whatWouldFit(const FigureData& data, const FigureSettings& settings,
             found.push_back("a header that is computed");
     }
     if (!settings.taxa)
-        for (const double threshold : {1.0, 2.0, 3.0, 4.0, 5.0, 7.0, 10.0, 15.0, 20.0, 30.0}) {
+        for (const double threshold : thresholds) {
             FigureSettings other = settings;
             other.threshold = threshold;
             if (threshold > settings.threshold && fits(other)) {
@@ -262,6 +292,8 @@ std::string whatWouldFit(const FigureData& data, const FigureSettings& settings,
             return;
         }
     };
+    if (settings.zones > 0)
+        larger(&FigureSettings::zones, 60, "a room for names of zones of ");
     if (found.empty())
         larger(&FigureSettings::right, 40, "a right margin of ");
     larger(&FigureSettings::width, 1200, "a width of ");

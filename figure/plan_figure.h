@@ -35,6 +35,10 @@ struct FigurePlan {
 /// The whole figure. Plain computing: the same settings, counts and letters give the same page.
 FigurePlan planFigure(const FigureData& data, const FigureSettings& settings, const LetterWidths& widths);
 
+/// Settings for the first view of a sheet: those by default, or, where they leave no room, a page of 240 x
+/// 150 mm, with the least higher threshold that fits it.
+FigureSettings firstSettings(const FigureData& data, const LetterWidths& widths);
+
 /// What would make a figure with faults printable, as a sentence; empty if nothing was found.
 std::string whatWouldFit(const FigureData& data, const FigureSettings& settings, const LetterWidths& widths);
 

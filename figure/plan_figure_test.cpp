@@ -101,6 +101,13 @@ TEST(PlanFigure, orderAndPlaceOfSamplesGoByDepth)
     const FigurePlan straight = planFigure(before, referenceSettings(), evenLetters);
     EXPECT_EQ(svgText(plan.page), svgText(straight.page)) << "a descending core is the same core";
 
+    turned = sheet;
+    turned.SampleField(5, 2) = turned.SampleField(4, 2) + " recount 2";
+    EXPECT_EQ(figureData(turned, "").samples.size(), samples - 1);
+    EXPECT_TRUE(figureData(turned, "").byDepth) << "a recount does not take the depth axis away";
+    turned.SampleField(5, 2) = "gone recount";
+    EXPECT_EQ(figureData(turned, "").samples.size(), samples);
+
     for (const char* const name : {"A1", "12 cm"}) {
         sheet.SampleField(7, 2) = name;
         const FigurePlan even =
@@ -175,6 +182,54 @@ TEST(PlanFigure, whatDoesNotFitIsRefusedWithWhatWould)
     settings.bottom = 3;
     EXPECT_NE(planFigure(data, settings, evenLetters).faults[0].find("over the lower edge"),
               std::string::npos);
+}
+
+TEST(PlanFigure, theFirstViewOfAnExampleIsAFigure)
+{
+    EXPECT_EQ(firstSettings(exampleData("dallican_pollen"), evenLetters), FigureSettings());
+    EXPECT_EQ(firstSettings(figureData(SheetTables(), ""), evenLetters), FigureSettings());
+    for (const char* const name : {"khil_phytoliths", "cradle_lake_diatoms"}) {
+        const FigureData data = exampleData(name);
+        const FigureSettings first = firstSettings(data, evenLetters);
+        EXPECT_TRUE(planFigure(data, first, evenLetters).faults.empty()) << name;
+        EXPECT_EQ(first.width, 240);
+    }
+}
+
+TEST(PlanFigure, concentrationsStandInAPanelOfTheirOwn)
+{
+    FigureData data = exampleData("dallican_pollen");
+    FigureSettings settings = referenceSettings();
+    settings.concentration = 18;
+    EXPECT_EQ(groupOf(planFigure(data, settings, evenLetters).page, "concentration"), nullptr);
+    MeasuredConcentration measured;
+    measured.unit = "ml";
+    measured.sums[0] = {30000, 20000, 50000};
+    data.samples[4].concentration = measured;
+    measured.sums[0] = {0, 0, 0};
+    data.samples[5].concentration = measured;
+    const FigurePlan plan = planFigure(data, settings, evenLetters);
+    EXPECT_TRUE(plan.faults.empty()) << plan.faults[0];
+    const PageGroup* const panel = groupOf(plan.page, "concentration");
+    ASSERT_NE(panel, nullptr);
+    EXPECT_DOUBLE_EQ(*panel->left, plan.layout.total.right() + settings.panelGap);
+    const double scale = 18.0 / 50000;
+    const PageMark* const bar = &plan.page.marks[panel->first + 1];
+    ASSERT_EQ(bar->points, 2) << "nothing was measured to be there, or nothing was measured";
+    const PagePoint end = plan.page.points[bar->firstPoint + 1];
+    EXPECT_NEAR(end.x, *panel->left + 30000 * scale, 1e-9);
+    EXPECT_EQ(end.y, plan.layout.y[4]);
+    const std::uint32_t limits = plan.page.marks[panel->first + 2].firstPoint;
+    EXPECT_NEAR(plan.page.points[limits].x, *panel->left + 20000 * scale, 1e-9);
+    EXPECT_NEAR(plan.page.points[limits + 1].x, *panel->left + 50000 * scale, 1e-9);
+    const std::string svg = svgText(plan.page);
+    EXPECT_NE(svg.find("1000 per ml"), std::string::npos);
+    EXPECT_NE(svg.find("<desc>dallican_pollen. Percent of all individuals."), std::string::npos);
+    EXPECT_NE(svg.find("Concentrations: all individuals by a marker, with 95 % limits"), std::string::npos);
+
+    data.samples[7].concentration = measured;
+    data.samples[7].concentration->unit = "g";
+    EXPECT_EQ(planFigure(data, settings, evenLetters).faults.size(), 1) << "millilitres and grams";
 }
 
 TEST(PlanFigure, tickedTaxaStandInTheirOrderAndAgesBetweenDatedDepths)

@@ -7,13 +7,6 @@
 
 namespace {
 
-void beginPanel(Scene& scene, const char* id, int index, const FigurePanel& panel)
-{
-    const char* const name = panelNames(scene.settings)[index];
-    scene.page.begin({id, name, panel.left, panel.width});
-    scene.nameAbove(panel.left, {{name, false}});
-}
-
 /// Percent of the basis up to the end of each group, index [group][sample].
 std::vector<std::vector<double>> stackedGroups(const FigurePlan& plan)
 {
@@ -33,7 +26,7 @@ void planCumulative(Scene& scene)
     const FigurePanel& panel = scene.layout.cumulative;
     const auto& y = scene.layout.y;
     const double scale = panel.width / 100;
-    beginPanel(scene, "cumulative", 0, panel);
+    scene.beginPanel(&FigureLayout::cumulative);
     const auto stacked = stackedGroups(scene.plan);
     const std::vector<SampleRun> runs = unbroken(scene.plan.shares);
     for (std::size_t group = 0; group < stacked.size(); ++group)
@@ -60,7 +53,7 @@ void planTotals(Scene& scene)
     const FigurePanel& panel = scene.layout.total;
     const auto& y = scene.layout.y;
     const auto& sums = scene.plan.shares.sums;
-    beginPanel(scene, "total", 1, panel);
+    scene.beginPanel(&FigureLayout::total);
     double closest = 1e9;
     for (std::size_t i = 1; i < y.size(); ++i)
         closest = std::min(closest, y[i] - y[i - 1]);
@@ -88,11 +81,15 @@ void planTotals(Scene& scene)
 void planZoneNames(Scene& scene)
 {
     const FigurePanel& panel = scene.layout.zones;
-    beginPanel(scene, "zones", 2, panel);
-    for (const FigureZone& zone : scene.plan.zones)
+    scene.beginPanel(&FigureLayout::zones);
+    for (const FigureZone& zone : scene.plan.zones) {
+        if (scene.width(zone.name, axisLetters) > panel.width + 1)
+            scene.plan.faults.push_back("\xE2\x80\x9C" + zone.name +
+                                        "\xE2\x80\x9D is wider than the room for names of zones.");
         scene.text(panel.left + panel.width / 2,
                    (zone.top + zone.bottom) / 2 + 0.36 * axisLetters * millimetresPerPoint, zone.name,
                    axisLetters, Anchor::middle);
+    }
     scene.page.end();
 }
 
@@ -100,7 +97,7 @@ void planDendrogram(Scene& scene)
 {
     const FigurePanel& panel = scene.layout.dendrogram;
     const FigureClusters& clusters = scene.plan.clusters;
-    beginPanel(scene, "dendrogram", 3, panel);
+    scene.beginPanel(&FigureLayout::dendrogram);
     double highest = 0;
     for (const ClusterMerge& merge : clusters.merges)
         highest = std::max(highest, merge.total);
@@ -136,6 +133,7 @@ void planDendrogram(Scene& scene)
         scene.numberBelow(ticks.back(), labelText(height, step));
     }
     scene.axisBelow(panel.left, panel.right(), ticks);
+    scene.unitBelow(panel, clusters.unweighted ? "Sum of squared distances" : "Total sum of squares");
     scene.page.end();
 }
 
@@ -148,6 +146,8 @@ void planPanels(Scene& scene)
         planCumulative(scene);
     if (layout.total.width > 0)
         planTotals(scene);
+    if (layout.concentration.width > 0)
+        planConcentration(scene);
     if (layout.zones.width > 0)
         planZoneNames(scene);
     if (layout.dendrogram.width > 0)

@@ -124,29 +124,20 @@ void planHeadings(Scene& scene)
     scene.page.end();
 }
 
-/// What the figure shows, in one line or two, left of what the dendrogram's axis counts.
+/// What the figure shows, in one line or two, left of what the axes of panels count.
 void planFoot(Scene& scene)
 {
     const FigureSettings& settings = scene.settings;
     const FigureLayout& layout = scene.layout;
     scene.page.begin({"foot", "Foot line"});
-    double end = settings.width - settings.right;
-    std::string unit;
-    if (layout.dendrogram.width > 0) {
-        unit = settings.method == ClusterMethod::grimm ? "Total sum of squares" : "Sum of squared distances";
-        const double width = scene.width(unit, smallLetters);
-        const double middle = std::min(layout.dendrogram.left + layout.dendrogram.width / 2, end - width / 2);
-        end = middle - width / 2 - 2;
-        scene.text(middle, layout.plotBottom + 6.6, unit, smallLetters, Anchor::middle);
-    }
 
     std::vector<std::string> parts = {settings.foot.empty() ? basisSentence(scene.plan.data, settings.basis)
                                                             : settings.foot};
     const bool byClusters = settings.zonesBy == ZonesBy::stick && scene.plan.zones.size() > 1;
     if (layout.dendrogram.width > 0 || byClusters)
         parts.push_back("Clusters: " + methodName(settings));
-    const auto room = end - layout.plotLeft;
-    std::string line = parts[0];
+    const double room = scene.footEnd() - layout.plotLeft;
+    const std::string line = parts[0];
     if (parts.size() > 1 && scene.width(line + ". " + parts[1], smallLetters) <= room)
         parts = {line + ". " + parts[1]};
     const bool exaggerated = settings.exaggeration > 1 &&

@@ -53,6 +53,29 @@ void Scene::numberBelow(double x, const std::string& number)
     text(x, layout.plotBottom + baseLine, number, smallLetters, Anchor::middle);
 }
 
+void Scene::beginPanel(FigurePanel FigureLayout::*place)
+{
+    const auto kinds = panelKinds(settings);
+    const PanelKind& kind =
+        *std::find_if(kinds.begin(), kinds.end(), [&](const PanelKind& one) { return one.place == place; });
+    const FigurePanel& panel = layout.*place;
+    page.begin({kind.id, kind.name, panel.left, panel.width});
+    nameAbove(panel.left, {{kind.name, false}});
+}
+
+void Scene::unitBelow(const FigurePanel& panel, const std::string& unit)
+{
+    constexpr double baseLine = 6.6;
+    constexpr double apart = 2;
+    const double half = width(unit, smallLetters) / 2;
+    const double middle =
+        std::max(unitsEnd_ + apart + half,
+                 std::min(panel.left + panel.width / 2, settings.width - settings.right - half));
+    text(middle, layout.plotBottom + baseLine, unit, smallLetters, Anchor::middle);
+    footEnd_ = std::min(footEnd_, middle - half - apart);
+    unitsEnd_ = middle + half;
+}
+
 std::vector<SampleRun> unbroken(const FigureShares& shares)
 {
     std::vector<SampleRun> runs;

@@ -16,7 +16,8 @@ constexpr Stroke thinLine{black, 0.35};
 class Scene {
 public:
     Scene(FigurePlan& planned, const FigureSettings& chosen, const LetterWidths& letterWidths)
-        : plan(planned), settings(chosen), layout(planned.layout), page(planned.page), widths_(letterWidths)
+        : plan(planned), settings(chosen), layout(planned.layout), page(planned.page), widths_(letterWidths),
+          footEnd_(chosen.width - chosen.right)
     {
     }
 
@@ -34,15 +35,23 @@ public:
     {
         text(x, y, std::vector<TextRun>{{words, false}}, points, anchor, angle);
     }
+    /// Begins the group of a panel, with its name above.
+    void beginPanel(FigurePanel FigureLayout::*place);
     /// What stands turned above a column or panel.
     void nameAbove(double left, std::vector<TextRun> runs);
     /// A horizontal axis below the plot from `left` to `right` with its ticks.
     void axisBelow(double left, double right, const std::vector<double>& ticks);
     /// A number below the plot. One that would touch the number before it is left out: ticks tell it.
     void numberBelow(double x, const std::string& number);
+    /// What the numbers below a panel count. The foot line ends left of it.
+    void unitBelow(const FigurePanel& panel, const std::string& unit);
+    /// Left end of the first unit below, or the right margin.
+    double footEnd() const { return footEnd_; }
 
 private:
     const LetterWidths& widths_;
+    double footEnd_;
+    double unitsEnd_ = -1e9;   ///< right end of the unit below written last
     double numbersEnd_ = -1e9; ///< right end of the number below the plot written last
 };
 
@@ -64,6 +73,7 @@ void planColumns(Scene& scene);
 void planHeadings(Scene& scene);
 void planAxes(Scene& scene);
 void planPanels(Scene& scene);
+void planConcentration(Scene& scene);
 void planZoneLines(Scene& scene);
 void planFoot(Scene& scene);
 /// Height of the headings, or of the legend where groups do not stand together; 0 for none. It goes by the

@@ -9,6 +9,7 @@
 #include "platform/key_names.h"
 #include "platform/ports.h"
 
+#include <utility>
 #include <vector>
 
 namespace {
@@ -87,6 +88,7 @@ void frmKeyCode_Text1_KeyPress(int key, char32_t character)
         return;
     if (sheet.LastKeyDown == digit3 && character != '3') {
         putBack(key);
+        sheet.LastKeyDown = noKeyYet;
         ports.dialogs->ask("Using double quotation mark causes fatal error. Please choose another key.",
                            "Are you an AZERTY keyboard user?", Buttons::ok, Icon::exclamation);
         return;
@@ -105,6 +107,27 @@ void frmKeyCode_Text1_LostFocus(int key)
         nameOnKeyUp(frmKeyCode.Text1[key], sheet.LastKeyDown);
     if (frmKeyCode.Text1[key].text.empty())
         putBack(key);
+}
+
+int keyBehind(int key)
+{
+    const auto place = [](int of) {
+        const KeyBox& box = frmKeyCode.Text1[of];
+        return std::pair(box.top, box.left);
+    };
+    if (sheet.LastKeyDown == noKeyYet)
+        return 0;
+    int next = 0;
+    for (int other = 1; other <= keysPerLayer; ++other)
+        if (place(key) < place(other) && (next == 0 || place(other) < place(next)))
+            next = other;
+    return next;
+}
+
+int functionBehind(int function)
+{
+    constexpr int last = 3;
+    return function < last && sheet.LastKeyDown != noKeyYet ? function + 1 : -1;
 }
 
 void frmKeyCode_Text4_GotFocus(int function)

@@ -11,6 +11,11 @@ void frmKeyCode_Text1_KeyPress(int key, char32_t character);
 void frmKeyCode_Text1_KeyUp(int key, int keyCode);
 void frmKeyCode_Text1_LostFocus(int key);
 
+/// Where the keys go on to: the key that stands behind `key`, by rows as they are seen, or the function
+/// behind `function`. 0 or -1: there is none, or the box has taken no key.
+int keyBehind(int key);
+int functionBehind(int function);
+
 /// `function`: 0 Shift-1, 1 Shift-2, 2 Undo, 3 Save; 4 gives the upper row of the grid the nine codes from
 /// the pressed one on.
 void frmKeyCode_Text4_GotFocus(int function);

@@ -6,6 +6,7 @@
 #include "core/main_screen.h"
 #include "core/number_text.h"
 #include "core/sheet_state.h"
+#include "keys/delivered_keys.h"
 #include "keys/key_commit.h"
 #include "keys/key_settings.h"
 #include "platform/ports.h"
@@ -140,6 +141,16 @@ void frmKeyCode_Command5_Click()
     for (int position = 1; position <= keysPerLayer; ++position)
         sheet.KeySetting[position].Number = frmKeyCode.Text3[position].text = decimalText(position);
     moveKeysToNumbers();
+}
+
+void frmKeyCode_DeliveredKeys_Click()
+{
+    for (auto* const map : {&frmKeyCode.Text1, &frmKeyCode.Text3})
+        for (KeyBox& box : *map)
+            box.red = false;
+    for (KeyBox& box : frmKeyCode.Text4)
+        box.red = false;
+    showKeySettings(deliveredKeySettings());
 }
 
 void frmKeyCode_Text3_GotFocus(int position)

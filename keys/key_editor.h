@@ -50,6 +50,9 @@ void frmKeyCode_Command2_Click();
 /// "Default": each key number goes to its own place, at once in the key settings too.
 void frmKeyCode_Command5_Click();
 
+/// "Delivered keys": the boxes take what was delivered with the program; nothing is stored before "OK".
+void frmKeyCode_DeliveredKeys_Click();
+
 /// A visit of a box of the key number map, position 1 to 45: the number is typed.
 void frmKeyCode_Text3_GotFocus(int position);
 void frmKeyCode_Text3_LostFocus(int position);

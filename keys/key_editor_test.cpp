@@ -128,6 +128,49 @@ TEST_F(KeyEditor, theKeyOfTheDigit3MayTypeNothingElse)
     EXPECT_EQ("c 67", capture(9, 51, U'"'));
 }
 
+TEST_F(KeyEditor, theKeysGoOnByRowsAsTheyAreSeenOnceOneIsTaken)
+{
+    const auto taken = [](int key) {
+        frmKeyCode_Text1_GotFocus(key);
+        EXPECT_EQ(keyBehind(key), 0) << "none is taken yet";
+        press(key, 'Q', 'q');
+        return keyBehind(key);
+    };
+    EXPECT_EQ(taken(28), 29);
+    EXPECT_EQ(taken(30), 34);
+    EXPECT_EQ(taken(42), 31);
+    EXPECT_EQ(taken(27), 0) << "the last one";
+    type(1, "45"); // stands twice: key 45 is seen at the later position
+    type(45, "1");
+    EXPECT_EQ(taken(33), 37);
+    EXPECT_EQ(taken(44), 1);
+    EXPECT_EQ(functionBehind(0), 1);
+    EXPECT_EQ(functionBehind(3), -1);
+    EXPECT_EQ(functionBehind(4), -1);
+
+    dialogs.expect("Using double quotation mark causes fatal error. Please choose another key.",
+                   "Are you an AZERTY keyboard user?");
+    frmKeyCode_Text1_GotFocus(28);
+    press(28, '3', '"');
+    EXPECT_EQ(keyBehind(28), 0) << "it was refused";
+}
+
+TEST_F(KeyEditor, theDeliveredKeysComeBackAndAreStoredByOkAlone)
+{
+    capture(1, 'P', 'p');
+    captureFunction(0, 'W', 'w');
+    type(1, "45");
+    f.Text1[2].red = f.Text4[0].red = true;
+    const KeySettingTable before = sheet.KeySetting;
+    frmKeyCode_DeliveredKeys_Click();
+    EXPECT_TRUE(f.Text1[1].text == "q" && f.Text2[1].text == "81" && f.Text3[1].text == "1");
+    EXPECT_TRUE(f.Text4[0].text == ";" && f.Text2[46].text == "186" && f.Text2[48].text == "186");
+    EXPECT_FALSE(f.Text1[2].red || f.Text4[0].red);
+    EXPECT_EQ(f.Text1[1].top, f.Text3[1].top);
+    for (int row = 0; row < keySettingRows; ++row)
+        EXPECT_EQ(sheet.KeySetting[row].Code, before[row].Code);
+}
+
 TEST_F(KeyEditor, functionKeysFillTheirCodes)
 {
     EXPECT_EQ("[Up]", captureFunction(0, 38));

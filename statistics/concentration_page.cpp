@@ -7,10 +7,10 @@
 #include "statistics/csv_line.h"
 #include "statistics/laboratory.h"
 #include "statistics/recount.h"
+#include "statistics/sheet_concentrations.h"
 #include "statistics/statistics_form.h"
 #include "statistics/statistics_pages.h"
 #include "statistics/written_numbers.h"
-#include "tables/exported_taxa.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,29 +18,6 @@
 namespace {
 
 const char* const noMarker = "(none)";
-
-/// What a concentration is of: a taxon or a sum.
-struct Counted {
-    std::string name;
-    double x = 0;
-};
-
-/// The three sums without the marker, then the taxa of the sheet in its order.
-std::vector<Counted> countedIn(int sample, const std::vector<ExportedTaxon>& taxa, int marker)
-{
-    std::vector<Counted> counted = {{sumName(0)}, {sumName(1)}, {sumName(2)}};
-    for (const ExportedTaxon& taxon : taxa) {
-        const int slot = taxon.keyIndex;
-        if (slot == marker)
-            continue;
-        const double x = sheet.Count(sample, slot);
-        counted.push_back({taxon.name, x});
-        counted[0].x += x;
-        counted[1].x += wholeNumber(sheet.TaxonRecord[slot].Subtotal1) != 0 ? x : 0;
-        counted[2].x += wholeNumber(sheet.TaxonRecord[slot].Subtotal2) != 0 ? x : 0;
-    }
-    return counted;
-}
 
 /// Concentration or influx in four cells: value, error, limits.
 void addCells(StatTable::Row& row, const std::optional<Concentration>& found)

@@ -28,6 +28,16 @@ void tell(const std::string& text)
     ports.dialogs->ask(text, dialogTitle, Buttons::ok, Icon::exclamation);
 }
 
+/// Whether a file is there that may not be readable.
+bool isThere(const std::string& path)
+{
+    const std::size_t separator = path.find_last_of("\\/");
+    if (separator == std::string::npos)
+        return false;
+    const auto names = ports.files->list(path.substr(0, separator));
+    return std::find(names.begin(), names.end(), path.substr(separator + 1)) != names.end();
+}
+
 bool hasData()
 {
     return !laboratory.marker.empty() || !laboratory.samples.empty();
@@ -126,8 +136,14 @@ void readLaboratory()
         return;
     laboratory.path = labPathOf(sheet.SheetPath);
     const auto bytes = ports.files->read(laboratory.path, labLimit);
-    if (!bytes)
+    if (!bytes) {
+        if (isThere(laboratory.path)) {
+            laboratory.trouble = "The laboratory data in " + toCodePageFromUtf8(laboratory.path) +
+                                 " cannot be read and stay as they are.";
+            tell(laboratory.trouble);
+        }
         return;
+    }
     laboratory.known = fingerprintOf(*bytes);
     LabTable table = readLabText(fileTextInCodePage(*bytes));
     if (!table.fault.empty()) {

@@ -3,6 +3,7 @@
 #include "core/program_test.h"
 #include "platform/code_page.h"
 #include "statistics/recount.h"
+#include "statistics/sheet_concentrations.h"
 
 namespace {
 
@@ -136,6 +137,37 @@ TEST_F(LaboratoryTest, LeavesAloneWhatItCannotRead)
     setLabField(1, labTablets, "3");
     chooseMarker("Lycopodium");
     EXPECT_EQ(onDisk(), before);
+
+    const std::string tooLarge(17u << 20, ' ');
+    files.contents[path] = tooLarge;
+    dialogs.expect("The laboratory data in /cores/Lake1.lab.csv cannot be read and stay as they are.",
+                   "Laboratory data");
+    readLaboratory();
+    setLabField(1, labTablets, "3");
+    EXPECT_EQ(onDisk(), tooLarge);
+}
+
+TEST_F(LaboratoryTest, TellsTheConcentrationsOfTheSums)
+{
+    chooseMarker("Lycopodium");
+    sheet.Count(2, 7) = 50;
+    sheet.Count(2, 1) = 300;
+    EXPECT_FALSE(concentrationOfSums(2)) << "no tablets are known";
+    const LabFields fields = {"1", "18584", "371", "1", "ml", "0.05"};
+    for (int column = 0; column < labColumns; ++column)
+        setLabField(2, static_cast<LabColumn>(column), fields[column]);
+    sheet.TaxonRecord[1].Subtotal2 = "1";
+    const auto found = concentrationOfSums(2);
+    ASSERT_TRUE(found && found->sums[0]);
+    EXPECT_NEAR(found->sums[0]->value, 111504, 1e-6);
+    EXPECT_NEAR(found->sums[0]->upper, 160530.2037, 1e-3);
+    EXPECT_EQ(found->sums[1]->value, 0) << "no taxon of it was seen";
+    EXPECT_EQ(found->sums[1]->upper, 0);
+    EXPECT_EQ(found->sums[2], found->sums[0]);
+    EXPECT_EQ(found->unit, "ml");
+    EXPECT_FALSE(concentrationOfSums(1));
+    recount.hiddenSerial = wholeNumber(sheet.SampleField(2, 1));
+    EXPECT_FALSE(concentrationOfSums(2)) << "while it is counted again";
 }
 
 TEST_F(LaboratoryTest, LeavesAloneWhatAnotherProgramHasChanged)

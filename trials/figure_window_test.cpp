@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QImage>
 #include <QLabel>
@@ -66,6 +67,20 @@ TEST_F(FigureWidgets, settingsChangeThePageAndWhatDoesNotFitIsSaid)
     EXPECT_EQ(frmFigure.settings.ages.size(), 2);
     emit part<QLineEdit>("cuts")->textEdited("500; 550");
     EXPECT_EQ(frmFigure.settings.cuts, (std::vector<double>{500, 550}));
+    EXPECT_EQ(frmFigure.settings.zonesBy, ZonesBy::hand);
+    EXPECT_FALSE(part<QDoubleSpinBox>("concentration")->isEnabled()) << "there is no marker";
+}
+
+TEST_F(FigureWidgets, choicesOfZonesGoTogether)
+{
+    emit part<QComboBox>("zones_by")->activated(static_cast<int>(ZonesBy::hand));
+    EXPECT_EQ(frmFigure.settings.cuts, (std::vector<double>{476, 547})) << "the lines that were on show";
+    emit part<QComboBox>("zones_by")->activated(static_cast<int>(ZonesBy::stick));
+    emit part<QComboBox>("method")->activated(static_cast<int>(ClusterMethod::unweighted));
+    EXPECT_EQ(frmFigure.settings.zonesBy, ZonesBy::none) << "the variant has no broken stick";
+    EXPECT_TRUE(frmFigure.plan.faults.empty());
+    emit part<QComboBox>("zones_by")->activated(static_cast<int>(ZonesBy::stick));
+    EXPECT_EQ(frmFigure.settings.method, ClusterMethod::grimm);
 }
 
 TEST_F(FigureWidgets, taxaAreTickedAndDragged)
@@ -74,7 +89,9 @@ TEST_F(FigureWidgets, taxaAreTickedAndDragged)
     const auto shown = static_cast<int>(frmFigure.plan.layout.columns.size());
     ASSERT_GT(list->count(), shown);
     EXPECT_EQ(list->item(shown)->checkState(), Qt::Unchecked);
+    EXPECT_TRUE(part<QDoubleSpinBox>("threshold")->isEnabled());
     list->item(0)->setCheckState(Qt::Unchecked);
+    EXPECT_FALSE(part<QDoubleSpinBox>("threshold")->isEnabled()) << "the ticks decide";
     EXPECT_EQ(frmFigure.plan.layout.columns.size(), shown - 1);
     const std::string last = frmFigure.settings.taxa->back();
     list->model()->moveRow({}, shown - 2, {}, 0);

@@ -91,6 +91,40 @@ TEST_F(SmallWindows, theSummaryFillsItsWindow)
     EXPECT_TRUE(isMainEnabled() && !frmSummary.visible);
 }
 
+TEST_F(SmallWindows, f1OpensThePageOfTheWindowAndItsSearchGoesThroughAllPages)
+{
+    for (const Form* const one : forms()) {
+        EXPECT_NE(pageOf(one->name), pageOf("")) << one->name;
+        EXPECT_TRUE(QFile::exists(QString::fromStdString(DELIVERED_FOLDER "/docs/" + pageOf(one->name))))
+            << one->name;
+    }
+    const std::string folder = std::exchange(ports.programFolder, DELIVERED_FOLDER);
+    open("mnuFind", "frmFind");
+    ASSERT_TRUE(waitFor([this] { return form->isActiveWindow(); }));
+    QTest::keyClick(form->windowHandle(), Qt::Key_F1);
+    ASSERT_TRUE(frmManual.visible && form->isVisible());
+    const auto all = QApplication::topLevelWidgets();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [](const QWidget* one) { return one->objectName() == "frmManual"; });
+    ASSERT_NE(found, all.end());
+    QWidget* const manual = *found;
+    auto* const pages = manual->findChild<QTextBrowser*>();
+    EXPECT_TRUE(pages->toPlainText().startsWith("Find"));
+    auto* const searched = manual->findChild<QLineEdit*>("searched");
+    searched->setText("which no page holds");
+    QTest::keyClick(searched, Qt::Key_Return);
+    EXPECT_TRUE(pages->toPlainText().startsWith("Find"));
+    searched->setText("parameter name");
+    QTest::keyClick(searched, Qt::Key_Return);
+    EXPECT_EQ(pages->textCursor().selectedText().toLower(), "parameter name");
+    EXPECT_TRUE(pages->source().fileName() == "rename.md") << pages->source().toString().toStdString();
+    QTest::keyClick(manual, Qt::Key_F1);
+    EXPECT_EQ(pages->source().fileName(), "manual.md");
+    ports.programFolder = folder;
+    manual->close();
+    form->close();
+}
+
 TEST_F(SmallWindows, theManualIsReadWhileCountingGoesOn)
 {
     const std::string folder = std::exchange(ports.programFolder, DELIVERED_FOLDER);

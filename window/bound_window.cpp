@@ -2,6 +2,7 @@
 
 #include "core/editing.h"
 #include "core/main_screen.h"
+#include "extras/manual.h"
 #include "platform/qt/text.h"
 #include "window/capture_box.h"
 #include "window/main_window.h"
@@ -18,6 +19,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSlider>
 #include <algorithm>
 #include <cassert>
@@ -43,6 +45,11 @@ Widget& as(QWidget* widget)
 BoundWindow::BoundWindow(QWidget& self, MainWindow& main, std::vector<ControlRow> table)
     : self_(self), main_(main), table_(std::move(table))
 {
+    // Where F1 is a key that counts, or is being captured, it never gets here.
+    auto* const help = new QShortcut(Qt::Key_F1, &self);
+    help->setObjectName("help");
+    QObject::connect(help, &QShortcut::activated, &self,
+                     [this] { runEvent([this] { openPageOf(self_.objectName().toStdString()); }); });
 }
 
 Control BoundWindow::controlOf(const QObject* widget)

@@ -1,6 +1,7 @@
 #include "window/capture_box.h"
 
 #include <QKeyEvent>
+#include <utility>
 
 CaptureBox::CaptureBox()
 {
@@ -48,10 +49,13 @@ void CaptureBox::keyWentDown(int keyCode, const QString& typed)
 void CaptureBox::keyCameUp(int keyCode)
 {
     taker_({keyCode, false, 0});
-    if (!leavesAfterKey_ || keyCode != lastDown_)
+    if (keyCode != lastDown_)
         return;
-    leavesAfterKey_ = false;
-    comeAnew(Qt::TabFocusReason);
+    const bool byKeyboard = std::exchange(leavesAfterKey_, false);
+    if (QWidget* const next = next_())
+        next->setFocus(byKeyboard ? Qt::TabFocusReason : Qt::OtherFocusReason);
+    else if (byKeyboard)
+        comeAnew(Qt::TabFocusReason);
 }
 
 /// Else a dead key would wait for the letter that it belongs to.

@@ -3,6 +3,7 @@
 #include "core/main_screen.h"
 #include "core/sample_sort.h"
 #include "core/sheet_state.h"
+#include "diagram/diagram_hand.h"
 #include "diagram/diagram_mouse.h"
 #include "diagram/diagram_window.h"
 #include "platform/qt/text.h"
@@ -101,6 +102,7 @@ DiagramWindow::DiagramWindow(MainWindow& main) : BoundWindow(*this, main, diagra
     buttons_ = sampleButtons();
     panel_ = samplePanel();
     corner_ = corner();
+    sample_->installEventFilter(this);
     for (QWidget* const part : {buttons_, panel_, corner_}) {
         part->setParent(surface);
         part->setMouseTracking(true);
@@ -356,8 +358,19 @@ bool DiagramWindow::eventFilter(QObject* target, QEvent* event)
         return false;
     case QEvent::ContextMenu:
     case QEvent::KeyPress:
+        if (target == sample_ && event->type() == QEvent::KeyPress)
+            return arrowKey(target, static_cast<QKeyEvent&>(*event));
         return (isPicture || target == names_) && keyOnPicture(static_cast<SurfaceView*>(target), *event);
     case QEvent::Wheel: // a turn on the way elsewhere must not change the sample
+        if (isPicture || target == names_) {
+            const auto& wheel = static_cast<QWheelEvent&>(*event);
+            const QPoint turn = wheel.angleDelta();
+            runEvent([&] {
+                turnWheel(turn.y() != 0 ? turn.y() : turn.x(),
+                          wheel.modifiers().testFlag(Qt::ControlModifier));
+            });
+            return true;
+        }
         return qobject_cast<QComboBox*>(target) != nullptr;
     case QEvent::MouseMove:
         if (isPicture)

@@ -42,6 +42,7 @@ private:
     void takeSize(QSize wanted);
     void presentPanel();
     bool pictureEvent(SurfaceView* view, QMouseEvent& event);
+    bool arrowKey(const QObject* target, const QKeyEvent& key);
     bool keyOnPicture(SurfaceView* view, QEvent& event);
 
     QLabel* notice_ = nullptr;

@@ -1,6 +1,7 @@
 // The menus of the diagram window: its bar and the pop-ups of its pictures, and the keys that these take.
 
 #include "diagram/coniss_window.h"
+#include "diagram/diagram_hand.h"
 #include "diagram/diagram_window.h"
 #include "diagram/figures.h"
 #include "window/diagram_window.h"
@@ -15,7 +16,8 @@
 
 namespace {
 
-const std::vector<MenuRow> menus = {{"mnuBasis", "% &Basis", nullptr},
+const std::vector<MenuRow> menus = {{"mnuDiagramFile", "&File", nullptr},
+                                    {"mnuBasis", "% &Basis", nullptr},
                                     {"mnuDrawMode", "&Style", nullptr},
                                     {"mnuColour", "Colour", "mnuDrawMode"},
                                     {"nmuTools", "&Tools", nullptr},
@@ -28,6 +30,10 @@ std::vector<EntryRow> entryTable()
 {
     DiagramForm& f = frmDiagram;
     return {
+        {"mnuDiagramFile", "mnuSavePicture3", "Save picture...", nullptr, mnuSavePicture_Click},
+        {"mnuDiagramFile", "mnuCopyDiagram3", "Copy", nullptr, mnuCopyDiagram_Click},
+        {"mnuDiagramFile", "mnuSaveConiss3", "Save matrix", &diagramHand.mnuSaveConiss, mnuSaveConiss_Click},
+
         {"mnuBasis", "mnuSub1", "Subtotal-1", &f.mnuSub1, {frmDiagram_Basis_Click, 1}, true},
         {"mnuBasis", "mnuSub2", "Subtotal-2", &f.mnuSub2, {frmDiagram_Basis_Click, 2}, true},
         {"mnuBasis", "mnuAll", "All total", &f.mnuAll, {frmDiagram_Basis_Click, 0}, true},
@@ -82,6 +88,21 @@ void DiagramWindow::makeMenus()
     for (const EntryRow& entry : entryTable())
         entries.push_back(entry);
     BoundWindow::makeMenus(*menuBar(), menus, entries);
+    connect(menuNamed("mnuDiagramFile"), &QMenu::aboutToShow, this,
+            [this] { runPassing(mnuDiagramFile_Open); });
+}
+
+/// Up and down pick a sample, with Ctrl they move it; on the slider they pick by themselves.
+bool DiagramWindow::arrowKey(const QObject* target, const QKeyEvent& key)
+{
+    const int step = key.key() == Qt::Key_Up ? -1 : key.key() == Qt::Key_Down ? 1 : 0;
+    const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeypadModifier;
+    if (step == 0 || (held != Qt::NoModifier && held != Qt::ControlModifier))
+        return false;
+    if (held == Qt::NoModifier && target == sample_)
+        return false;
+    runEvent([&] { held == Qt::NoModifier ? pickSample(step) : carryPickedSample(step); });
+    return true;
 }
 
 /// A picture with the focus opens its menu by the menu key, and the arrows scroll through the taxa.
@@ -96,6 +117,8 @@ bool DiagramWindow::keyOnPicture(SurfaceView* view, QEvent& event)
     }
     if (event.type() != QEvent::KeyPress)
         return false;
+    if (arrowKey(view, static_cast<QKeyEvent&>(event)))
+        return true;
     constexpr std::pair<int, QAbstractSlider::SliderAction> scrolls[] = {
         {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
         {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},

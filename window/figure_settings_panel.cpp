@@ -2,12 +2,8 @@
 
 #include "core/number_text.h"
 #include "figure/figure_form.h"
-#include "window/main_window.h"
+#include "window/calm_boxes.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,17 +16,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-/// The wheel over a box scrolls the panel: it must not change a setting in passing.
-class CalmSpin : public QDoubleSpinBox {
-protected:
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-};
-
-class CalmChoice : public QComboBox {
-protected:
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-};
 
 QString numberText(double value)
 {
@@ -63,16 +48,25 @@ FigureSettingsPanel::FigureSettingsPanel(std::function<void(const Change&)> chan
     whole->setSpacing(2);
     const char* const captions[] = {"Page", "Taxa", "Style", "Axes", "Zones", "Panels"};
     for (const char* const caption : captions)
-        addGroup(whole, caption, forms_.size() < 2);
+        addGroup(whole, caption, groups_.size() < 2);
     whole->addStretch(1);
     addPage();
     addTaxa();
     addStyle();
     addAxes();
     addZones();
-    addNumbers(SettingsGroup::panels);
+    addPanels();
     setWidget(inside);
-    setMinimumWidth(inside->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
+}
+
+/// As wide as its widest group, folded or not, beside the scroll bar.
+void FigureSettingsPanel::fitWidth()
+{
+    int widest = 0;
+    for (const Group& one : std::as_const(groups_))
+        widest = std::max(widest, one.form->minimumSize().width());
+    const QMargins margins = widget()->layout()->contentsMargins();
+    setMinimumWidth(widest + margins.left() + margins.right() + verticalScrollBar()->sizeHint().width());
 }
 
 void FigureSettingsPanel::present(const FigureSettings& settings)
@@ -84,6 +78,35 @@ void FigureSettingsPanel::present(const FigureSettings& settings)
 void FigureSettingsPanel::setTaxaPanel(QWidget* panel)
 {
     group(SettingsGroup::taxa)->insertRow(0, panel);
+    fitWidth();
+    orderTabs();
+}
+
+/// Tab goes down the panel: a head, then what is under it.
+void FigureSettingsPanel::orderTabs()
+{
+    QWidget* before = nullptr;
+    const auto next = [&before](QWidget* widget) {
+        if (before != nullptr)
+            setTabOrder(before, widget);
+        before = widget;
+    };
+    for (const auto& [head, form] : std::as_const(groups_)) {
+        next(head);
+        for (int row = 0; row < form->rowCount(); ++row) {
+            const QLayoutItem* const field = form->itemAt(row, QFormLayout::FieldRole);
+            QWidget* const widget =
+                (field != nullptr ? field : form->itemAt(row, QFormLayout::SpanningRole))->widget();
+            if ((widget->focusPolicy() & Qt::TabFocus) != 0) {
+                next(widget);
+                continue;
+            }
+            for (QWidget* const part : widget->findChildren<QWidget*>())
+                if ((part->focusPolicy() & Qt::TabFocus) != 0 && part->focusProxy() == nullptr &&
+                    part->window() == window()) // lists that drop down are windows
+                    next(part);
+        }
+    }
 }
 
 void FigureSettingsPanel::addGroup(QVBoxLayout* whole, const QString& caption, bool open)
@@ -111,37 +134,7 @@ void FigureSettingsPanel::addGroup(QVBoxLayout* whole, const QString& caption, b
     });
     whole->addWidget(head);
     whole->addWidget(body);
-    forms_ += form;
-}
-
-void FigureSettingsPanel::addNumbers(SettingsGroup which)
-{
-    for (const NumberSetting& setting : numberSettings) {
-        if (setting.group != which)
-            continue;
-        auto* const spin = new CalmSpin;
-        spin->setObjectName(setting.key);
-        spin->setAccessibleName(setting.caption);
-        spin->setRange(setting.least, setting.most);
-        spin->setDecimals(setting.most > 10000 ? 2 : 1);
-        spin->setSingleStep(setting.most > 300 ? 5 : setting.most <= 20 ? 0.5 : 1);
-        spin->setKeyboardTracking(false); // half a number is none
-        if (*setting.unit != 0)
-            spin->setSuffix(QString(" ") + setting.unit);
-        if (setting.most > 10000)
-            spin->setSpecialValueText("chosen");
-        else if (which == SettingsGroup::panels && setting.least == 0 && setting.most >= 200)
-            spin->setSpecialValueText("absent");
-        connect(spin, &QDoubleSpinBox::valueChanged, this, [this, member = setting.member](double value) {
-            changed_([member, value](FigureSettings& settings) { settings.*member = value; });
-        });
-        shows_ += [spin, member = setting.member](const FigureSettings& settings) {
-            const QSignalBlocker quiet(spin);
-            if (spin->value() != settings.*member)
-                spin->setValue(settings.*member);
-        };
-        group(which)->addRow(setting.caption, spin);
-    }
+    groups_.append({head, form});
 }
 
 void FigureSettingsPanel::addPage()
@@ -211,6 +204,14 @@ void FigureSettingsPanel::addTaxa()
         samples->setValue(settings.samples);
     };
     group(SettingsGroup::taxa)->insertRow(2, "in at least", samples);
+    shows_ += [this](const FigureSettings& settings) {
+        for (const char* const name : {"threshold", "samples"}) {
+            auto* const spin = findChild<QDoubleSpinBox*>(name);
+            spin->setEnabled(!settings.taxa);
+            spin->setToolTip(settings.taxa ? "The ticks in the list decide. \"By threshold\" undoes that."
+                                           : "");
+        }
+    };
     addChoice(
         SettingsGroup::taxa, "Names", "names", {"plain", "italic", "by words"},
         [](const FigureSettings& settings) { return static_cast<int>(settings.slant); },
@@ -276,6 +277,13 @@ void FigureSettingsPanel::addAxes()
     addText(SettingsGroup::axes, "Ages are called", "age_title", &FigureSettings::ageTitle);
     addText(SettingsGroup::axes, "Unit of ages", "age_unit", &FigureSettings::ageUnit);
     addNumbers(SettingsGroup::axes);
+    shows_ += [this](const FigureSettings& settings) {
+        const QString depths = QString::fromStdString(settings.depthUnit);
+        findChild<QDoubleSpinBox*>("depth_step")->setSuffix(" " + depths);
+        findChild<QDoubleSpinBox*>("age_step")->setSuffix(" " + QString::fromStdString(settings.ageUnit));
+        findChild<QLineEdit*>("depth_from")->setPlaceholderText("first sample, " + depths);
+        findChild<QLineEdit*>("depth_to")->setPlaceholderText("last sample, " + depths);
+    };
 }
 
 void FigureSettingsPanel::addZones()
@@ -283,7 +291,15 @@ void FigureSettingsPanel::addZones()
     addChoice(
         SettingsGroup::zones, "Zones", "zones_by", {"none", "by the broken stick", "by hand"},
         [](const FigureSettings& settings) { return static_cast<int>(settings.zonesBy); },
-        [](FigureSettings& settings, int index) { settings.zonesBy = static_cast<ZonesBy>(index); });
+        [](FigureSettings& settings, int index) {
+            settings.zonesBy = static_cast<ZonesBy>(index);
+            if (settings.zonesBy == ZonesBy::hand && settings.cuts.empty()) // begins with those on show
+                for (const FigureZone& zone : frmFigure.plan.zones)
+                    if (&zone != &frmFigure.plan.zones.back())
+                        settings.cuts.push_back(zone.lowerLine);
+            if (settings.zonesBy == ZonesBy::stick)
+                settings.method = ClusterMethod::grimm; // the variant has no broken stick
+        });
     QLineEdit* const cuts = addLine(
         SettingsGroup::zones, "Cuts by hand", "cuts",
         [](const FigureSettings& settings) {
@@ -298,6 +314,8 @@ void FigureSettingsPanel::addZones()
             for (const QString& part : parts(text))
                 if (number.match(part).hasMatch())
                     settings.cuts.push_back(part.toDouble());
+            if (!settings.cuts.empty())
+                settings.zonesBy = ZonesBy::hand;
         });
     cuts->setPlaceholderText("depths: 476; 547");
     QLineEdit* const prefix = addLine(
@@ -324,86 +342,26 @@ void FigureSettingsPanel::addZones()
     addChoice(
         SettingsGroup::zones, "Clusters", "method", {"CONISS (Grimm 1987)", "unweighted variant"},
         [](const FigureSettings& settings) { return static_cast<int>(settings.method); },
-        [](FigureSettings& settings, int index) { settings.method = static_cast<ClusterMethod>(index); });
+        [](FigureSettings& settings, int index) {
+            settings.method = static_cast<ClusterMethod>(index);
+            if (settings.method == ClusterMethod::unweighted && settings.zonesBy == ZonesBy::stick)
+                settings.zonesBy = ZonesBy::none;
+        });
     addChoice(
         SettingsGroup::zones, "Fractions", "transform", {"square roots", "as they are"},
         [](const FigureSettings& settings) { return static_cast<int>(settings.transform); },
         [](FigureSettings& settings, int index) { settings.transform = static_cast<Transform>(index); });
 }
 
-void FigureSettingsPanel::addText(SettingsGroup which, const QString& caption, const char* key,
-                                  std::string FigureSettings::*member, const QString& empty)
+void FigureSettingsPanel::addPanels()
 {
-    QLineEdit* const line = addLine(
-        which, caption, key,
-        [member](const FigureSettings& settings) { return QString::fromStdString(settings.*member); },
-        [member](FigureSettings& settings, const QString& text) { settings.*member = text.toStdString(); });
-    line->setPlaceholderText(empty);
-}
-
-QLineEdit* FigureSettingsPanel::addLine(SettingsGroup which, const QString& caption, const char* key,
-                                        std::function<QString(const FigureSettings&)> get,
-                                        std::function<void(FigureSettings&, const QString&)> set)
-{
-    auto* const line = new QLineEdit;
-    line->setObjectName(key);
-    line->setAccessibleName(caption);
-    line->setMaxLength(120);
-    connect(line, &QLineEdit::textEdited, this, [this, set = std::move(set)](const QString& text) {
-        changed_([&](FigureSettings& settings) { set(settings, text); });
-    });
-    shows_ += [line, get = std::move(get)](const FigureSettings& settings) {
-        if (!line->hasFocus() && line->text() != get(settings))
-            line->setText(get(settings));
+    addNumbers(SettingsGroup::panels);
+    shows_ += [this](const FigureSettings&) {
+        auto* const spin = findChild<QDoubleSpinBox*>("concentration");
+        const bool known = hasConcentrations(frmFigure.data);
+        spin->setEnabled(known);
+        spin->setToolTip(known ? "By the marker, with 95 % limits"
+                               : "<qt>Needs a marker, tablets and quantities: View &gt; Statistics..., "
+                                 "Concentration.</qt>");
     };
-    group(which)->addRow(caption, line);
-    return line;
-}
-
-void FigureSettingsPanel::addTick(SettingsGroup which, const QString& caption, const char* key,
-                                  std::function<bool&(FigureSettings&)> member)
-{
-    auto* const tick = new QCheckBox(caption);
-    tick->setObjectName(key);
-    connect(tick, &QCheckBox::clicked, this,
-            [this, member](bool on) { changed_([&](FigureSettings& settings) { member(settings) = on; }); });
-    shows_ += [tick, member](const FigureSettings& settings) {
-        FigureSettings copy = settings;
-        tick->setChecked(member(copy));
-    };
-    group(which)->addRow(tick);
-}
-
-void FigureSettingsPanel::addChoice(SettingsGroup which, const QString& caption, const char* key,
-                                    const QStringList& words, std::function<int(const FigureSettings&)> get,
-                                    std::function<void(FigureSettings&, int)> set)
-{
-    auto* const choice = new CalmChoice;
-    choice->setObjectName(key);
-    choice->setAccessibleName(caption);
-    choice->addItems(words);
-    connect(choice, &QComboBox::activated, this, [this, set = std::move(set)](int index) {
-        changed_([&](FigureSettings& settings) { set(settings, index); });
-    });
-    shows_ += [choice, get = std::move(get)](const FigureSettings& settings) {
-        choice->setCurrentIndex(get(settings));
-    };
-    group(which)->addRow(caption, choice);
-}
-
-void FigureSettingsPanel::addOptional(SettingsGroup which, const QString& caption, const char* key,
-                                      std::optional<double> FigureSettings::*member, const QString& unit,
-                                      const QString& empty)
-{
-    QLineEdit* const line = addLine(
-        which, unit.isEmpty() ? caption : caption + " (" + unit + ")", key,
-        [member](const FigureSettings& settings) {
-            return settings.*member ? numberText(*(settings.*member)) : QString();
-        },
-        [member](FigureSettings& settings, const QString& text) {
-            bool number = false;
-            const double value = text.toDouble(&number);
-            settings.*member = number ? std::optional(value) : std::nullopt;
-        });
-    line->setPlaceholderText(empty);
 }

@@ -24,7 +24,13 @@ public:
     void setTaxaPanel(QWidget* panel);
 
 private:
-    QFormLayout* group(SettingsGroup which) { return forms_[static_cast<int>(which)]; }
+    struct Group {
+        QWidget* head;
+        QFormLayout* form;
+    };
+    QFormLayout* group(SettingsGroup which) { return groups_[static_cast<int>(which)].form; }
+    void fitWidth();
+    void orderTabs();
     void addGroup(QVBoxLayout* whole, const QString& caption, bool open);
     void addNumbers(SettingsGroup which);
     void addPage();
@@ -32,6 +38,7 @@ private:
     void addStyle();
     void addAxes();
     void addZones();
+    void addPanels();
 
     void addText(SettingsGroup which, const QString& caption, const char* key,
                  std::string FigureSettings::*member, const QString& empty = {});
@@ -50,6 +57,6 @@ private:
                        std::function<void(FigureSettings&, const QString&)> set);
 
     std::function<void(const Change&)> changed_;
-    QList<QFormLayout*> forms_;
+    QList<Group> groups_;
     QList<std::function<void(const FigureSettings&)>> shows_;
 };

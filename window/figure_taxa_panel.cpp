@@ -54,7 +54,10 @@ FigureTaxaPanel::FigureTaxaPanel(std::function<void(const Change&)> changed)
     whole->addWidget(groupRow());
     connect(list_, &QListWidget::itemChanged, this, [this] { listChanged(); });
     connect(list_->model(), &QAbstractItemModel::rowsMoved, this, [this] { listChanged(); });
-    connect(list_, &QListWidget::itemSelectionChanged, this, [this] { chosenChanged(); });
+    connect(list_, &QListWidget::itemSelectionChanged, this, [this] {
+        group_->lineEdit()->setModified(false); // what was typed was for others
+        chosenChanged();
+    });
 }
 
 QWidget* FigureTaxaPanel::orderRow()
@@ -87,14 +90,14 @@ QWidget* FigureTaxaPanel::orderRow()
                     settings.taxa->push_back(plan.data.taxa[taxon.taxon].name);
         });
     });
-    auto* const threshold = new QPushButton("By threshold");
-    threshold->setObjectName("byThreshold");
-    threshold->setToolTip("Forgets ticks and dragging: the share decides, and the order above.");
-    connect(threshold, &QPushButton::clicked, this,
+    threshold_ = new QPushButton("By threshold");
+    threshold_->setObjectName("byThreshold");
+    threshold_->setToolTip("Forgets ticks and dragging: the share decides, and the order above.");
+    connect(threshold_, &QPushButton::clicked, this,
             [this] { changed_([](FigureSettings& settings) { settings.taxa.reset(); }); });
     grid->addWidget(new QLabel("Order"), 0, 0);
     grid->addWidget(order_, 0, 1);
-    grid->addWidget(threshold, 0, 2);
+    grid->addWidget(threshold_, 0, 2);
     grid->setColumnStretch(1, 1);
     return row;
 }
@@ -140,8 +143,8 @@ QWidget* FigureTaxaPanel::chosenRow()
 
 QWidget* FigureTaxaPanel::groupRow()
 {
-    auto* const row = new QWidget;
-    auto* const line = new QHBoxLayout(row);
+    groupButtons_ = new QWidget;
+    auto* const line = new QHBoxLayout(groupButtons_);
     line->setContentsMargins(0, 0, 0, 0);
     auto* const rename = new QPushButton("Rename group...");
     rename->setObjectName("renameGroup");
@@ -176,7 +179,7 @@ QWidget* FigureTaxaPanel::groupRow()
     line->addWidget(colour);
     line->addWidget(earlier);
     line->addStretch(1);
-    return row;
+    return groupButtons_;
 }
 
 std::vector<FigureGroup> FigureTaxaPanel::ownGroups()
@@ -207,6 +210,7 @@ void FigureTaxaPanel::moveToGroup(const QString& name)
     if (place == groups.end())
         place = groups.insert(groups.end(), {wanted, groupColour(groups.size()), {}});
     place->taxa.insert(place->taxa.end(), taxa.begin(), taxa.end());
+    group_->lineEdit()->setModified(false);
     changed_([&](FigureSettings& settings) { settings.groups = groups; });
 }
 
@@ -246,15 +250,17 @@ void FigureTaxaPanel::chosenChanged()
 {
     const QScopedValueRollback<bool> quiet(showing_, true);
     const std::vector<std::string> taxa = chosenTaxa();
-    group_->setEnabled(!taxa.empty());
-    slant_->setEnabled(!taxa.empty());
-    if (taxa.empty())
+    for (QWidget* const box : std::initializer_list<QWidget*>{group_, slant_, groupButtons_})
+        box->setEnabled(!taxa.empty());
+    if (taxa.empty()) {
+        group_->setCurrentIndex(-1);
         return;
+    }
     const FigurePlan& plan = frmFigure.plan;
     for (const ShownGroup& group : plan.groups)
         for (const int taxon : group.taxa)
-            if (plan.data.taxa[taxon].name == taxa.front())
-                group_->setCurrentText(shown(group.name));
+            if (plan.data.taxa[taxon].name == taxa.front() && !group_->lineEdit()->isModified())
+                group_->setCurrentIndex(group_->findText(shown(group.name), Qt::MatchExactly));
     int slant = 3;
     for (const auto& [taxon, own] : frmFigure.settings.slants)
         if (taxon == taxa.front())
@@ -268,6 +274,7 @@ void FigureTaxaPanel::present()
     const FigurePlan& plan = frmFigure.plan;
     const FigureSettings& settings = frmFigure.settings;
     order_->setCurrentIndex(settings.taxa ? 4 : static_cast<int>(settings.order));
+    threshold_->setEnabled(settings.taxa.has_value());
     std::vector<int> groupOf(plan.data.taxa.size());
     for (int group = 0; group < static_cast<int>(plan.groups.size()); ++group)
         for (const int taxon : plan.groups[group].taxa)
@@ -308,12 +315,10 @@ void FigureTaxaPanel::present()
         item.setToolTip(shown(group.name));
     }
     told_->setText(QString("%1 of %2 taxa are shown.").arg(shownCount).arg(rows.size()));
-    if (!group_->hasFocus() && !group_->lineEdit()->hasFocus()) {
-        const QString text = group_->currentText();
+    if (!group_->lineEdit()->isModified()) { // a name that is being typed stays
         group_->clear();
         for (const ShownGroup& group : plan.groups)
             group_->addItem(colourIcon(group.colour), shown(group.name));
-        group_->setCurrentText(text);
     }
     chosenChanged();
 }

@@ -9,6 +9,7 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
+class QPushButton;
 
 /// Which taxa a figure shows, in which order, in which groups: ticks and dragging.
 class FigureTaxaPanel : public QWidget {
@@ -35,8 +36,10 @@ private:
     std::function<void(const Change&)> changed_;
     QListWidget* list_;
     QComboBox* order_ = nullptr;
+    QPushButton* threshold_ = nullptr;
     QComboBox* group_ = nullptr;
     QComboBox* slant_ = nullptr;
+    QWidget* groupButtons_ = nullptr;
     QLabel* told_ = nullptr;
     bool showing_ = false;
 };

@@ -39,6 +39,8 @@ void FormWindow::present()
         visited_ = nullptr;
     if (shouldShow && (layout() == nullptr || layout()->sizeConstraint() != QLayout::SetFixedSize))
         resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
+    if (shouldShow && isModal())
+        main_.keepManualReadable(*this);
     setVisible(shouldShow);
     if (shouldShow && !main_.isVisible())
         move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());

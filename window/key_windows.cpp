@@ -64,7 +64,8 @@ std::vector<ControlRow> keyEditorControls()
             {.name = "Command2", .clicked = frmKeyCode_Command2_Click},
             {.name = "Command3", .clicked = frmKeyCode_Command3_Click},
             {.name = "Command4", .clicked = frmKeyCode_Command4_Click},
-            {.name = "Command5", .record = &f.Command5, .clicked = frmKeyCode_Command5_Click}};
+            {.name = "Command5", .record = &f.Command5, .clicked = frmKeyCode_Command5_Click},
+            {.name = "DeliveredKeys", .clicked = frmKeyCode_DeliveredKeys_Click}};
 }
 
 /// Of a box that takes a key.
@@ -122,6 +123,7 @@ KeyCodeWindow::KeyCodeWindow(MainWindow& main)
     foot->addWidget(progress, 1);
     foot->addStretch(1);
     foot->addWidget(actionButton("Command5", "Default"));
+    foot->addWidget(actionButton("DeliveredKeys", "Delivered keys"));
     foot->addWidget(actionButton("Command2", "All clear"));
     foot->addWidget(ok_);
     foot->addWidget(actionButton("Command1", "Cancel"));
@@ -166,6 +168,7 @@ QWidget* KeyCodeWindow::definitionPage()
         if (key <= keysPerLayer) {
             auto* const taking = bind(new CaptureBox, "Text1", key);
             tellHowToUse(*taking);
+            taking->goOnTo([this, key] { return boxNamed("Text1", keyBehind(key)); });
             box = taking;
         } else {
             box = readBox("Text1", key);
@@ -233,7 +236,13 @@ CaptureBox* KeyCodeWindow::functionBox(int function)
     auto* const box = bind(new CaptureBox, "Text4", function);
     box->setFixedWidth(fontMetrics().horizontalAdvance("[ScrollLock]") + 16);
     tellHowToUse(*box);
+    box->goOnTo([this, function] { return boxNamed("Text4", functionBehind(function)); });
     return box;
+}
+
+QWidget* KeyCodeWindow::boxNamed(const char* name, int index) const
+{
+    return findChild<QLineEdit*>(indexed(name, index));
 }
 
 QWidget* KeyCodeWindow::functionKeys()

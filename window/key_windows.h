@@ -21,6 +21,7 @@ private:
     QWidget* numberPage();
     QWidget* functionKeys();
     CaptureBox* functionBox(int function);
+    QWidget* boxNamed(const char* name, int index) const; ///< nullptr: there is none
     QWidget* framed(const char* name, const char* title, KeyMap* map);
     QPushButton* actionButton(const char* name, const char* caption);
     /// A box that only shows.

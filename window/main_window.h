@@ -66,6 +66,8 @@ public:
 
     /// The window of the diagram, where keys count too.
     const DiagramWindow& diagramWindow() const { return *diagram_; }
+    /// Before a small window is shown.
+    void keepManualReadable(QWidget& smallWindow);
 
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;

@@ -55,6 +55,12 @@ std::vector<MainWindow::SmallWindow> MainWindow::smallWindows()
             {"frmTaxa", build<TaxaWindow>}};
 }
 
+void MainWindow::keepManualReadable(QWidget& smallWindow)
+{
+    if (manual_ != nullptr)
+        manual_->standBy(smallWindow);
+}
+
 void MainWindow::presentForms()
 {
     for (SmallWindow& one : smallWindows_) {

@@ -6,30 +6,62 @@
 #include "window/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QToolBar>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
-/// The page with the list of all others, or an empty address.
-static QUrl contentsPage()
+/// `name`: within the folder docs. Without such a page an empty address.
+static QUrl pageNamed(const QString& name)
 {
     const QString executable = QCoreApplication::applicationDirPath();
     for (const QString& folder : {QString::fromStdString(ports.programFolder), executable,
                                   executable + "/../share/doc/tallystrata"}) // of an installed package
-        if (const QFileInfo page(folder + "/docs/manual/index.md"); page.isFile())
+        if (const QFileInfo page(folder + "/docs/" + name); page.isFile())
             return QUrl::fromLocalFile(page.canonicalFilePath());
     return {};
+}
+
+/// The page with the list of all others.
+static QUrl contentsPage()
+{
+    return pageNamed("manual/index.md");
+}
+
+/// All pages that hold the text, from the page on show on, which itself comes last.
+static QList<QUrl> pagesWith(const QString& text, const QUrl& shown)
+{
+    const QFileInfo contents(contentsPage().toLocalFile());
+    QStringList files;
+    for (const QString& folder : {contents.path(), contents.path() + "/windows", contents.path() + "/.."})
+        for (const QFileInfo& file : QDir(folder).entryInfoList({"*.md"}, QDir::Files, QDir::Name))
+            files += file.canonicalFilePath();
+    const auto at = files.indexOf(shown.toLocalFile());
+    std::rotate(files.begin(), files.begin() + at + 1, files.end());
+    QList<QUrl> found;
+    for (const QString& name : files) {
+        QTextDocument page;
+        if (QFile file(name); file.open(QIODevice::ReadOnly))
+            page.setMarkdown(QString::fromUtf8(file.readAll()));
+        if (!page.find(text).isNull())
+            found += QUrl::fromLocalFile(name);
+    }
+    return found;
 }
 
 /// Shows Markdown with what the toolkit leaves out: places to jump to, lines in tables, pictures that fit.
@@ -150,21 +182,80 @@ ManualWindow::ManualWindow(MainWindow& main) : main_(main), pages_(new ManualPag
     forward->setShortcut(QKeySequence::Forward);
     forward->setEnabled(false);
     connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    addSearch(*bar);
+    auto* const help = new QShortcut(Qt::Key_F1, this);
+    connect(help, &QShortcut::activated, this, [this] { main_.onEvent([] { openPageOf("frmManual"); }); });
     const QRect free = screen()->availableGeometry();
     resize(QSize(860, 680).boundedTo(free.size() - QSize(8, 40)));
     move(free.right() - width() - 8, free.top() + (free.height() - height() - 40) / 2); // beside the sheet
 }
 
+void ManualWindow::addSearch(QToolBar& bar)
+{
+    auto* const room = new QWidget;
+    room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(room);
+    searched_ = new QLineEdit;
+    searched_->setObjectName("searched");
+    searched_->setAccessibleName("Search in the manual");
+    searched_->setPlaceholderText("Search in all pages");
+    searched_->setMaximumWidth(220);
+    bar.addWidget(searched_);
+    bar.addAction("Find next", this, &ManualWindow::findNext)->setShortcut(QKeySequence::FindNext);
+    connect(searched_, &QLineEdit::returnPressed, this, &ManualWindow::findNext);
+    auto* const begin = new QShortcut(QKeySequence::Find, this);
+    connect(begin, &QShortcut::activated, searched_, [this] {
+        searched_->setFocus(Qt::ShortcutFocusReason);
+        searched_->selectAll();
+    });
+}
+
+/// Behind the place found last, then on the pages that follow, and from the first one again.
+void ManualWindow::findNext()
+{
+    const QString text = searched_->text();
+    if (text.isEmpty() || pages_->find(text))
+        return;
+    const QList<QUrl> pages = pagesWith(text, pages_->source().adjusted(QUrl::RemoveFragment));
+    if (pages.isEmpty()) {
+        statusBar()->showMessage("\"" + text + "\" is on no page.", 4000);
+        return;
+    }
+    pages_->setSource(pages.front());
+    pages_->moveCursor(QTextCursor::Start);
+    pages_->find(text);
+}
+
+void ManualWindow::showWantedPage()
+{
+    if (frmManual.page.empty() && !pages_->source().isEmpty())
+        return;
+    const QUrl wanted = pageNamed(QString::fromStdString(frmManual.page));
+    frmManual.page.clear();
+    if (wanted.isValid())
+        pages_->setSource(wanted);
+    else if (const QUrl contents = contentsPage(); contents.isValid())
+        pages_->setSource(contents);
+    else
+        pages_->setPlainText("The manual (the folder docs) is not beside the program.");
+}
+
+void ManualWindow::standBy(QWidget& modal)
+{
+    for (QWidget* const one : {static_cast<QWidget*>(this), &modal})
+        one->winId(); // only windows of the system know one another
+    windowHandle()->setTransientParent(modal.windowHandle());
+}
+
 void ManualWindow::present()
 {
-    if (frmManual.visible && pages_->source().isEmpty()) {
-        if (const QUrl contents = contentsPage(); contents.isValid())
-            pages_->setSource(contents);
-        else
-            pages_->setPlainText("The manual (the folder docs) is not beside the program.");
-    }
-    if (isVisible() != frmManual.visible)
+    if (frmManual.visible)
+        showWantedPage();
+    if (isVisible() != frmManual.visible) {
+        if (QWidget* const modal = QApplication::activeModalWidget())
+            standBy(*modal);
         setVisible(frmManual.visible);
+    }
     if (frmManual.forwardRevision != forwardShown_) {
         forwardShown_ = frmManual.forwardRevision;
         bringForward(*this);

@@ -89,7 +89,7 @@ StatisticsWindow::StatisticsWindow(MainWindow& main)
     });
     setFirst(tabs_->tabBar());
     whole->addWidget(tabs_);
-    resize(980, 640);
+    resize(980, 690);
 }
 
 QLayout* StatisticsWindow::scopeRow()
@@ -100,6 +100,9 @@ QLayout* StatisticsWindow::scopeRow()
     for (int scope = 0; scope < 2; ++scope) {
         scopes_[scope] = mark<QRadioButton>("Option1", scope);
         scopes_[scope]->setText(captions[scope]);
+        QSizePolicy policy = scopes_[scope]->sizePolicy();
+        policy.setRetainSizeWhenHidden(true); // or the pages would jump
+        scopes_[scope]->setSizePolicy(policy);
         row->addWidget(scopes_[scope]);
     }
     return row;

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QHash>
 #include <QPainter>
 #include <QPdfWriter>
 #include <algorithm>
@@ -30,6 +31,13 @@ void paintOn(QImage& image, const Page& page, int dotsPerInch, int top)
     painter.scale(dotsPerInch / mmPerInch, dotsPerInch / mmPerInch);
     paintPage(painter, page);
 }
+
+/// Fonts stand in a PDF file in the order of a hash table, which is another one in each run otherwise.
+struct SteadyHashes {
+    SteadyHashes() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SteadyHashes() { QHashSeed::resetRandomGlobalSeed(); }
+    Q_DISABLE_COPY(SteadyHashes)
+};
 
 /// Overwrites what stands between `begin` and `end`, both left alone, without a change of length: a PDF file
 /// counts its bytes.
@@ -76,6 +84,7 @@ void forgetTheClock(QByteArray& pdf)
 
 QByteArray pagePdf(const Page& page)
 {
+    const SteadyHashes steady;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);

@@ -15,6 +15,10 @@ namespace {
 // Widths of letters are true from here on; smaller ones are fitted to a grid of pixels.
 constexpr int measured = 100;
 
+/// Letters that are not kept as pixels are drawn as areas, whose corners depend on which letters of a window
+/// were drawn before; kept ones are the same in each run. By default only those up to 64 pixels are kept.
+const bool largeLettersAreKept = qputenv("QT_MAX_CACHED_GLYPH_SIZE", "400");
+
 QFont pageFont(bool italic)
 {
     QFont font;
