@@ -47,7 +47,7 @@ void damageOneByte(Source source)
     const auto number = static_cast<std::uint64_t>(source.number(2));
     const int where = source.number(2);
     const int change = 1 + source.number(1) % 255;
-    std::string text = journalText(JournalHead{{number, source.text(), std::nullopt, ""}, true});
+    std::string text = journalText(JournalHead{{number, source.text(), std::nullopt, "", ""}, true});
     const std::size_t head = text.size();
     std::vector<JournalLine> lines;
     while (!source.empty() && lines.size() < 20) {
