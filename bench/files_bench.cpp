@@ -48,7 +48,7 @@ int main(int argc, char* argv[])
     if (!ports.files->write(path, fullSheetText()))
         return 1;
 
-    measure("open the fullest sheet to ready on screen", 8, [&] {
+    measure("open the fullest sheet to ready on screen", 15, [&] {
         sheet.SheetPristine = true; // nothing to ask about
         frmMain.Command5[0].enabled = false;
         program.window().onEvent([&] { openDropped(path); });
@@ -56,8 +56,8 @@ int main(int argc, char* argv[])
         QApplication::processEvents();
     });
     std::printf("samples %d, total of the last %s\n", sheet.SampleCount, frmMain.Text3[0].text.c_str());
-    measure("save the fullest sheet", 2, [] { SaveSheet(SaveMode::plain); });
-    measure("backup inside a key press", 4, AutoBackup);
+    measure("save the fullest sheet", 5, [] { SaveSheet(SaveMode::plain); });
+    measure("backup inside a key press", 6, AutoBackup);
 
     const std::string almost = folder.filePath("almost.csv").toStdString();
     if (!ports.files->write(almost, fullSheetText(sampleLimit - 1)))
@@ -75,7 +75,7 @@ int main(int argc, char* argv[])
         program.window().onEvent(frmNext_Command1_Click);
         QApplication::processEvents();
     };
-    measure("window of the 250th sample, opened, accepted, ready", 25, addSample, open);
+    measure("window of the 250th sample, opened, accepted, ready", 50, addSample, open);
     std::printf("sample %d of %d\n", sheet.CurrentSample, sheet.SampleCount);
     return sheet.SaveResult == 2 ? 1 : 0;
 }
