@@ -188,6 +188,16 @@ void TaxonPage::paintKeyNames(QPainter& painter, const QRegion& where) const
     }
 }
 
+/// Four edges outside the cell: an outline would be many times as dear, and all cells have one.
+static void frameAround(QPainter& painter, const QRectF& cell, double width, const QColor& colour)
+{
+    const QRectF outer = cell.adjusted(-width, -width, width, width);
+    painter.fillRect(QRectF(outer.left(), outer.top(), outer.width(), width), colour);
+    painter.fillRect(QRectF(outer.left(), cell.bottom(), outer.width(), width), colour);
+    painter.fillRect(QRectF(outer.left(), cell.top(), width, cell.height()), colour);
+    painter.fillRect(QRectF(cell.right(), cell.top(), width, cell.height()), colour);
+}
+
 void TaxonPage::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
@@ -196,24 +206,19 @@ void TaxonPage::paintEvent(QPaintEvent* event)
     // The six blocks of the keyboard, so that the eye finds a key's place at once.
     painter.setPen(Qt::NoPen);
     painter.setBrush(blockColour());
-    for (const int left : {240, 4560, 8880}) {
-        painter.drawRoundedRect(scaled(left - 105, 225, 4035, 1815), 6, 6);
-        painter.drawRoundedRect(scaled(left - 105, 2085, 4035, 2625), 6, 6);
-    }
+    for (const int left : {240, 4560, 8880})
+        for (const QRect& block : {scaled(left - 105, 225, 4035, 1815), scaled(left - 105, 2085, 4035, 2625)})
+            if (event->region().intersects(block))
+                painter.drawRoundedRect(block, 6, 6);
 
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
-    for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
-        const QRectF cell = cellRect(slot);
-        if (event->rect().intersects(cell.toAlignedRect().adjusted(-2, -2, 2, 2)))
-            painter.drawRect(cell.adjusted(-0.5, -0.5, 0.5, 0.5));
-    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int slot = firstSlot(); slot <= lastSlot(); ++slot)
+        if (event->region().intersects(cellRect(slot).adjusted(-2, -2, 2, 2)))
+            frameAround(painter, cellRect(slot), 1, palette().color(QPalette::Mid));
 
     if (keyNamesShown_)
         paintKeyNames(painter, event->region());
 
-    const double width = frameWidth();
-    painter.setPen(QPen(QColor(0xC0, 0x50, 0x00), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     for (const int slot : framed_)
-        painter.drawRect(QRectF(cellRect(slot)).adjusted(-width / 2, -width / 2, width / 2, width / 2));
+        frameAround(painter, cellRect(slot), frameWidth(), QColor(0xC0, 0x50, 0x00));
 }
