@@ -14,12 +14,7 @@ static void fillSheet()
 {
     static const std::string text = fullSheetText();
     sheet = SheetState();
-    DataSheetReader reader(text, sheet);
-    reader.readPath();
-    reader.readSerials();
-    reader.readNames();
-    for (int row = 1; row <= taxonSlots; ++row)
-        reader.readTaxon(row);
+    readDataSheet(text, sheet);
     for (int sample = 1; sample <= sheet.SampleCount; ++sample)
         sheet.SampleField(sample, 0) = sheet.SampleField(sample, 2);
 }

@@ -17,12 +17,7 @@ static FigureData fullData()
 {
     const std::string text = fullSheetText();
     SheetTables sheet;
-    DataSheetReader reader(text, sheet);
-    reader.readPath();
-    reader.readSerials();
-    reader.readNames();
-    for (int row = 1; row <= taxonSlots; ++row)
-        reader.readTaxon(row);
+    readDataSheet(text, sheet);
     return figureData(sheet, "");
 }
 

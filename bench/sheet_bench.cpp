@@ -19,13 +19,7 @@ int main(int argc, char* argv[])
     std::vector<double> sums;
     bool whole = true;
     for (int round = 0; round < 101; ++round) {
-        times.push_back(milliseconds([&] {
-            DataSheetReader reader(text, tables);
-            whole = whole && reader.readPath() && reader.readSerials() && reader.readNames();
-            for (int row = 1; row <= taxonSlots; ++row)
-                whole = whole && reader.readTaxon(row);
-            whole = whole && !reader.repeatedKeyIndex() && reader.readTexts();
-        }));
+        times.push_back(milliseconds([&] { whole = readDataSheet(text, tables) && whole; }));
         sums.push_back(sheetSumMilliseconds());
     }
     if (!whole)

@@ -12,6 +12,17 @@ std::optional<std::string> baseName(const std::string& path)
     return path.substr(begin, point - begin);
 }
 
+std::string fileBeside(const std::string& sheetPath, std::string_view ending)
+{
+    if (sheetPath.empty())
+        return {};
+    const std::size_t separator = sheetPath.find_last_of("\\/");
+    const std::size_t point = sheetPath.rfind('.');
+    const bool hasEnding =
+        point != std::string::npos && (separator == std::string::npos || point > separator + 1);
+    return sheetPath.substr(0, hasEnding ? point : sheetPath.size()).append(ending);
+}
+
 static std::string withoutExtension(const std::string& path)
 {
     return path.size() > 4 ? path.substr(0, path.size() - 4) : path;

@@ -45,10 +45,9 @@ struct SheetTables {
 
     std::array<int, sampleColumns> SampleSerial{}; ///< column -> serial number, as last read
     std::array<int, sampleColumns> SerialSample{}; ///< serial number 0 to 255 -> column
-    int FileGeneration = 3; ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
-    bool TemplateOpened =
-        false; ///< the file that was read last is a template; not after a save or an opening that failed
-    int SampleCount = 1;   ///< samples in the sheet, 1 to 250
-    int CurrentSample = 1; ///< column on show and being counted
-    int LatestSerial = 1;  ///< highest serial number in the sheet
+    int FileGeneration = 3;      ///< layout of the file that was read last: 0 unknown, 1, 2, or 3 as written
+    bool TemplateOpened = false; ///< that file is a template; not after a save, or an opening that failed
+    int SampleCount = 1;         ///< samples in the sheet, 1 to 250
+    int CurrentSample = 1;       ///< column on show and being counted
+    int LatestSerial = 1;        ///< highest serial number in the sheet
 };

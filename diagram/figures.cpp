@@ -7,6 +7,7 @@
 #include "diagram/diagram_form.h"
 #include "diagram/diagram_layout.h"
 #include "diagram/diagram_view.h"
+#include "platform/picture_format.h"
 #include "platform/ports.h"
 
 #include <algorithm>
@@ -22,30 +23,13 @@ Figure figureOf(const Surface& surface)
             {{0, 0, surface.width, surface.height, surface.scale, surface.picture}}};
 }
 
-std::optional<PictureFormat> formatOf(const std::string& path)
-{
-    const std::size_t point = path.rfind('.');
-    if (point == std::string::npos)
-        return std::nullopt;
-    std::string ending = path.substr(point);
-    std::transform(ending.begin(), ending.end(), ending.begin(),
-                   [](unsigned char letter) { return static_cast<char>(letter | 0x20); });
-    if (ending == ".svg")
-        return PictureFormat::svg;
-    if (ending == ".pdf")
-        return PictureFormat::pdf;
-    if (ending == ".png")
-        return PictureFormat::png;
-    return std::nullopt;
-}
-
 /// The name of the sheet with the ending of a picture.
 std::string proposedName()
 {
     const std::string& path = sheet.SheetPath;
     if (!baseName(path))
         return "diagram.svg";
-    return path.substr(0, path.rfind('.')) + ".svg";
+    return fileBeside(path, ".svg");
 }
 
 } // namespace
@@ -108,8 +92,8 @@ void mnuSavePicture_Click()
     const auto path = ports.dialogs->choosePictureToSave(proposedName());
     if (!path)
         return;
-    const auto format = formatOf(*path);
-    if (!format) {
+    const auto format = pictureFormatOf(*path);
+    if (!format || *format == PictureFormat::tiff) {
         ports.dialogs->ask("Please end the file name with .svg, .pdf or .png.", "Error", Buttons::ok,
                            Icon::exclamation);
         return;

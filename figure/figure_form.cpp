@@ -2,7 +2,9 @@
 
 #include "core/forms.h"
 #include "core/hooks.h"
+#include "core/messages.h"
 #include "core/number_text.h"
+#include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "figure/caption.h"
 #include "figure/settings_file.h"
@@ -18,15 +20,13 @@ namespace {
 
 constexpr int pause = 300; // milliseconds after a key until the figure follows
 constexpr std::size_t settingsLimit = 1 << 20;
-constexpr std::string_view notWritten =
-    "The file is being used by another software. Please close the file and try again.";
 
 /// Settings of sheets that were closed without keeping them, by path.
 std::map<std::string, FigureSettings> unkeptSettings;
 
 std::string settingsPath(const std::string& sheetPath)
 {
-    return sheetPath.size() < 4 ? "" : sheetPath.substr(0, sheetPath.rfind('.')) + ".figure.json";
+    return fileBeside(sheetPath, ".figure.json");
 }
 
 double letterWidth(std::string_view text, bool italic)
@@ -118,29 +118,13 @@ bool keepSettings()
     }
     Json json = settingsToJson(f.settings, f.kept);
     if (!ports.files->write(path, ports.json->write(json))) {
-        ports.dialogs->ask(notWritten, "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
         return false;
     }
     f.kept = std::move(json);
     f.unkept = false;
     unkeptSettings.erase(sheet.SheetPath);
     return true;
-}
-
-std::optional<PictureFormat> formatOf(const std::string& path)
-{
-    std::string ending = path.substr(std::min(path.rfind('.'), path.size()));
-    std::transform(ending.begin(), ending.end(), ending.begin(),
-                   [](unsigned char letter) { return static_cast<char>(letter | 0x20); });
-    const std::pair<const char*, PictureFormat> formats[] = {{".svg", PictureFormat::svg},
-                                                             {".pdf", PictureFormat::pdf},
-                                                             {".png", PictureFormat::png},
-                                                             {".tif", PictureFormat::tiff},
-                                                             {".tiff", PictureFormat::tiff}};
-    for (const auto& [text, format] : formats)
-        if (ending == text)
-            return format;
-    return std::nullopt;
 }
 
 /// Says why a figure with faults does not leave the program.
@@ -168,7 +152,7 @@ void saveTable(const std::string& table)
 {
     const auto path = ports.dialogs->chooseFileToSave("Save table", "");
     if (path && !ports.files->write(*path, table))
-        ports.dialogs->ask(notWritten, "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
 }
 
 } // namespace
@@ -233,13 +217,12 @@ void mnuFigureSave_Click()
     bringUpToDate();
     if (refused())
         return;
-    const std::string name = sheet.SheetPath.size() < 4
-                                 ? "figure.pdf"
-                                 : sheet.SheetPath.substr(0, sheet.SheetPath.rfind('.')) + "_figure.pdf";
+    const std::string name =
+        sheet.SheetPath.empty() ? "figure.pdf" : fileBeside(sheet.SheetPath, "_figure.pdf");
     const auto path = ports.dialogs->chooseFigureToSave(name);
     if (!path)
         return;
-    const auto format = formatOf(*path);
+    const auto format = pictureFormatOf(*path);
     if (!format) {
         ports.dialogs->ask("Please end the file name with .svg, .pdf, .png or .tif.", "Error", Buttons::ok,
                            Icon::exclamation);
@@ -247,11 +230,11 @@ void mnuFigureSave_Click()
     }
     FigureForm& f = frmFigure;
     if (!ports.files->write(*path, ports.pictures->encode(f.plan.page, *format, f.settings.dotsPerInch))) {
-        ports.dialogs->ask(notWritten, "Error", Buttons::ok, Icon::exclamation);
+        tellFileInUse();
         return;
     }
     f.notice = "Saved as " + *path + ".";
-    if (sheet.SheetPath.size() >= 4 && keepSettings())
+    if (!sheet.SheetPath.empty() && keepSettings())
         f.notice += " Its settings are kept beside the sheet.";
 }
 
@@ -273,7 +256,7 @@ void mnuFigureCaption_Click()
 
 void mnuFigureKeep_Click()
 {
-    if (sheet.SheetPath.size() < 4) {
+    if (sheet.SheetPath.empty()) {
         ports.dialogs->ask("Please save the sheet first: the settings are kept beside it.", "Error",
                            Buttons::ok, Icon::exclamation);
         return;
@@ -289,6 +272,7 @@ void mnuFigureOther_Click()
         return;
     FigureForm& f = frmFigure;
     Json own = f.kept;
+    f.notice.clear(); // what is said then is about the other sheet
     if (readSettings(settingsPath(*path))) {
         f.kept = std::move(own); // what else this sheet's file holds stays its own
         f.unkept = true;

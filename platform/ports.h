@@ -3,6 +3,7 @@
 #include "platform/drawing.h"
 #include "platform/json.h"
 #include "platform/page.h"
+#include "platform/picture_format.h"
 
 #include <cstddef>
 #include <optional>
@@ -99,8 +100,6 @@ public:
     /// What plays, for people to read: the system's sound driver, or that there is none.
     virtual std::string device() const = 0;
 };
-
-enum class PictureFormat { svg, pdf, png, tiff };
 
 /// Pictures that leave the program.
 class Pictures {

@@ -165,12 +165,3 @@ std::string labText(const std::string& marker, const std::vector<LabRow>& rows)
     }
     return utf8WithMark(lines.take());
 }
-
-std::string labPathOf(const std::string& sheetPath)
-{
-    const std::size_t separator = sheetPath.find_last_of("\\/");
-    const std::size_t point = sheetPath.rfind('.');
-    const bool hasEnding =
-        point != std::string::npos && (separator == std::string::npos || point > separator + 1);
-    return sheetPath.substr(0, hasEnding ? point : sheetPath.size()) + ".lab.csv";
-}

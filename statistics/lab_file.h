@@ -44,6 +44,3 @@ std::string labText(const std::string& marker, const std::vector<LabRow>& rows);
 /// True if a column may hold the text: any for the unit, else nothing or a number with a point, not negative
 /// but for depths and ages.
 bool isLabEntry(LabColumn column, std::string_view text);
-
-/// "C:/Cores/Lake1.csv" gives "C:/Cores/Lake1.lab.csv".
-std::string labPathOf(const std::string& sheetPath);

@@ -2,6 +2,7 @@
 
 #include "core/main_screen.h"
 #include "core/number_text.h"
+#include "core/sheet_name.h"
 #include "core/sheet_state.h"
 #include "files/fingerprint.h"
 #include "files/recorded_sheet.h"
@@ -13,6 +14,8 @@
 Laboratory laboratory;
 
 namespace {
+
+constexpr std::string_view labEnding = ".lab.csv";
 
 constexpr std::size_t labLimit = 16u << 20; // the fullest sheet has less than 64 kilobytes
 
@@ -134,7 +137,7 @@ void readLaboratory()
     laboratory = {};
     if (ownPath(sheet).empty())
         return;
-    laboratory.path = labPathOf(sheet.SheetPath);
+    laboratory.path = fileBeside(sheet.SheetPath, labEnding);
     const auto bytes = ports.files->read(laboratory.path, labLimit);
     if (!bytes) {
         if (isThere(laboratory.path)) {
@@ -160,7 +163,7 @@ void followSavedSheet()
 {
     if (sheet.SheetPath.empty())
         return;
-    const std::string path = labPathOf(sheet.SheetPath);
+    const std::string path = fileBeside(sheet.SheetPath, labEnding);
     if (path == laboratory.path) {
         if (takeNames() || laboratory.unsaved)
             write();

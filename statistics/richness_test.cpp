@@ -55,10 +55,7 @@ TEST(Richness, SamplesOfASheetMatchTheReference)
     std::ifstream file(std::string(EXAMPLES) + "/dallican_pollen.csv", std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     SheetTables tables;
-    DataSheetReader reader(text, tables);
-    ASSERT_TRUE(reader.readPath() && reader.readSerials() && reader.readNames());
-    for (int row = 1; row <= taxonSlots; ++row)
-        ASSERT_TRUE(reader.readTaxon(row));
+    ASSERT_TRUE(readDataSheet(text, tables));
 
     for (const ReferenceRow& row : referenceTable("diversity.csv")) {
         SCOPED_TRACE(row.at("name"));

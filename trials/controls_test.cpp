@@ -1,23 +1,18 @@
 // What the tables of all windows promise, tried on every control: it exists under its name, shows its record,
 // brings what a user makes of it into the record, and runs the handler that its name says.
 
+#include "trials/shown_records_test.h"
 #include "trials/window_fixture_test.h"
 
 #include "window/bound_window.h"
 #include "window/diagram_window.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QRadioButton>
 #include <QSlider>
 #include <QTest>
 #include <QTimer>
@@ -51,17 +46,6 @@ const void* addressOf(Function* function)
 std::string told(const QObject* widget, const Control& control)
 {
     return widget->objectName().toStdString() + " " + control.kind->name;
-}
-
-/// What several controls of one kind show must differ, or one that shows its neighbour's record is not found.
-std::string textFor(const Control& control)
-{
-    return std::string(control.kind->name) + "\xE6" + std::to_string(control.index);
-}
-
-int numberFor(const Control& control)
-{
-    return 3 + control.index % 5;
 }
 
 class Controls : public WindowTest, public ::testing::WithParamInterface<std::string> {
@@ -136,129 +120,6 @@ void expectHandler(const std::string& form, const std::string& control, const st
     if (plain.starts_with("mnu") && plain.back() >= '1' && plain.back() <= '9')
         names.insert(plain.substr(0, plain.size() - 1) + ending); // an entry that stands in several menus
     EXPECT_TRUE(names.count(nameOf(code)) == 1) << form << "." << control << " runs " << nameOf(code);
-}
-
-// Gives a record what its control is to show, and looks whether it does.
-
-void give(TextBox& record, const Control& control)
-{
-    record.text = textFor(control);
-}
-void expectShown(const QWidget* widget, const TextBox& record)
-{
-    const QString text = QString::fromLatin1(record.text);
-    if (const auto* const line = qobject_cast<const QLineEdit*>(widget))
-        EXPECT_EQ(line->text(), text);
-    else
-        EXPECT_EQ(qobject_cast<const QPlainTextEdit*>(widget)->toPlainText(), text);
-}
-void give(Label& record, const Control& control)
-{
-    record.caption = textFor(control);
-}
-void expectShown(const QWidget* widget, const Label& record)
-{
-    EXPECT_EQ(qobject_cast<const QLabel*>(widget)->text(), QString::fromLatin1(record.caption));
-}
-void give(Button& record, const Control& control)
-{
-    record.enabled = numberFor(control) % 2 == 0;
-}
-void expectShown(const QWidget* widget, const Button& record)
-{
-    EXPECT_EQ(widget->isEnabled(), record.enabled);
-}
-void give(OptionButton& record, const Control& control)
-{
-    record.selected = control.index == 1;
-}
-void expectShown(const QWidget* widget, const OptionButton& record)
-{
-    EXPECT_EQ(qobject_cast<const QRadioButton*>(widget)->isChecked(), record.selected);
-}
-void give(CheckBox& record, const Control& control)
-{
-    record.checked = numberFor(control) % 2 == 0;
-}
-void expectShown(const QWidget* widget, const CheckBox& record)
-{
-    EXPECT_EQ(qobject_cast<const QCheckBox*>(widget)->isChecked(), record.checked);
-}
-void give(ComboBox& record, const Control& control)
-{
-    record.items = {"first", textFor(control)};
-    record.text = record.items[1];
-    ++record.itemsRevision;
-}
-void expectShown(const QWidget* widget, const ComboBox& record)
-{
-    const auto* const combo = qobject_cast<const QComboBox*>(widget);
-    EXPECT_TRUE(combo->count() == 2 && combo->currentText() == QString::fromLatin1(record.text));
-}
-void give(ListBox& record, const Control& control)
-{
-    record = {{"first", textFor(control)}, 1};
-}
-void expectShown(const QWidget* widget, const ListBox& record)
-{
-    const auto* const list = qobject_cast<const QListWidget*>(widget);
-    EXPECT_TRUE(list->count() == 2 && list->currentItem()->text() == QString::fromLatin1(record.items[1]));
-}
-void give(LogBox& record, const Control& control)
-{
-    record.text += "\r\n" + textFor(control);
-}
-void expectShown(const QWidget* widget, const LogBox& record)
-{
-    EXPECT_EQ(qobject_cast<const QPlainTextEdit*>(widget)->toPlainText(),
-              QString::fromLatin1(record.text).remove('\r'));
-}
-void give(ProgressBar& record, const Control& control)
-{
-    record = {true, numberFor(control), 9};
-}
-void expectShown(const QWidget* widget, const ProgressBar& record)
-{
-    const auto* const bar = qobject_cast<const QProgressBar*>(widget);
-    EXPECT_TRUE(bar->value() == record.value && bar->maximum() == record.max && !bar->isHidden());
-}
-void give(Slider& record, const Control& control)
-{
-    record = {1, 9, numberFor(control)};
-}
-void expectShown(const QWidget* widget, const Slider& record)
-{
-    const auto* const slider = qobject_cast<const QAbstractSlider*>(widget);
-    EXPECT_TRUE(slider->value() == record.value && slider->minimum() == 1 && slider->maximum() == 9);
-}
-void give(ScrollBar& record, const Control& control)
-{
-    record = {900, 1, 2, 50 + numberFor(control), true};
-}
-void expectShown(const QWidget* widget, const ScrollBar& record)
-{
-    const auto* const bar = qobject_cast<const QAbstractSlider*>(widget);
-    EXPECT_TRUE(bar->value() == record.value && bar->maximum() == 900 && !bar->isHidden());
-}
-void give(KeyBox& record, const Control& control)
-{
-    record.text = std::to_string(100 + control.index);
-}
-void expectShown(const QWidget* widget, const KeyBox& record)
-{
-    EXPECT_EQ(qobject_cast<const QLineEdit*>(widget)->text(), QString::fromLatin1(record.text));
-}
-
-/// Calls `use` with the control's own record, if it has one.
-template <class Use>
-void withRecord(const Control& control, Use use)
-{
-    std::visit(
-        [&](auto record) {
-            if constexpr (!std::is_same_v<decltype(record), std::monostate>)
-                use(record[std::max(control.index, 0)]);
-        },
-        control.kind->record);
 }
 
 /// As from another program, over all that stands there.

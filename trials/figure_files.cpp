@@ -28,12 +28,7 @@ int main(int argc, char* argv[])
         return 2;
     const std::string text = file.readAll().toStdString();
     SheetTables sheet;
-    DataSheetReader reader(text, sheet);
-    reader.readPath();
-    reader.readSerials();
-    reader.readNames();
-    for (int row = 1; row <= taxonSlots; ++row)
-        reader.readTaxon(row);
+    readDataSheet(text, sheet);
     FigureSettings settings;
     settings.order = TaxonOrder::groupWa;
     settings.width = argc > 3 ? QByteArray(argv[3]).toDouble() : 240;

@@ -17,15 +17,6 @@ std::string bytesOf(const char* path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-bool read(const std::string& text, SheetTables& sheet)
-{
-    DataSheetReader reader(text, sheet);
-    bool whole = reader.readPath() && reader.readSerials() && reader.readNames();
-    for (int row = 1; row <= taxonSlots; ++row)
-        whole = whole && reader.readTaxon(row);
-    return whole && reader.readTexts();
-}
-
 /// Empty if they are equal.
 std::string difference(const CountTable& table, const SheetTables& sheet)
 {
@@ -53,7 +44,7 @@ int main(int argc, char* argv[])
 {
     SheetTables sheet;
     const std::string text = argc > 1 ? fileTextInCodePage(bytesOf(argv[1])) : "";
-    if (argc < 3 || !read(text, sheet))
+    if (argc < 3 || !readDataSheet(text, sheet))
         return 2;
     bool equal = true;
     for (int i = 2; i < argc; ++i) {

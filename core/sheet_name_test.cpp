@@ -1,0 +1,11 @@
+#include "core/sheet_name.h"
+
+#include <gtest/gtest.h>
+
+TEST(FileBeside, ChangesTheEndingOfTheNameAlone)
+{
+    EXPECT_EQ(fileBeside("/cores/Lake1.csv", ".lab.csv"), "/cores/Lake1.lab.csv");
+    EXPECT_EQ(fileBeside("C:\\cores.old\\Lake1", ".lab.csv"), "C:\\cores.old\\Lake1.lab.csv");
+    EXPECT_EQ(fileBeside("/cores/.hidden", ".lab.csv"), "/cores/.hidden.lab.csv");
+    EXPECT_EQ(fileBeside("", ".lab.csv"), "");
+}
