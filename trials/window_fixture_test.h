@@ -31,6 +31,7 @@ protected:
         window->activateWindow();
         waitFor([this] { return window->isActiveWindow(); });
         ASSERT_TRUE(window->isActiveWindow());
+        ASSERT_TRUE(waitFor([this] { return window->findChild<QWidget*>("Frame1(2)") != nullptr; }));
     }
 
     /// Runs the event loop until `done` holds, for ten seconds at most: the machine may be busy.

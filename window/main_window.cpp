@@ -101,12 +101,11 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
     whole->addLayout(bottom, 6);
     statusBar()->setObjectName("StatusBar1");
 
-    QList<QWidget*> parts = surface->findChildren<QWidget*>();
-    parts.append(surface);
-    for (QWidget* const part : parts) {
-        part->installEventFilter(this);
-        part->setMouseTracking(true);
-    }
+    makePage();
+
+    watch(surface);
+    for (QWidget* const part : surface->findChildren<QWidget*>())
+        watch(part);
     scaleFont();
     plainColours_ = surface->palette();
 
@@ -123,6 +122,12 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::watch(QWidget* control)
+{
+    control->installEventFilter(this);
+    control->setMouseTracking(true);
+}
 
 void MainWindow::beginEvent()
 {
@@ -207,6 +212,18 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     scaleFont();
 }
 
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    constexpr int untilInUse = 100; // milliseconds: no hand goes for Shift sooner
+    if (!isPainted_)
+        QTimer::singleShot(untilInUse, this, [this] {
+            makeOtherPages();
+            present();
+        });
+    isPainted_ = true;
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (sheet.Unloading)
@@ -266,6 +283,8 @@ void MainWindow::scaleFont()
 
 void MainWindow::present()
 {
+    if (frmMain.SSTab1 >= pages_.size() || frmMain.sheetColour.has_value())
+        makeOtherPages();
     // A box that is disabled passes the focus on, which is not the user's doing.
     const MainFocus wanted = frmMain.focus;
     showControls();

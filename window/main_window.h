@@ -72,6 +72,7 @@ public:
 protected:
     bool eventFilter(QObject* target, QEvent* event) override;
     void resizeEvent(QResizeEvent*) override;
+    void paintEvent(QPaintEvent*) override;
     void closeEvent(QCloseEvent*) override;
     void dragEnterEvent(QDragEnterEvent*) override;
     void dropEvent(QDropEvent*) override;
@@ -82,6 +83,9 @@ private:
     // main_window_layout.cpp
     QWidget* sampleStrip();
     QWidget* sheetPages();
+    void makePage();
+    /// The pages of the layers that are not on show at the start: a third of all widgets is enough to begin.
+    void makeOtherPages();
     TotalFrame* totalFrame(int total, const char* name);
     QWidget* sumStrip();
     QWidget* statisticsStrip();
@@ -110,6 +114,8 @@ private:
     void boxEntered(QWidget* box, Qt::FocusReason reason);
     void presentMode();
 
+    /// Mouse and focus of a control come here first.
+    void watch(QWidget* control);
     void presentNames();
     void presentKeyNames();
     void presentRecount();
@@ -119,7 +125,7 @@ private:
 
     QWidget* focusSink_; ///< Text99
     QTabWidget* tabs_ = nullptr;
-    std::array<TaxonPage*, 3> pages_{};
+    QList<TaxonPage*> pages_; ///< by layer, as far as they are made
     std::array<QLineEdit*, 3> sums_{};
     QLabel* statisticsLine_ = nullptr;    ///< under the sums
     QPlainTextEdit* note_ = nullptr;      ///< Text4
@@ -134,6 +140,7 @@ private:
     QComboBox* samples_ = nullptr;       ///< Combo2
     SurfaceView* curve_ = nullptr;       ///< Picture2
     bool modifyingShown_ = false;
+    bool isPainted_ = false;
     QPalette plainColours_; ///< of the sheet outside Modify template mode
 
     struct SmallWindow { ///< above this one

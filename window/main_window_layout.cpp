@@ -154,19 +154,40 @@ QWidget* MainWindow::sheetPages()
         if (page >= 0)
             onEvent([page] { SSTab1_Click(page); });
     });
-    const char* const captions[] = {"Neutral", "Shift 1 or 2", "Shift 1 and 2"};
-    for (int layer = 0; layer < 3; ++layer) {
-        auto* const page = pages_[layer] = new TaxonPage(layer);
-        page->setObjectName(indexed("Frame1", layer));
-        page->setAccessibleName(captions[layer]);
-        for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
-            bind(page->nameBox(slot), "Text1", slot);
-            bind(page->countBox(slot), "Text2", slot);
-            bind(page->indexLabel(slot), "Label1", slot);
-        }
-        tabs_->addTab(page, captions[layer]);
-    }
+    for (const char* const caption : {"Neutral", "Shift 1 or 2", "Shift 1 and 2"})
+        tabs_->addTab(panel(new QVBoxLayout), caption);
     return tabs_;
+}
+
+/// The next page, with its cells.
+void MainWindow::makePage()
+{
+    const int layer = static_cast<int>(pages_.size());
+    auto* const page = new TaxonPage(layer);
+    page->setObjectName(indexed("Frame1", layer));
+    page->setAccessibleName(tabs_->tabText(layer));
+    for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
+        bind(page->nameBox(slot), "Text1", slot);
+        bind(page->countBox(slot), "Text2", slot);
+        bind(page->indexLabel(slot), "Label1", slot);
+    }
+    tabs_->widget(layer)->layout()->addWidget(page);
+    pages_ << page;
+}
+
+void MainWindow::makeOtherPages()
+{
+    while (pages_.size() < tabs_->count()) {
+        const TaxonPage& former = *pages_.back();
+        makePage();
+        TaxonPage* const page = pages_.back();
+        setTabOrder(former.countBox(former.lastSlot()), page->nameBox(page->firstSlot()));
+        page->makeEditable(modifyingShown_);
+        page->showKeyNames(keyNamesOnShow_);
+        watch(page);
+        for (QWidget* const part : page->findChildren<QWidget*>())
+            watch(part);
+    }
 }
 
 /// A total with its alarm, in a frame of its own.
