@@ -1,4 +1,4 @@
-// The program with the fullest sheet and its diagram, all columns in view.
+// The program at its start, and with the fullest sheet and its diagram, all columns in view.
 
 #include "app/program.h"
 #include "bench/full_sheet.h"
@@ -13,6 +13,7 @@ int main(int argc, char* argv[])
     const DeliveredCopy delivered(DELIVERED_FOLDER);
     Program program(delivered.path());
     const std::string path = delivered.path().toStdString() + "/full.csv";
+    reportMemory();
     if (!ports.files->write(path, fullSheetText()))
         return 1;
     program.window().onEvent([&] { openDropped(path); });
