@@ -63,7 +63,7 @@ int main(int argc, char* argv[])
                               paintPage(painter, plan.page);
                           }));
         if (round < 7)
-            writing.push_back(milliseconds([&] { pagePdf(plan.page); }));
+            writing.push_back(milliseconds([&] { pagesPdf({&plan.page, 1}); }));
     }
     report("plan the fullest figure", median(planning), median(sums), 25);
     report("Grimm's clusters of 250 samples of 135 taxa", median(clustering), median(sums), 5);

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-/// A page of a figure as a list of what is on it, replayed alike on the screen, into an SVG or PDF file and
+/// A page as a list of what is on it, replayed alike on the screen, into an SVG or PDF file and
 /// into an image. Lengths are millimetres from the top left of the page, sizes of letters and widths of lines
 /// points (1/72 inch). Texts are UTF-8. Later marks lie over earlier ones.
 

@@ -72,6 +72,8 @@ public:
     /// Path of a figure to write, with one of the endings .svg, .pdf, .png and .tif, or nothing if the user
     /// cancels.
     virtual std::optional<std::string> chooseFigureToSave(const std::string& proposed) = 0;
+    /// Path of a PDF file to write, or nothing if the user cancels.
+    virtual std::optional<std::string> choosePagesToSave(const std::string& proposed) = 0;
     /// A colour, or nothing if the user cancels.
     virtual std::optional<Colour> chooseColour(Colour current) = 0;
 };
@@ -117,6 +119,8 @@ public:
     /// The bytes of a file that holds the page; the same page gives the same bytes. `dotsPerInch` is that of
     /// images.
     virtual std::string encode(const Page& page, PictureFormat format, int dotsPerInch) = 0;
+    /// The bytes of a PDF file of several pages, at least one.
+    virtual std::string encodePages(const std::vector<Page>& pages) = 0;
     /// How wide a UTF-8 text is in the letters of pages, as a multiple of their size.
     virtual double letterWidth(std::string_view text, bool italic) = 0;
     /// Puts a UTF-8 text on the clipboard.

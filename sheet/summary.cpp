@@ -10,7 +10,7 @@
 SummaryForm frmSummary;
 static const Form form("frmSummary", frmSummary.visible, frmSummary_Unload);
 
-void LaunchSummary()
+std::vector<int> rankedTaxa()
 {
     std::vector<int> slots;
     for (int slot = 1; slot <= taxonSlots; ++slot)
@@ -19,11 +19,15 @@ void LaunchSummary()
     std::stable_sort(slots.begin(), slots.end(), [](int one, int other) {
         return wholeNumber(frmMain.Text2[one].text) > wholeNumber(frmMain.Text2[other].text);
     });
+    return slots;
+}
 
+void LaunchSummary()
+{
     frmSummary = {};
     openAboveMain(frmSummary.visible);
     int rank = 1;
-    for (const int slot : slots)
+    for (const int slot : rankedTaxa())
         frmSummary.Text1.text += decimalText(rank++) + ": " + frmMain.Text1[slot].text +
                                  " (n = " + decimalText(wholeNumber(frmMain.Text2[slot].text)) + ")\r\n";
     frmSummary.Text1.text += noText;

@@ -2,6 +2,8 @@
 
 #include "platform/controls.h"
 
+#include <vector>
+
 /// "Summary": the taxa of the sample on show, ranked by their counts.
 struct SummaryForm {
     bool visible = false;
@@ -9,8 +11,10 @@ struct SummaryForm {
 };
 extern SummaryForm frmSummary;
 
-/// Ranks the counts above 0, the largest first. Taxa of equal counts follow in the order of their slots, each
-/// with a rank of its own.
+/// Slots of the taxa of the sample on show with counts above 0, the largest first; taxa of equal counts in
+/// the order of their slots.
+std::vector<int> rankedTaxa();
+/// Shows the ranking. Taxa of equal counts have a rank each.
 void LaunchSummary();
 /// Closing by any means.
 void frmSummary_Unload();

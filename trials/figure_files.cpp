@@ -45,7 +45,7 @@ int main(int argc, char* argv[])
     const QString folder = argv[2];
     for (const char* const name : {"/figure", "/again"})
         if (!write(folder + name + ".svg", QByteArray::fromStdString(svgText(plan.page))) ||
-            !write(folder + name + ".pdf", pagePdf(plan.page)) ||
+            !write(folder + name + ".pdf", pagesPdf({&plan.page, 1})) ||
             !write(folder + name + ".png", pngOf(pageImage(plan.page, 300))) ||
             !write(folder + name + ".tif", QByteArray::fromStdString(pageTiff(plan.page, 300))))
             return 1;

@@ -20,6 +20,7 @@
 #include "files/text_exports.h"
 #include "keys/first_run.h"
 #include "keys/key_editor.h"
+#include "printing/printing.h"
 #include "sheet/find.h"
 #include "sheet/focus_and_pointer.h"
 #include "sheet/key_names.h"
@@ -47,6 +48,7 @@ const std::vector<MenuRow> menus = {
     {"mnuFile", "&File", nullptr},
     {"mnuPercent", "Save percentage table", "mnuFile"},
     {"mnuExport", "Export for R and Python", "mnuFile"},
+    {"mnuPrint", "Print", "mnuFile"},
     {"mnuEdit", "&Edit", nullptr},
     {"mnuDiagram", "&Diagram", nullptr},
     {"mnuTools", "&Tools", nullptr},
@@ -84,6 +86,8 @@ std::vector<EntryRow> entryTable()
         {"mnuExport", "mnuExportTidy", "Tidy table...", nullptr, mnuExportTidy_Click},
         {"mnuExport", "mnuExportTaxa", "Taxa...", nullptr, mnuExportTaxa_Click},
         {"mnuExport", "mnuExportAll", "All three...", nullptr, mnuExportAll_Click},
+        {"mnuPrint", "mnuPrintSheet", "Sheet as PDF...", nullptr, mnuPrintSheet_Click},
+        {"mnuPrint", "mnuPrintSummary", "Summary as PDF...", nullptr, mnuPrintSummary_Click},
         {"mnuFile"},
         {"mnuFile", "mnuQuit", "Quit", nullptr, mnuQuit_Click},
 

@@ -134,6 +134,12 @@ std::optional<std::string> MessageBoxes::chooseFigureToSave(const std::string& p
                             "Picture(*.pdf *.svg *.png *.tif)", "pdf");
 }
 
+std::optional<std::string> MessageBoxes::choosePagesToSave(const std::string& proposed)
+{
+    return choosePathToSave("Save pages for printing", QString::fromStdString(proposed), "Pages(*.pdf)",
+                            "pdf");
+}
+
 std::optional<Colour> MessageBoxes::chooseColour(Colour current)
 {
     window_.present();

@@ -29,6 +29,12 @@ public:
         return std::to_string(page.marks.size()) + " marks as " + encode(Figure(), format) + " at " +
                std::to_string(dotsPerInch);
     }
+    std::string encodePages(const std::vector<Page>& pages) override
+    {
+        encodedPages = pages;
+        return std::to_string(pages.size()) + " pages";
+    }
+    std::vector<Page> encodedPages;
     double letterWidth(std::string_view text, bool) override
     {
         return 0.5 * static_cast<double>(text.size());

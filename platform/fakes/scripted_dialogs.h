@@ -52,6 +52,10 @@ public:
     {
         return chooseFileToSave("Save picture", name);
     }
+    std::optional<std::string> choosePagesToSave(const std::string& name) override
+    {
+        return chooseFileToSave("Save pages", name);
+    }
     std::optional<Colour> colour; ///< what the colour dialog answers
     std::optional<Colour> chooseColour(Colour) override { return colour; }
 

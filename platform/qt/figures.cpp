@@ -103,7 +103,7 @@ void QtPictures::copy(const Page& page)
     data->setImageData(image);
     data->setData("image/png", pngOf(image));
     data->setData("image/svg+xml", QByteArray::fromStdString(svgText(page)));
-    data->setData("application/pdf", pagePdf(page));
+    data->setData("application/pdf", pagesPdf({&page, 1}));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
@@ -113,13 +113,18 @@ std::string QtPictures::encode(const Page& page, PictureFormat format, int dotsP
     case PictureFormat::svg:
         return svgText(page);
     case PictureFormat::pdf:
-        return pagePdf(page).toStdString();
+        return pagesPdf({&page, 1}).toStdString();
     case PictureFormat::png:
         return pngOf(pageImage(page, dotsPerInch)).toStdString();
     case PictureFormat::tiff:
         break;
     }
     return pageTiff(page, dotsPerInch);
+}
+
+std::string QtPictures::encodePages(const std::vector<Page>& pages)
+{
+    return pagesPdf(pages).toStdString();
 }
 
 double QtPictures::letterWidth(std::string_view text, bool italic)

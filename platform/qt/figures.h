@@ -10,6 +10,7 @@ public:
     float textWidth(const Letters& letters) override;
     void copy(const Page& page) override;
     std::string encode(const Page& page, PictureFormat format, int dotsPerInch) override;
+    std::string encodePages(const std::vector<Page>& pages) override;
     double letterWidth(std::string_view text, bool italic) override;
     void copyText(std::string_view text) override;
 };

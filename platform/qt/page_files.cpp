@@ -82,7 +82,7 @@ void forgetTheClock(QByteArray& pdf)
 
 } // namespace
 
-QByteArray pagePdf(const Page& page)
+QByteArray pagesPdf(std::span<const Page> pages)
 {
     const SteadyHashes steady;
     QByteArray bytes;
@@ -91,14 +91,21 @@ QByteArray pagePdf(const Page& page)
     QPdfWriter writer(&buffer);
     constexpr int resolution = 1200;
     writer.setResolution(resolution);
-    writer.setPageSize(
-        QPageSize(QSizeF(page.width, page.height), QPageSize::Millimeter, {}, QPageSize::ExactMatch));
     writer.setPageMargins({});
-    writer.setTitle(QString::fromStdString(page.title));
+    writer.setTitle(QString::fromStdString(pages.front().title));
     writer.setCreator(QCoreApplication::applicationName() + " " + QCoreApplication::applicationVersion());
-    QPainter painter(&writer);
-    painter.scale(resolution / mmPerInch, resolution / mmPerInch);
-    paintPage(painter, page);
+    QPainter painter;
+    for (const Page& page : pages) {
+        writer.setPageSize(
+            QPageSize(QSizeF(page.width, page.height), QPageSize::Millimeter, {}, QPageSize::ExactMatch));
+        if (painter.isActive())
+            writer.newPage();
+        else
+            painter.begin(&writer);
+        painter.resetTransform();
+        painter.scale(resolution / mmPerInch, resolution / mmPerInch);
+        paintPage(painter, page);
+    }
     painter.end();
     forgetTheClock(bytes);
     return bytes;

@@ -4,10 +4,12 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <span>
 
-/// A page as files and as an image; the same page gives the same bytes.
+/// Pages as files and as images; the same page gives the same bytes.
 
-QByteArray pagePdf(const Page& page);
+/// At least one page; the title is that of the first.
+QByteArray pagesPdf(std::span<const Page> pages);
 QImage pageImage(const Page& page, int dotsPerInch);
 QByteArray pngOf(const QImage& image);
 /// Painted strip by strip, so a large page needs no more memory than its file.

@@ -75,6 +75,11 @@ std::optional<std::string> RandomDialogs::chooseFigureToSave(const std::string& 
     return choosePictureToSave(proposed);
 }
 
+std::optional<std::string> RandomDialogs::choosePagesToSave(const std::string& proposed)
+{
+    return choosePictureToSave(proposed);
+}
+
 std::optional<Colour> RandomDialogs::chooseColour(Colour)
 {
     whenOpened();

@@ -31,6 +31,7 @@ public:
     std::optional<std::string> chooseFolder(std::string_view title) override;
     std::optional<std::string> choosePictureToSave(const std::string& proposed) override;
     std::optional<std::string> chooseFigureToSave(const std::string& proposed) override;
+    std::optional<std::string> choosePagesToSave(const std::string& proposed) override;
     std::optional<Colour> chooseColour(Colour current) override;
 
 private:
