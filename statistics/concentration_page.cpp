@@ -32,6 +32,20 @@ void addCells(StatTable::Row& row, const std::optional<Concentration>& found)
     row.cells.push_back(cell(hasLimits ? Value(found->limits->upper) : std::nullopt, threeDigits));
 }
 
+/// " per ml", if the samples in view have one unit of the quantity.
+std::string perUnit()
+{
+    std::string unit;
+    for (const int sample : samplesInView()) {
+        const std::string& here = labFields(sample)[labQuantityUnit];
+        if (!unit.empty() && !here.empty() && here != unit)
+            return {};
+        if (unit.empty())
+            unit = here;
+    }
+    return unit.empty() ? unit : " per " + unit;
+}
+
 std::vector<StatTable::Column> columns(bool all)
 {
     std::vector<StatTable::Column> made;
@@ -48,7 +62,7 @@ std::vector<StatTable::Column> columns(bool all)
     };
     made.push_back({"Taxon", "", true});
     made.push_back({"Count", "Individuals; the sums leave the marker out."});
-    add("Concentration",
+    add("Concentration" + perUnit(),
         "Count / markers x marker grains added / quantity (Stockmarr 1971). It does not hold "
         "where markers and individuals were lost differently.");
     add("Influx",

@@ -104,7 +104,8 @@ Drawing planRarefaction(std::span<const std::int32_t> members, const std::vector
     const float middle = frame.left + (frame.right - frame.left) / 2;
     drawing.text(frame.left, height - 16, {"Individuals", letters}, black);
     drawing.text(middle - 60, height - 16, {"Rarefaction, taxa of the % basis", letters}, blue);
-    drawing.text(std::max(middle + 130, frame.right - 110), height - 16, {"As counted, all taxa", letters},
-                 red);
+    if (live.size() > 2)
+        drawing.text(std::max(middle + 130, frame.right - 110), height - 16,
+                     {"As counted, all taxa", letters}, red);
     return drawing;
 }

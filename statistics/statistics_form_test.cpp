@@ -248,7 +248,7 @@ TEST_F(StatisticsWindowTest, ConcentrationOfTaxaAndSums)
     const double y = sheet.Count(1, marker);
     const Concentration all = *concentrationOf(620 - y, y, {1, 18584, 371, 1.0, 0.05});
     EXPECT_EQ(at("All total", "Count"), decimalText(static_cast<long long>(620 - y)));
-    EXPECT_FALSE(at("All total", "Concentration").empty());
+    EXPECT_FALSE(at("All total", "Concentration per ml").empty());
     EXPECT_NE(frmStatistics.Label3.caption.find(" to go for an error of 10 % of the all total"),
               std::string::npos)
         << frmStatistics.Label3.caption;
