@@ -174,12 +174,16 @@ void StatTableView::present()
 /// The columns as wide as their heads and the first rows need, and the pictures over what is left.
 void StatTableView::fitColumns()
 {
+    QHeaderView& heads = *horizontalHeader();
+    heads.setStretchLastSection(false); // or the last column would keep what it had before
     resizeColumnsToContents();
     constexpr int widest = 200; // room for the pictures; the tip shows a name whole
-    QHeaderView& heads = *horizontalHeader();
+    constexpr int leastForBars = 120;
     const int columns = static_cast<int>(table_.columns.size());
     const bool lastIsText = columns > 0 && table_.columns.back().isText;
     for (int column = 0; column < columns; ++column)
         setColumnWidth(column, std::min(widest, columnWidth(column) + 4));
+    if (!table_.barsHead.empty())
+        setColumnWidth(columns, leastForBars);
     heads.setStretchLastSection(!table_.barsHead.empty() || lastIsText);
 }
