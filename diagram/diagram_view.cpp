@@ -116,8 +116,10 @@ void placePanel()
     f.PanelSample = f.Slider1.value;
     const double inPicture = static_cast<double>(rowOfSample(f.PanelSample) - f.Picture1.scale.top) *
                              (f.picture1Place.height - 60.0) / f.Picture1.scale.height;
+    constexpr double farOff = 1e6; // twips: a single depth may lie beyond any screen, and any whole number
+    const double panelTop = std::clamp(std::nearbyint(inPicture - 90.0), -farOff, farOff);
     f.Check1.caption = sheet.SampleField(f.PanelSample, 0);
     f.Combo2.text = sheet.SampleField(f.PanelSample, 2);
-    f.frame3Place.top = f.picture1Place.top + static_cast<int>(std::nearbyint(inPicture - 90.0)) - 300;
+    f.frame3Place.top = f.picture1Place.top + static_cast<int>(panelTop) - 300;
     f.upDown1Place.top = f.frame3Place.top + 240;
 }
