@@ -57,18 +57,22 @@ void drawAxes(Drawing& drawing, const Frame& frame)
     }
 }
 
-void drawLive(Drawing& drawing, const Frame& frame, const std::vector<std::int16_t>& live)
+/// True if there was a line to draw.
+bool drawLive(Drawing& drawing, const Frame& frame, const std::vector<std::int16_t>& live)
 {
     const std::size_t step = std::max<std::size_t>(1, live.size() / 600);
     std::size_t before = 0; // of the points of a long curve some are enough
+    bool drawn = false;
     for (std::size_t n = 1; n < live.size(); n += step) {
         if (live[n] == 0)
             continue;
         if (before > 0)
             drawing.line(frame.x(static_cast<double>(before)), frame.y(live[before] / 10.0),
                          frame.x(static_cast<double>(n)), frame.y(live[n] / 10.0), red);
+        drawn = drawn || before > 0;
         before = n;
     }
+    return drawn;
 }
 
 } // namespace
@@ -87,7 +91,7 @@ Drawing planRarefaction(std::span<const std::int32_t> members, const std::vector
     frame.taxa =
         std::max(richness->taxa, live.empty() ? 0 : *std::max_element(live.begin(), live.end()) / 10.0);
     drawAxes(drawing, frame);
-    drawLive(drawing, frame, live);
+    const bool hasLive = drawLive(drawing, frame, live);
     double before = 0;
     double taxaBefore = 0;
     for (int point = 1; point <= curvePoints; ++point) {
@@ -104,7 +108,7 @@ Drawing planRarefaction(std::span<const std::int32_t> members, const std::vector
     const float middle = frame.left + (frame.right - frame.left) / 2;
     drawing.text(frame.left, height - 16, {"Individuals", letters}, black);
     drawing.text(middle - 60, height - 16, {"Rarefaction, taxa of the % basis", letters}, blue);
-    if (live.size() > 2)
+    if (hasLive)
         drawing.text(std::max(middle + 130, frame.right - 110), height - 16,
                      {"As counted, all taxa", letters}, red);
     return drawing;

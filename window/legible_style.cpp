@@ -64,7 +64,7 @@ QColor legible(const QColor& text, const QColor& strong, const QList<QColor>& gr
 void LegibleStyle::polish(QPalette& colours)
 {
     QProxyStyle::polish(colours);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         for (const TextOnGround& pair : texts()) {
             QList<QColor> grounds;
             for (const QPalette::ColorRole ground : pair.grounds)
@@ -76,4 +76,9 @@ void LegibleStyle::polish(QPalette& colours)
                 group, pair.text,
                 legible(colours.color(group, pair.text), onDark ? Qt::white : Qt::black, grounds));
         }
+        // Many themes leave it to be made of the text, half transparent.
+        const QColor text = colours.color(group, QPalette::Text);
+        const QColor ground = colours.color(group, QPalette::Base);
+        colours.setColor(group, QPalette::PlaceholderText, legible(mixed(text, ground, 0.4), text, {ground}));
+    }
 }

@@ -333,9 +333,12 @@ QWidget* MainWindow::curvePanel()
     location_->setFrameShape(QFrame::NoFrame);
     location_->viewport()->setAutoFillBackground(false);
     location_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    location_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     location_->document()->setDocumentMargin(0); // whole lines, see scaleFont()
     grid->addWidget(location_, 2, 0, 1, 2);
-    grid->addWidget(bind(new QProgressBar, "ProgressBar1"), 3, 0, 1, 2);
+    auto* const progress = bind(new QProgressBar, "ProgressBar1");
+    progress->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // takes no room from the other panels
+    grid->addWidget(progress, 3, 0, 1, 2);
     grid->setRowStretch(1, 1);
     return panel(grid);
 }
