@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QOperatingSystemVersion>
 #include <QPushButton>
 #include <QStandardPaths>
 
@@ -84,7 +85,10 @@ std::optional<std::string> MessageBoxes::choosePathToSave(std::string_view title
     QFileDialog dialog(windowInFront(), shownText(title),
                        file.isAbsolute() && file.dir().exists() ? file.path() : startFolder(), kind);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(ending);
+    // The dialog of Windows adds it behind every other ending, too, that Windows has no program for.
+    const bool isWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+    if (!isWindows || kind.count("*.") == 1)
+        dialog.setDefaultSuffix(ending);
     dialog.selectFile(file.fileName());
     return run(dialog);
 }
