@@ -85,10 +85,7 @@ std::optional<std::string> MessageBoxes::choosePathToSave(std::string_view title
     QFileDialog dialog(windowInFront(), shownText(title),
                        file.isAbsolute() && file.dir().exists() ? file.path() : startFolder(), kind);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // The dialog of Windows adds it behind every other ending, too, that Windows has no program for.
-    const bool isWindows = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
-    if (!isWindows || kind.count("*.") == 1)
-        dialog.setDefaultSuffix(ending);
+    dialog.setDefaultSuffix(ending);
     dialog.selectFile(file.fileName());
     return run(dialog);
 }
@@ -126,16 +123,28 @@ std::optional<std::string> MessageBoxes::chooseFolder(std::string_view title)
     return run(dialog);
 }
 
+/// The formats of pictures. The dialog of Windows adds the ending of the chosen kind
+/// behind any other that Windows has no program for: there each format is a kind of its own.
+static QString pictureKinds(const QStringList& endings)
+{
+    if (QOperatingSystemVersion::currentType() != QOperatingSystemVersion::Windows)
+        return "Picture(*." + endings.join(" *.") + ")";
+    QStringList kinds;
+    for (const QString& ending : endings)
+        kinds += ending.toUpper() + "(*." + ending + ")";
+    return kinds.join(";;");
+}
+
 std::optional<std::string> MessageBoxes::choosePictureToSave(const std::string& proposed)
 {
-    return choosePathToSave("Save picture", QString::fromStdString(proposed), "Picture(*.svg *.pdf *.png)",
-                            "svg");
+    return choosePathToSave("Save picture", QString::fromStdString(proposed),
+                            pictureKinds({"svg", "pdf", "png"}), "svg");
 }
 
 std::optional<std::string> MessageBoxes::chooseFigureToSave(const std::string& proposed)
 {
     return choosePathToSave("Save picture", QString::fromStdString(proposed),
-                            "Picture(*.pdf *.svg *.png *.tif)", "pdf");
+                            pictureKinds({"pdf", "svg", "png", "tif"}), "pdf");
 }
 
 std::optional<std::string> MessageBoxes::choosePagesToSave(const std::string& proposed)
