@@ -48,6 +48,12 @@ TEST_F(RealKeys, bothLayersAndReverseCounting)
     EXPECT_EQ(shown(91), 0);
     tap(place::backspace);
     EXPECT_EQ(shown(91), 1);
+
+    bind(rowShift1, sheet.Shift1Key = 16);
+    bind(rowShift2, sheet.Shift2Key = 18);
+    tapWith({place::shift, place::alt}, place::w); // Alt is another key to the system while Shift is held
+    tapWith({place::alt, place::shift}, place::w);
+    EXPECT_EQ(shown(92), 2);
 }
 
 TEST_F(RealKeys, theKeypadGoesByNumLockAndNotByShift)

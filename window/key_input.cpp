@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QWindow>
 
 /// Milliseconds. The two halves of a repeat carry the same time, but on a busy machine the second one has
@@ -25,6 +26,8 @@ KeyInput::KeyInput(MainWindow& window) : window_(window), keys_(systemKeys())
     heldRelease_.setSingleShot(true);
     connect(&heldRelease_, &QTimer::timeout, this, [this] { deliver(repeats_.flush(), 0); });
     qApp->installEventFilter(this);
+    for (const QKeyCombination key : keys_->toAskFor())
+        (new QShortcut(key, &window))->setContext(Qt::ApplicationShortcut);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
         if (focused == nullptr ||
             (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle()))
@@ -65,11 +68,14 @@ static bool isForDiagnosis(const QObject* target)
 }
 
 /// With Alt, Ctrl or Super held, a key is meant for a menu or the desktop, unless that key itself is bound.
-static bool isMeantElsewhere(Qt::KeyboardModifiers held)
+static bool isMeantElsewhere(const QKeyEvent& event, int code)
 {
     constexpr int ctrl = 17;
     constexpr int alt = 18;
     constexpr int super[] = {91, 92};
+    Qt::KeyboardModifiers held = event.modifiers();
+    if (code == alt) // with Shift held before it many layouts call it Meta, and so its own modifier
+        held.setFlag(Qt::MetaModifier, false);
     return (held.testFlag(Qt::ControlModifier) && !isBoundKey(ctrl)) ||
            (held.testFlag(Qt::AltModifier) && !isBoundKey(alt)) ||
            (held.testFlag(Qt::MetaModifier) && !isBoundKey(super[0]) && !isBoundKey(super[1]));
@@ -86,7 +92,7 @@ bool KeyInput::takesKey(QKeyEvent& event)
         return frmDiagnose.visible;
     }
     if (event.type() == QEvent::KeyPress && !sheet.Modifying && !frmDiagnose.visible &&
-        isMeantElsewhere(event.modifiers()))
+        isMeantElsewhere(event, code))
         return false;
     const int shift = static_cast<int>(event.modifiers() >> 25); // 1 Shift, 2 Ctrl, 4 Alt
     // Asked before the key is handled: what is bound may change through it.
@@ -162,7 +168,7 @@ void KeyInput::deliver(const keycodes::KeyEvent& key, int shift)
 static bool isForShortcuts(const QKeyEvent& event, int code)
 {
     return (event.modifiers().testFlag(Qt::ControlModifier) && code >= 'A' && code <= 'Z') ||
-           isMeantElsewhere(event.modifiers());
+           isMeantElsewhere(event, code);
 }
 
 bool KeyInput::eventFilter(QObject* target, QEvent* event)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <cstdint>
 #include <memory>
+#include <qnamespace.h>
 
 class QKeyEvent;
 
@@ -13,6 +15,8 @@ public:
     virtual int virtualKey(const QKeyEvent& event) = 0;
     /// Which key of the keyboard it is, whatever it types: the same number down and up.
     virtual std::uint32_t physicalKey(const QKeyEvent& event) const = 0;
+    /// Keys that no window gets to see unless a shortcut asks for them.
+    virtual QList<QKeyCombination> toAskFor() const { return {}; }
 };
 
 /// Those of the system that the program was built for. Needs a QGuiApplication that outlives them.
