@@ -35,7 +35,7 @@ int main(int argc, char* argv[])
     settings.height = argc > 4 ? QByteArray(argv[4]).toDouble() : 150;
     const FigureData data = figureData(sheet, argv[1]);
     FigurePlan plan = planFigure(data, settings, pageLetterWidth);
-    for (const double threshold : {3, 5, 7, 10})
+    for (const double threshold : {0.5, 3.0, 5.0, 7.0, 10.0})
         if (!plan.faults.empty()) {
             settings.threshold = threshold;
             plan = planFigure(data, settings, pageLetterWidth);
