@@ -12,6 +12,11 @@ std::optional<std::string> baseName(const std::string& path)
     return path.substr(begin, point - begin);
 }
 
+std::string fileNameOf(const std::string& path)
+{
+    return path.substr(path.find_last_of("\\/") + 1);
+}
+
 std::string fileBeside(const std::string& sheetPath, std::string_view ending)
 {
     if (sheetPath.empty())

@@ -8,6 +8,9 @@
 /// folder separator before it, "\" or "/". Nothing for a path without a point.
 std::optional<std::string> baseName(const std::string& path);
 
+/// What stands behind the last folder separator.
+std::string fileNameOf(const std::string& path);
+
 /// A file of the sheet's name with another ending: "C:\Cores\Lake1.csv" with ".lab.csv" gives
 /// "C:\Cores\Lake1.lab.csv". Empty for a sheet without a path.
 std::string fileBeside(const std::string& sheetPath, std::string_view ending);

@@ -58,7 +58,7 @@ TEST(Clusters, anIncreaseMayFallButAHeightNever)
 
 TEST(Clusters, ofEqualPairsTheTopmostMerges)
 {
-    // 1/3 and its like differ in their last bit between equal pairs.
+    // Fractions of equal pairs differ in their last bit.
     const Points points = {{0.1}, {0.4}, {0.7}, {1.0}, {1.3}};
     const auto merges = clusterByGrimm(points);
     EXPECT_EQ(merges[0].upperFirst, 0);

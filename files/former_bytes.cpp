@@ -1,6 +1,7 @@
 #include "files/former_bytes.h"
 
 #include "core/number_text.h"
+#include "core/sheet_name.h"
 #include "files/data_sheet_reader.h"
 #include "files/reading_check.h"
 #include "platform/code_page.h"
@@ -23,7 +24,7 @@ bool keepFormerBytes(const std::string& path, bool always)
     if (!bytes || bytes->empty() ||
         (!always && contentsOf(fileTextInCodePage(*bytes)) == Contents::dataSheet))
         return true;
-    const std::string name = path.substr(path.find_last_of("\\/") + 1);
+    const std::string name = fileNameOf(path);
     int number = 1;
     for (; number < mostOfAName; ++number) {
         const auto kept = ports.files->read(placeOf(name, number), sheetLimit);

@@ -61,7 +61,7 @@ void endFailed()
 /// Another program has been at the sheet's file.
 bool mayWriteOver(const std::string& path)
 {
-    return ports.dialogs->ask("'" + toCodePageFromUtf8(path.substr(path.find_last_of("\\/") + 1)) +
+    return ports.dialogs->ask("'" + toCodePageFromUtf8(fileNameOf(path)) +
                                   "' has been changed by another program. Do you want to write over it?",
                               "Caution!", Buttons::yesNo, Icon::question) == Answer::yes;
 }

@@ -29,11 +29,6 @@ double letterWidth(std::string_view text, bool italic)
     return ports.pictures->letterWidth(text, italic);
 }
 
-std::string fileName(const std::string& path)
-{
-    return toCodePageFromUtf8(path.substr(path.find_last_of("\\/") + 1));
-}
-
 void save(const std::vector<Page>& pages, const std::string& ending)
 {
     const std::string beside = fileBeside(sheet.SheetPath, ending);
@@ -50,7 +45,7 @@ void save(const std::vector<Page>& pages, const std::string& ending)
         return;
     }
     playCue(Cue::SoundSave);
-    frmMain.notice = "'" + fileName(*path) + "' written, to be printed from there.";
+    frmMain.notice = "'" + toCodePageFromUtf8(fileNameOf(*path)) + "' written, to be printed from there.";
 }
 
 } // namespace

@@ -21,7 +21,7 @@ TEST(ChiSquareTail, HasItsClosedForms)
             sum += term *= x / 2 / k;
         EXPECT_MATCHES(chiSquareTail(x, 40), std::exp(-x / 2) * sum);
     }
-    // 5 % and 1 % points of printed tables.
+    // Printed tables: where five and one percent lie above.
     EXPECT_NEAR(chiSquareTail(3.841459, 1), 0.05, 1e-7);
     EXPECT_NEAR(chiSquareTail(18.307038, 10), 0.05, 1e-7);
     EXPECT_NEAR(chiSquareTail(135.806723, 100), 0.01, 1e-7);

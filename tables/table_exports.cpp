@@ -36,20 +36,15 @@ constexpr Export counts = {"_counts.csv", "Export table of counts", countsTable}
 constexpr Export tidy = {"_tidy.csv", "Export tidy table", tidyTableOfSheet};
 constexpr Export taxa = {"_taxa.csv", "Export table of taxa", taxaTable};
 
-std::size_t endOfFolder(const std::string& path)
-{
-    const std::size_t separator = path.find_last_of("\\/");
-    return separator == std::string::npos ? 0 : separator + 1;
-}
-
 std::string fileName(const std::string& path)
 {
-    return toCodePageFromUtf8(path.substr(endOfFolder(path)));
+    return toCodePageFromUtf8(fileNameOf(path));
 }
 
 std::string besideTheSheet(const Export& table)
 {
-    return sheet.SheetPath.substr(0, endOfFolder(sheet.SheetPath)) + sheetTitle() + table.ending;
+    const std::string& path = sheet.SheetPath;
+    return path.substr(0, path.size() - fileNameOf(path).size()) + sheetTitle() + table.ending;
 }
 
 void tellFault(const std::string& text)

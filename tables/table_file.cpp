@@ -1,5 +1,6 @@
 #include "tables/table_file.h"
 
+#include "core/sheet_name.h"
 #include "platform/code_page.h"
 #include "platform/ports.h"
 
@@ -22,7 +23,7 @@ std::optional<TableFile> chooseTable(std::string_view dialogTitle)
     const auto path = ports.dialogs->chooseTableToOpen(dialogTitle);
     if (!path)
         return std::nullopt;
-    const std::string name = toCodePageFromUtf8(path->substr(path->find_last_of("\\/") + 1));
+    const std::string name = toCodePageFromUtf8(fileNameOf(*path));
     auto bytes = ports.files->read(*path, sizeLimit);
     if (!bytes)
         tellTableFault("'" + name + "' cannot be read, or is larger than 16 megabytes.");
