@@ -80,5 +80,8 @@ void LegibleStyle::polish(QPalette& colours)
         const QColor text = colours.color(group, QPalette::Text);
         const QColor ground = colours.color(group, QPalette::Base);
         colours.setColor(group, QPalette::PlaceholderText, legible(mixed(text, ground, 0.4), text, {ground}));
+        // A dark theme without a colour for every other row would get a white one.
+        if (contrast(text, colours.color(group, QPalette::AlternateBase)) < enough)
+            colours.setColor(group, QPalette::AlternateBase, mixed(ground, text, 0.05));
     }
 }
