@@ -55,6 +55,14 @@ protected:
         return samples;
     }
 
+    /// A cue that is marked sooner gives way to the next one before it is heard.
+    static bool waitUntilOpen(const SdlSound& sound)
+    {
+        for (int i = 0; i < 200 && sound.device() != "disk, open"; ++i)
+            std::this_thread::sleep_for(10ms);
+        return sound.device() == "disk, open";
+    }
+
     bool waitForLevel(std::int16_t level) const
     {
         for (int i = 0; i < 200; ++i) {
@@ -98,6 +106,7 @@ TEST_F(SoundOnDisk, whatIsNoWavIsSilence)
          {std::string(), std::string("no sound at all"), wav(7, 100).substr(0, 30)})
         sound.load(Cue::SoundSave, image);
     sound.load(Cue::SoundAlarm, wav(300, 600));
+    ASSERT_TRUE(waitUntilOpen(sound));
     sound.play(Cue::SoundSave);
     std::this_thread::sleep_for(50ms);
     sound.play(Cue::SoundAlarm);
@@ -109,7 +118,10 @@ TEST(SoundWithoutDevice, neverWaitsAndNeverFails)
     qputenv("SDL_AUDIODRIVER", "no such driver");
     SdlSound sound;
     sound.load(Cue::SoundKey1, wav(1000, 100));
-    for (int i = 0; i < 1000; ++i)
-        sound.play(Cue::SoundKey1); // hangs or fails if it ever waits for the device
+    for (int i = 0; i < 1000; ++i) {
+        sound.play(Cue::SoundKey1);         // hangs or fails if it ever waits for the device
+        std::this_thread::sleep_for(500us); // until long after the device was looked for
+    }
+    EXPECT_EQ(sound.device(), "no sound device");
     qunsetenv("SDL_AUDIODRIVER");
 }

@@ -1,38 +1,40 @@
 #include "platform/qt/sdl_sound.h"
 
-#include <SDL.h>
+#include "platform/qt/sdl_library.h"
 
 #include <QApplication>
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace {
 
 constexpr int rate = 44100;
 constexpr int periodFrames = 256;
+constexpr auto untilWindowStands = std::chrono::milliseconds(250); // loading the library would delay it
 constexpr auto watchInterval = std::chrono::seconds(1);
 constexpr int turnsBetweenTries = 10;
 
 /// The samples of a WAV image at the rate of the device; none if it is no WAV.
-std::vector<std::int16_t> decoded(std::string_view image)
+std::vector<std::int16_t> decoded(const SdlLibrary& sdl, std::string_view image)
 {
     SDL_AudioSpec spec{};
     Uint8* raw = nullptr;
     Uint32 rawBytes = 0;
-    SDL_RWops* const source = SDL_RWFromConstMem(image.data(), static_cast<int>(image.size()));
-    if (source == nullptr || SDL_LoadWAV_RW(source, 1, &spec, &raw, &rawBytes) == nullptr)
+    SDL_RWops* const source = sdl.RWFromConstMem(image.data(), static_cast<int>(image.size()));
+    if (source == nullptr || sdl.LoadWAV_RW(source, 1, &spec, &raw, &rawBytes) == nullptr)
         return {};
 
     std::vector<std::int16_t> samples;
     SDL_AudioStream* const stream =
-        SDL_NewAudioStream(spec.format, spec.channels, spec.freq, AUDIO_S16SYS, 1, rate);
-    if (stream != nullptr && SDL_AudioStreamPut(stream, raw, static_cast<int>(rawBytes)) == 0 &&
-        SDL_AudioStreamFlush(stream) == 0) {
-        samples.resize(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream)) / sizeof(std::int16_t));
-        SDL_AudioStreamGet(stream, samples.data(), static_cast<int>(samples.size() * sizeof(std::int16_t)));
+        sdl.NewAudioStream(spec.format, spec.channels, spec.freq, AUDIO_S16SYS, 1, rate);
+    if (stream != nullptr && sdl.AudioStreamPut(stream, raw, static_cast<int>(rawBytes)) == 0 &&
+        sdl.AudioStreamFlush(stream) == 0) {
+        samples.resize(static_cast<std::size_t>(sdl.AudioStreamAvailable(stream)) / sizeof(std::int16_t));
+        sdl.AudioStreamGet(stream, samples.data(), static_cast<int>(samples.size() * sizeof(std::int16_t)));
     }
-    SDL_FreeAudioStream(stream);
-    SDL_FreeWAV(raw);
+    sdl.FreeAudioStream(stream);
+    sdl.FreeWAV(raw);
     return samples;
 }
 
@@ -40,9 +42,7 @@ std::vector<std::int16_t> decoded(std::string_view image)
 
 SdlSound::SdlSound()
 {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C and a session's end must still end the program
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "TallyStrata");
-    keeper_ = std::thread([this] { keepDeviceOpen(); });
+    keeper_ = std::thread([this] { keep(); });
 }
 
 SdlSound::~SdlSound()
@@ -57,7 +57,8 @@ SdlSound::~SdlSound()
 
 void SdlSound::load(Cue cue, std::string_view wavImage)
 {
-    cues_[static_cast<std::size_t>(cue)] = decoded(wavImage);
+    const std::lock_guard lock(mutex_);
+    images_[static_cast<std::size_t>(cue)] = wavImage;
 }
 
 void SdlSound::play(Cue cue)
@@ -78,8 +79,11 @@ std::string SdlSound::device() const
 
 std::string SdlSound::version()
 {
+    const SdlLibrary* const sdl = SdlLibrary::loaded();
+    if (sdl == nullptr)
+        return "not found";
     SDL_version loaded;
-    SDL_GetVersion(&loaded);
+    sdl->GetVersion(&loaded);
     return std::to_string(loaded.major) + "." + std::to_string(loaded.minor) + "." +
            std::to_string(loaded.patch);
 }
@@ -119,7 +123,22 @@ void SdlSound::mix(std::int16_t* out, std::size_t count)
     }
 }
 
-void SdlSound::keepDeviceOpen()
+void SdlSound::keep()
+{
+    std::unique_lock lock(mutex_);
+    if (wake_.wait_for(lock, untilWindowStands, [this] { return ending_; }))
+        return;
+    const SdlLibrary* const sdl = SdlLibrary::loaded();
+    if (sdl == nullptr)
+        return;
+    for (std::size_t cue = 0; cue < images_.size(); ++cue)
+        cues_[cue] = decoded(*sdl, std::exchange(images_[cue], {}));
+    sdl->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C and a session's end must still end the program
+    sdl->SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "TallyStrata");
+    keepDeviceOpen(*sdl, lock);
+}
+
+void SdlSound::keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex>& lock)
 {
     SDL_AudioSpec wanted{};
     wanted.freq = rate;
@@ -131,11 +150,10 @@ void SdlSound::keepDeviceOpen()
 
     SDL_AudioDeviceID device = 0;
     int untilNextTry = 0; // in turns of the watch
-    std::unique_lock lock(mutex_);
     for (bool first = true; !ending_; first = false) {
         lock.unlock();
-        if (device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) {
-            SDL_CloseAudioDevice(device);
+        if (device != 0 && sdl.GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) {
+            sdl.CloseAudioDevice(device);
             device = 0;
             untilNextTry = 0;
         }
@@ -145,17 +163,17 @@ void SdlSound::keepDeviceOpen()
             untilNextTry = turnsBetweenTries;
             if (!first)
                 marked_ = noCue; // what was marked while there was no device is long past
-            if (SDL_WasInit(SDL_INIT_AUDIO) != 0 || SDL_InitSubSystem(SDL_INIT_AUDIO) == 0)
-                device = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+            if (sdl.WasInit(SDL_INIT_AUDIO) != 0 || sdl.InitSubSystem(SDL_INIT_AUDIO) == 0)
+                device = sdl.OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
             if (device != 0)
-                SDL_PauseAudioDevice(device, 0);
+                sdl.PauseAudioDevice(device, 0);
         }
-        driver_ = device != 0 ? SDL_GetCurrentAudioDriver() : nullptr;
+        driver_ = device != 0 ? sdl.GetCurrentAudioDriver() : nullptr;
         lock.lock();
         wake_.wait_for(lock, watchInterval, [this] { return ending_; });
     }
     lock.unlock();
     if (device != 0)
-        SDL_CloseAudioDevice(device);
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        sdl.CloseAudioDevice(device);
+    sdl.QuitSubSystem(SDL_INIT_AUDIO);
 }

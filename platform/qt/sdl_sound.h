@@ -10,9 +10,12 @@
 #include <thread>
 #include <vector>
 
+class SdlLibrary;
+
 /// The cues, played from memory through the sound device. play() only marks the cue; the device's own thread
-/// takes it up at its next period of 256 frames (5.8 ms). The device is opened, watched and, when it
-/// vanishes, opened anew on a thread of its own, so that neither start nor count ever waits for it.
+/// takes it up at its next period of 256 frames (5.8 ms). The library is loaded, and the device opened,
+/// watched and, when it vanishes, opened anew, on a thread of its own, so that neither start nor count ever
+/// waits for them. The cues are to be loaded in the first moments: they are decoded once, with the library.
 class SdlSound : public Sound {
 public:
     SdlSound();
@@ -24,7 +27,7 @@ public:
     void play(Cue cue) override;
     void beep() override;
     std::string device() const override;
-    /// Of the library that is loaded, as in "2.26.5".
+    /// Of the library, as in "2.26.5"; or that there is none, for people to read.
     static std::string version();
 
 private:
@@ -33,8 +36,10 @@ private:
 
     static void fill(void* self, std::uint8_t* stream, int bytes);
     void mix(std::int16_t* out, std::size_t count);
-    void keepDeviceOpen();
+    void keep();
+    void keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex>& lock);
 
+    std::array<std::string, cueCount> images_;  ///< WAV, until the library is there
     std::array<Samples, cueCount> cues_;        ///< mono, 44100 Hz
     std::atomic<int> marked_ = noCue;           ///< cue that the device has not taken up yet
     std::atomic<const char*> driver_ = nullptr; ///< of the open device, nullptr while there is none
