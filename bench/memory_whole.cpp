@@ -1,5 +1,6 @@
 // The program at its start, and with the fullest sheet and its diagram, all columns in view.
 
+#include "app/application.h"
 #include "app/program.h"
 #include "bench/full_sheet.h"
 #include "bench/memory.h"
@@ -9,7 +10,7 @@
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     const DeliveredCopy delivered(DELIVERED_FOLDER);
     Program program(delivered.path());
     const std::string path = delivered.path().toStdString() + "/full.csv";

@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/program.h"
 #include "bench/start_time.h"
 #include "trials/delivered_copy.h"
@@ -6,7 +7,7 @@
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     const double before = millisecondsSinceStart();
     std::optional<DeliveredCopy> folder(DELIVERED_FOLDER);
     const double copying = millisecondsSinceStart() - before;

@@ -1,5 +1,8 @@
 #include "window/legible_style.h"
 
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPainter>
 #include <QPalette>
 #include <algorithm>
 #include <cmath>
@@ -32,6 +35,23 @@ const QList<TextOnGround>& texts()
                                             {QPalette::Link, {QPalette::Base, QPalette::Window}},
                                             {QPalette::LinkVisited, {QPalette::Base, QPalette::Window}}};
     return all;
+}
+
+/// What a menu bar shows where it has more entries than room. The system's picture is dark in dark themes
+/// too, and reading the first picture loads the plug-ins for all formats, for which a start would wait.
+QPixmap moreToTheRight(const QColor& colour)
+{
+    constexpr int size = 16;
+    constexpr int sharp = 2;
+    QPixmap picture(QSize(size, size) * sharp);
+    picture.setDevicePixelRatio(sharp);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.5));
+    for (const int left : {4, 8})
+        painter.drawPolyline(QPolygon({{left, 4}, {left + 4, 8}, {left, 12}}));
+    return picture;
 }
 
 } // namespace
@@ -84,4 +104,12 @@ void LegibleStyle::polish(QPalette& colours)
         if (contrast(text, colours.color(group, QPalette::AlternateBase)) < enough)
             colours.setColor(group, QPalette::AlternateBase, mixed(ground, text, 0.05));
     }
+}
+
+QIcon LegibleStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    if (picture == SP_ToolBarHorizontalExtensionButton)
+        return moreToTheRight(QGuiApplication::palette().color(QPalette::ButtonText));
+    return QProxyStyle::standardIcon(picture, option, widget);
 }

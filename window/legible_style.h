@@ -10,6 +10,8 @@ public:
     using QProxyStyle::polish;
     /// Runs for the palette of the program whenever the theme changes.
     void polish(QPalette& colours) override;
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                       const QWidget* widget) const override;
 };
 
 /// The colour that is `share` of the way, 0 to 1.
