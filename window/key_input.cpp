@@ -9,7 +9,6 @@
 #include "platform/qt/system_keys.h"
 #include "sheet/percent_view.h"
 #include "window/capture_box.h"
-#include "window/diagram_window.h"
 #include "window/main_window.h"
 
 #include <QApplication>
@@ -29,8 +28,7 @@ KeyInput::KeyInput(MainWindow& window) : window_(window), keys_(systemKeys())
     for (const QKeyCombination key : keys_->toAskFor())
         (new QShortcut(key, &window))->setContext(Qt::ApplicationShortcut);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* focused) {
-        if (focused == nullptr ||
-            (focused != window_.windowHandle() && focused != window_.diagramWindow().windowHandle()))
+        if (focused == nullptr || (focused != window_.windowHandle() && !window_.isDiagram(focused)))
             keyboardLost();
     });
 }
@@ -50,9 +48,8 @@ void KeyInput::keyboardLost()
 
 bool KeyInput::isForCounting(const QObject* target) const
 {
-    return (target == window_.windowHandle() || target == window_.diagramWindow().windowHandle()) &&
-           isMainEnabled() && QApplication::activePopupWidget() == nullptr &&
-           QApplication::activeModalWidget() == nullptr;
+    return (target == window_.windowHandle() || window_.isDiagram(target)) && isMainEnabled() &&
+           QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;
 }
 
 keycodes::RawKey KeyInput::rawKey(const QKeyEvent& event, int code) const
@@ -177,7 +174,7 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         if (isForCounting(target) || isForDiagnosis(target)) {
-            inDiagram_ = target == window_.diagramWindow().windowHandle();
+            inDiagram_ = window_.isDiagram(target);
             return takesKey(static_cast<QKeyEvent&>(*event));
         }
         if (target->isWindowType() && isCaptured(static_cast<QKeyEvent&>(*event)))
@@ -193,7 +190,8 @@ bool KeyInput::eventFilter(QObject* target, QEvent* event)
             return true;
         }
         const QWidget* const active = QApplication::activeWindow();
-        const bool inWindow = (active == &window_ || active == &window_.diagramWindow()) &&
+        const bool inWindow = active != nullptr &&
+                              (active == &window_ || window_.isDiagram(active->windowHandle())) &&
                               QApplication::activePopupWidget() == nullptr && !sheet.Modifying;
         const int code = inWindow ? keys_->virtualKey(key) : 0;
         if (code == 0 || !isBoundKey(code) || isForShortcuts(key, code))

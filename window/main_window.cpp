@@ -101,16 +101,15 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
     whole->addLayout(bottom, 6);
     statusBar()->setObjectName("StatusBar1");
 
+    scaleFont();
     makePage();
 
     watch(surface);
     for (QWidget* const part : surface->findChildren<QWidget*>())
         watch(part);
-    scaleFont();
     plainColours_ = surface->palette();
 
-    diagram_ = std::make_unique<DiagramWindow>(*this);
-    takeCtrlLetters();
+    takeCtrlLetters(*this);
 
     // The user moves the focus with Tab among the buttons; the record follows.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* focused) {
@@ -134,15 +133,19 @@ void MainWindow::beginEvent()
     frmMain.notice.clear();
 }
 
+bool MainWindow::isCell(const QObject* target)
+{
+    const Control control = controlOf(target);
+    return control.kind != nullptr && control.kind->hovered != nullptr;
+}
+
 /// While counting, a click anywhere on the sheet returns to the counting, and selects no text of a cell. In
 /// Modify template mode the boxes are edited.
 bool MainWindow::eventFilter(QObject* target, QEvent* event)
 {
-    const Control control = controlOf(target);
-    const bool isCell = control.kind != nullptr && control.kind->hovered != nullptr;
     switch (event->type()) {
     case QEvent::MouseMove:
-        onPassing(isCell ? control.kind->hovered : Form_MouseMove);
+        onPassing(isCell(target) ? controlOf(target).kind->hovered : Form_MouseMove);
         break;
     case QEvent::MouseButtonPress:
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
@@ -192,7 +195,7 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
     default:
         return false;
     }
-    return isCell && !sheet.Modifying;
+    return !sheet.Modifying && isCell(target);
 }
 
 /// A text that its box is too narrow for.
@@ -219,6 +222,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
     if (!isPainted_)
         QTimer::singleShot(untilInUse, this, [this] {
             makeOtherPages();
+            makeDiagram(); // its chrome is measured before a diagram is laid out
             present();
         });
     isPainted_ = true;
@@ -291,7 +295,8 @@ void MainWindow::present()
     presentKeyNames();
     presentNames();
     for (TaxonPage* const page : pages_) {
-        page->placeCells();
+        if (page->isVisible()) // else when it comes into view, at the size that it has then
+            page->placeCells();
         page->frameCells();
     }
     if (tabs_->currentIndex() != frmMain.SSTab1)
@@ -310,6 +315,7 @@ void MainWindow::present()
     presentFocusAndPointer();
     if (isVisible() != frmMain.visible)
         setVisible(frmMain.visible);
+    showPages();
     presentForms();
     if (frmMain.forwardRevision != forwardShown_) {
         forwardShown_ = frmMain.forwardRevision;

@@ -64,8 +64,8 @@ public:
     /// Of all that, only the line at the foot.
     void presentNotice();
 
-    /// The window of the diagram, where keys count too.
-    const DiagramWindow& diagramWindow() const { return *diagram_; }
+    /// Whether it is the window of the diagram, where keys count too.
+    bool isDiagram(const QObject* window) const;
     /// Before a small window is shown.
     void keepManualReadable(QWidget& smallWindow);
 
@@ -86,6 +86,7 @@ private:
     void makePage();
     /// The pages of the layers that are not on show at the start: a third of all widgets is enough to begin.
     void makeOtherPages();
+    void showPages();
     TotalFrame* totalFrame(int total, const char* name);
     QWidget* sumStrip();
     QWidget* statisticsStrip();
@@ -100,7 +101,7 @@ private:
     // main_window_menus.cpp
     void makeMenus();
     void makeRowMenu();
-    void takeCtrlLetters();
+    static void takeCtrlLetters(QWidget& window);
 
     // main_window_editing.cpp
     bool boxPressed(QWidget* box, const QMouseEvent& press);
@@ -121,6 +122,7 @@ private:
     void presentRecount();
     void presentFocusAndPointer();
     void scaleFont();
+    static bool isCell(const QObject* target);
     static bool showCutText(const QObject* target, const QHelpEvent& event);
 
     QWidget* focusSink_; ///< Text99
@@ -151,6 +153,7 @@ private:
     };
     static std::vector<SmallWindow> smallWindows();
     void presentForms();
+    void makeDiagram();
 
     std::array<std::string, taxonSlots + 1> namesShown_;
     int keyNamesShown_ = -1; ///< revision

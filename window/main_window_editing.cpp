@@ -164,6 +164,8 @@ void MainWindow::presentMode()
     if (on == modifyingShown_)
         return;
     modifyingShown_ = on;
+    if (menuNamed("mnuRightButton") == nullptr)
+        makeRowMenu(); // rows have it in this mode only
     const QPalette colours = on ? modifyColours(plainColours_, *frmMain.sheetColour) : plainColours_;
     centralWidget()->setPalette(colours);
     centralWidget()->setAutoFillBackground(on);

@@ -1,6 +1,7 @@
 // The windows beside the main one. Each is built when it is opened for the first time.
 
 #include "core/forms.h"
+#include "core/sheet_state.h"
 #include "extras/manual.h"
 #include "window/about_windows.h"
 #include "window/diagnose_window.h"
@@ -61,6 +62,19 @@ void MainWindow::keepManualReadable(QWidget& smallWindow)
         manual_->standBy(smallWindow);
 }
 
+void MainWindow::makeDiagram()
+{
+    if (diagram_ != nullptr)
+        return;
+    diagram_ = std::make_unique<DiagramWindow>(*this);
+    takeCtrlLetters(*diagram_);
+}
+
+bool MainWindow::isDiagram(const QObject* window) const
+{
+    return diagram_ != nullptr && window != nullptr && window == diagram_->windowHandle();
+}
+
 void MainWindow::presentForms()
 {
     for (SmallWindow& one : smallWindows_) {
@@ -69,7 +83,10 @@ void MainWindow::presentForms()
         if (one.window != nullptr)
             one.window->present();
     }
-    diagram_->present();
+    if (sheet.DiagramOpen)
+        makeDiagram();
+    if (diagram_ != nullptr)
+        diagram_->present();
     if (figure_ == nullptr && frmFigure.visible)
         figure_ = std::make_unique<FigureWindow>(*this);
     if (figure_ != nullptr)

@@ -163,9 +163,13 @@ QWidget* MainWindow::sheetPages()
 void MainWindow::makePage()
 {
     const int layer = static_cast<int>(pages_.size());
-    auto* const page = new TaxonPage(layer);
+    auto* const page = new TaxonPage(layer, tabs_->widget(layer));
     page->setObjectName(indexed("Frame1", layer));
     page->setAccessibleName(tabs_->tabText(layer));
+    QSizePolicy kept = page->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    page->setSizePolicy(kept);
+    page->hide(); // see showPages()
     for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
         bind(page->nameBox(slot), "Text1", slot);
         bind(page->countBox(slot), "Text2", slot);
@@ -173,6 +177,14 @@ void MainWindow::makePage()
     }
     tabs_->widget(layer)->layout()->addWidget(page);
     pages_ << page;
+}
+
+/// A tab widget lays out its pages only after it has shown them: cells that were on show with it would be
+/// placed, and their letters made, twice.
+void MainWindow::showPages()
+{
+    for (TaxonPage* const page : pages_)
+        page->show();
 }
 
 void MainWindow::makeOtherPages()

@@ -162,19 +162,17 @@ void MainWindow::makeMenus()
     BoundWindow::makeMenus(*menuBar(), menus, entries);
     bindAction(menuNamed("mnuPercent")->menuAction(), frmMain.mnuPercent); // one entry of its own
     connect(menuNamed("mnuEdit"), &QMenu::aboutToShow, this, [this] { onPassing(mnuEdit_Open); });
-    makeRowMenu();
 }
 
 /// mnuByPass: Ctrl and a letter is taken and does nothing. It counts nothing either, here and where the
 /// diagram is: there it is meant for copying.
-void MainWindow::takeCtrlLetters()
+void MainWindow::takeCtrlLetters(QWidget& window)
 {
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        auto* const taken = new QAction(this);
+        auto* const taken = new QAction(&window);
         taken->setObjectName(QString("mnu") + letter);
         taken->setShortcut(QKeySequence(QString("Ctrl+") + letter));
-        addAction(taken);
-        diagram_->addAction(taken);
+        window.addAction(taken);
     }
 }
 

@@ -21,7 +21,7 @@ const NameBox::Fitted& NameBox::fitted() const
     const auto fits = [&widest, room](const QString& name) {
         return QFontMetrics(widest).horizontalAdvance(name) <= room;
     };
-    for (const int stretch : {100, 92, 85}) {
+    for (const int stretch : {int{QFont::AnyStretch}, 92, 85}) {
         widest.setStretch(stretch);
         fitted_.narrowed.setStretch(stretch);
         if (fits(fitted_.text))

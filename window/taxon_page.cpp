@@ -42,7 +42,7 @@ Box* cellBox(QWidget* page, Qt::Alignment alignment)
 
 } // namespace
 
-TaxonPage::TaxonPage(int layer) : firstSlot_(layer * keysPerLayer + 1)
+TaxonPage::TaxonPage(int layer, QWidget* parent) : QWidget(parent), firstSlot_(layer * keysPerLayer + 1)
 {
     setMinimumSize(pageWidth / 24, pageHeight / 24);
     for (int i = 0; i < keysPerLayer; ++i) {
@@ -164,6 +164,11 @@ void TaxonPage::resizeEvent(QResizeEvent*)
     placeCells();
 }
 
+void TaxonPage::showEvent(QShowEvent*)
+{
+    placeCells();
+}
+
 QColor TaxonPage::blockColour() const
 {
     const QColor window = palette().color(QPalette::Window);
@@ -174,9 +179,7 @@ QColor TaxonPage::blockColour() const
 /// Small and quiet: they are looked for, and must not be in the way of the counts above them.
 void TaxonPage::paintKeyNames(QPainter& painter, const QRegion& where) const
 {
-    QFont letters = font();
-    letters.setPixelSize(letterPixels(indexLetters));
-    painter.setFont(letters);
+    painter.setFont(indexLabel(firstSlot())->font());
     const QColor strong = palette().color(QPalette::WindowText);
     const QColor ground = blockColour();
     painter.setPen(legible(mixed(strong, ground, 0.4), strong, {ground}));

@@ -16,7 +16,7 @@ class QPainter;
 /// every eye.
 class TaxonPage : public QWidget {
 public:
-    explicit TaxonPage(int layer);
+    TaxonPage(int layer, QWidget* parent);
 
     NameBox* nameBox(int slot) const { return names_[slot - firstSlot_]; }
     QLineEdit* countBox(int slot) const { return counts_[slot - firstSlot_]; }
@@ -38,6 +38,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
+    void showEvent(QShowEvent*) override;
 
 private:
     QRect scaled(int left, int top, int width, int height) const;
