@@ -227,6 +227,23 @@ TEST_F(DiskFaults, whatIsWrittenOverIsPutBackAsLongAsTheDiskTakesIt)
                });
 }
 
+TEST_F(DiskFaults, aNewFileThatCannotBeWrittenIsNotLeftEmpty)
+{
+    const std::string text(15000, 'n');
+    const auto writeNew = [&] {
+        std::filesystem::remove(path);
+        return disk::write(path, text);
+    };
+    ASSERT_TRUE(run({}, writeNew));
+    const int all = calls;
+    for (int call = 1; call <= all; ++call)
+        for (const bool shortWrite : {false, true}) {
+            const bool done = run({call, ENOSPC, false, shortWrite}, writeNew);
+            EXPECT_TRUE(this->text() == text || (!done && !std::filesystem::exists(path)))
+                << failed << ", call " << call;
+        }
+}
+
 TEST_F(DiskFaults, whatIsAppendedStandsWholeOrNotAtAll)
 {
     everyFault([this](const std::string& text) { return disk::append(path, text); },

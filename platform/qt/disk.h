@@ -9,7 +9,7 @@
 namespace disk {
 
 /// Straight over what is there. Only here a crash may leave a mixture; if a step fails, the old bytes are put
-/// back as far as the disk still takes them.
+/// back as far as the disk still takes them, and a new file is removed.
 bool write(const std::string& path, std::string_view bytes);
 /// Makes an empty file if there is none.
 bool create(const std::string& path);

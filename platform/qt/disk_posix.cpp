@@ -164,14 +164,17 @@ bool disk::write(const std::string& path, std::string_view bytes)
     OpenFile file(path, O_RDWR | O_CREAT);
     const auto before = file ? file.size() : std::nullopt;
     const auto old = before ? file.text() : std::nullopt;
-    if (!before || !reserveRoom(file, *before, bytes.size()))
-        return false;
-    if (file.write(bytes, 0) && file.cutTo(static_cast<off_t>(bytes.size())) && file.sync())
+    const bool hasRoom = before && reserveRoom(file, *before, bytes.size());
+    if (hasRoom && file.write(bytes, 0) && file.cutTo(static_cast<off_t>(bytes.size())) && file.sync())
         return file.close() && (!isNew || syncFolderOf(path));
-    if (old)
-        file.write(*old, 0);
-    file.cutTo(*before);
-    file.sync();
+    if (isNew && file && isSameFile(file.handle(), path)) {
+        ::unlink(path.c_str());
+    } else if (hasRoom) {
+        if (old)
+            file.write(*old, 0);
+        file.cutTo(*before);
+        file.sync();
+    }
     return false;
 }
 

@@ -165,17 +165,22 @@ bool disk::write(const std::string& path, std::string_view bytes)
     const std::wstring target = wide(path);
     if (isReadOnly(target)) // an administrator of the disk's own system could
         return false;
+    const bool isNew = GetFileAttributesW(target.c_str()) == INVALID_FILE_ATTRIBUTES;
     HeldFile file(target, GENERIC_READ | GENERIC_WRITE, forReaders, OPEN_ALWAYS);
     const auto before = file ? file.size() : std::nullopt;
     const auto old = before ? file.text() : std::nullopt;
-    if (!before || !file.reserveRoom(*before, bytes.size()))
-        return false;
-    if (file.write(bytes, 0) && file.cutTo(static_cast<LONGLONG>(bytes.size())) && file.sync())
+    const bool hasRoom = before && file.reserveRoom(*before, bytes.size());
+    if (hasRoom && file.write(bytes, 0) && file.cutTo(static_cast<LONGLONG>(bytes.size())) && file.sync())
         return file.close();
-    if (old)
-        file.write(*old, 0);
-    file.cutTo(*before);
-    file.sync();
+    if (isNew && file) {
+        file.close();
+        DeleteFileW(target.c_str());
+    } else if (hasRoom) {
+        if (old)
+            file.write(*old, 0);
+        file.cutTo(*before);
+        file.sync();
+    }
     return false;
 }
 
