@@ -1,4 +1,5 @@
 #include "platform/qt/disk.h"
+#include "platform/qt/write_over.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -38,6 +39,19 @@ public:
     {
         struct stat facts;
         return ::fstat(file_, &facts) == 0 ? std::optional(facts.st_size) : std::nullopt;
+    }
+    /// Asks for the room of the new bytes while the old ones still stand, and their length with them.
+    bool reserveRoom([[maybe_unused]] off_t before, [[maybe_unused]] std::size_t bytes) const
+    {
+#if defined(__linux__)
+        const auto wanted = static_cast<off_t>(bytes == 0 ? 1 : bytes);
+        if (withoutInterruption([&] { return ::fallocate(file_, FALLOC_FL_KEEP_SIZE, 0, wanted); }) != 0 &&
+            errno != EOPNOTSUPP && errno != ENODEV && errno != ESPIPE && errno != ENOSYS) {
+            cutTo(before);
+            return false;
+        }
+#endif
+        return true; // a system that cannot tell finds out while it writes
     }
     /// At `at` bytes from the start; an appending file takes it to its end.
     bool write(std::string_view bytes, off_t at) const
@@ -108,22 +122,6 @@ bool exists(const std::string& path)
     return ::stat(path.c_str(), &facts) == 0;
 }
 
-/// Asks for the room of the new bytes while the old ones still stand, and their length with them.
-bool reserveRoom([[maybe_unused]] const OpenFile& file, [[maybe_unused]] off_t before,
-                 [[maybe_unused]] std::size_t bytes)
-{
-#if defined(__linux__)
-    const auto wanted = static_cast<off_t>(bytes == 0 ? 1 : bytes);
-    if (withoutInterruption([&] { return ::fallocate(file.handle(), FALLOC_FL_KEEP_SIZE, 0, wanted); }) !=
-            0 &&
-        errno != EOPNOTSUPP && errno != ENODEV && errno != ESPIPE && errno != ENOSYS) {
-        file.cutTo(before);
-        return false;
-    }
-#endif
-    return true; // a system that cannot tell finds out while it writes
-}
-
 /// Name of a file beside another one that nobody else writes.
 std::string nameBeside(const std::string& path)
 {
@@ -162,19 +160,10 @@ bool disk::write(const std::string& path, std::string_view bytes)
 {
     const bool isNew = !exists(path);
     OpenFile file(path, O_RDWR | O_CREAT);
-    const auto before = file ? file.size() : std::nullopt;
-    const auto old = before ? file.text() : std::nullopt;
-    const bool hasRoom = before && reserveRoom(file, *before, bytes.size());
-    if (hasRoom && file.write(bytes, 0) && file.cutTo(static_cast<off_t>(bytes.size())) && file.sync())
+    if (file && writeOver(file, bytes))
         return file.close() && (!isNew || syncFolderOf(path));
-    if (isNew && file && isSameFile(file.handle(), path)) {
+    if (isNew && file && isSameFile(file.handle(), path))
         ::unlink(path.c_str());
-    } else if (hasRoom) {
-        if (old)
-            file.write(*old, 0);
-        file.cutTo(*before);
-        file.sync();
-    }
     return false;
 }
 

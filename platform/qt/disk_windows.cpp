@@ -1,4 +1,5 @@
 #include "platform/qt/disk.h"
+#include "platform/qt/write_over.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -167,20 +168,10 @@ bool disk::write(const std::string& path, std::string_view bytes)
         return false;
     const bool isNew = GetFileAttributesW(target.c_str()) == INVALID_FILE_ATTRIBUTES;
     HeldFile file(target, GENERIC_READ | GENERIC_WRITE, forReaders, OPEN_ALWAYS);
-    const auto before = file ? file.size() : std::nullopt;
-    const auto old = before ? file.text() : std::nullopt;
-    const bool hasRoom = before && file.reserveRoom(*before, bytes.size());
-    if (hasRoom && file.write(bytes, 0) && file.cutTo(static_cast<LONGLONG>(bytes.size())) && file.sync())
+    if (file && writeOver(file, bytes))
         return file.close();
-    if (isNew && file) {
-        file.close();
+    if (isNew && file && file.close())
         DeleteFileW(target.c_str());
-    } else if (hasRoom) {
-        if (old)
-            file.write(*old, 0);
-        file.cutTo(*before);
-        file.sync();
-    }
     return false;
 }
 
