@@ -102,8 +102,6 @@ MainWindow::MainWindow() : BoundWindow(*this, *this, mainControls())
     statusBar()->setObjectName("StatusBar1");
 
     scaleFont();
-    makePage();
-
     watch(surface);
     for (QWidget* const part : surface->findChildren<QWidget*>())
         watch(part);
@@ -221,7 +219,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
     constexpr int untilInUse = 100; // milliseconds: no hand goes for Shift sooner
     if (!isPainted_)
         QTimer::singleShot(untilInUse, this, [this] {
-            makeOtherPages();
+            makePages(tabs_->count());
             makeDiagram(); // its chrome is measured before a diagram is laid out
             present();
         });
@@ -287,8 +285,8 @@ void MainWindow::scaleFont()
 
 void MainWindow::present()
 {
-    if (frmMain.SSTab1 >= pages_.size() || frmMain.sheetColour.has_value())
-        makeOtherPages();
+    if (!pages_.isEmpty() && (frmMain.SSTab1 >= pages_.size() || frmMain.sheetColour.has_value()))
+        makePages(tabs_->count());
     // A box that is disabled passes the focus on, which is not the user's doing.
     const MainFocus wanted = frmMain.focus;
     showControls();
@@ -315,7 +313,11 @@ void MainWindow::present()
     presentFocusAndPointer();
     if (isVisible() != frmMain.visible)
         setVisible(frmMain.visible);
-    showPages();
+    if (pages_.isEmpty() && isVisible()) {
+        makePages(1); // while the system brings the window to the screen
+        present();
+        return;
+    }
     presentForms();
     if (frmMain.forwardRevision != forwardShown_) {
         forwardShown_ = frmMain.forwardRevision;
@@ -361,9 +363,11 @@ void MainWindow::presentKeyNames()
         page->showKeyNames(shown);
 }
 
-/// What a screen reader says of a cell, and its tip.
+/// What a screen reader says of a cell, and its tip: not before the window is on the screen.
 void MainWindow::presentNames()
 {
+    if (!isPainted_)
+        return;
     for (TaxonPage* const page : pages_)
         for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
             std::string& named = namesShown_[slot];

@@ -83,10 +83,8 @@ private:
     // main_window_layout.cpp
     QWidget* sampleStrip();
     QWidget* sheetPages();
-    void makePage();
-    /// The pages of the layers that are not on show at the start: a third of all widgets is enough to begin.
-    void makeOtherPages();
-    void showPages();
+    /// The pages of the first `count` layers, as far as there are none yet.
+    void makePages(int count);
     TotalFrame* totalFrame(int total, const char* name);
     QWidget* sumStrip();
     QWidget* statisticsStrip();

@@ -159,46 +159,31 @@ QWidget* MainWindow::sheetPages()
     return tabs_;
 }
 
-/// The next page, with its cells.
-void MainWindow::makePage()
+void MainWindow::makePages(int count)
 {
-    const int layer = static_cast<int>(pages_.size());
-    auto* const page = new TaxonPage(layer, tabs_->widget(layer));
-    page->setObjectName(indexed("Frame1", layer));
-    page->setAccessibleName(tabs_->tabText(layer));
-    QSizePolicy kept = page->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    page->setSizePolicy(kept);
-    page->hide(); // see showPages()
-    for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
-        bind(page->nameBox(slot), "Text1", slot);
-        bind(page->countBox(slot), "Text2", slot);
-        bind(page->indexLabel(slot), "Label1", slot);
-    }
-    tabs_->widget(layer)->layout()->addWidget(page);
-    pages_ << page;
-}
-
-/// A tab widget lays out its pages only after it has shown them: cells that were on show with it would be
-/// placed, and their letters made, twice.
-void MainWindow::showPages()
-{
-    for (TaxonPage* const page : pages_)
-        page->show();
-}
-
-void MainWindow::makeOtherPages()
-{
-    while (pages_.size() < tabs_->count()) {
-        const TaxonPage& former = *pages_.back();
-        makePage();
-        TaxonPage* const page = pages_.back();
-        setTabOrder(former.countBox(former.lastSlot()), page->nameBox(page->firstSlot()));
-        page->makeEditable(modifyingShown_);
+    while (pages_.size() < count) {
+        const int layer = static_cast<int>(pages_.size());
+        QWidget* const tab = tabs_->widget(layer);
+        auto* const page = new TaxonPage(layer, tab);
+        page->setObjectName(indexed("Frame1", layer));
+        page->setAccessibleName(tabs_->tabText(layer));
+        for (int slot = page->firstSlot(); slot <= page->lastSlot(); ++slot) {
+            bind(page->nameBox(slot), "Text1", slot);
+            bind(page->countBox(slot), "Text2", slot);
+            bind(page->indexLabel(slot), "Label1", slot);
+        }
         page->showKeyNames(keyNamesOnShow_);
+        if (modifyingShown_)
+            page->makeEditable(true);
         watch(page);
         for (QWidget* const part : page->findChildren<QWidget*>())
             watch(part);
+        if (layer > 0)
+            setTabOrder(pages_.back()->countBox(pages_.back()->lastSlot()), page->nameBox(page->firstSlot()));
+        pages_ << page;
+        tab->layout()->addWidget(page);
+        tab->layout()->activate(); // cells that are shown before it has its place would be placed twice
+        page->show();
     }
 }
 

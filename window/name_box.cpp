@@ -16,6 +16,8 @@ const NameBox::Fitted& NameBox::fitted() const
         fitted_.fromEnd == fromEnd)
         return fitted_;
     fitted_ = {text(), font(), room, fromEnd, text(), font()};
+    if (3 * QFontMetrics(font()).horizontalAdvance(text()) <= 2 * room)
+        return fitted_; // bold it has room, too
     QFont widest = font();
     widest.setBold(true); // a name looks the same when its first count makes it bold
     const auto fits = [&widest, room](const QString& name) {
