@@ -32,8 +32,9 @@ const NameBox::Fitted& NameBox::fitted() const
     if (!fromEnd)
         fitted_.text = shownText(shortName(
             heldText(fitted_.text), [&fits](const std::string& name) { return fits(shownText(name)); }));
-    fitted_.text =
-        QFontMetrics(widest).elidedText(fitted_.text, fromEnd ? Qt::ElideLeft : Qt::ElideMiddle, room);
+    if (!fits(fitted_.text)) // a name that just fits would be cut all the same
+        fitted_.text =
+            QFontMetrics(widest).elidedText(fitted_.text, fromEnd ? Qt::ElideLeft : Qt::ElideMiddle, room);
     return fitted_;
 }
 
