@@ -53,9 +53,8 @@ void PrepareDiagram()
     setScrollRange();
     const bool unordered = outOfDepthOrder();
     sampleSort.offer.visible = unordered;
-    frmDiagram.notice = unordered ? "This sheet is not in depth order: a row's place and its "
-                                    "percentages may belong to different samples."
-                                  : "";
+    frmDiagram.notice =
+        unordered ? "Not in depth order: a row and its percentages may be of different samples." : "";
 }
 
 DiagramView diagramView()

@@ -52,10 +52,11 @@ void CaptureBox::keyCameUp(int keyCode)
     if (keyCode != lastDown_)
         return;
     const bool byKeyboard = std::exchange(leavesAfterKey_, false);
-    if (QWidget* const next = next_())
-        next->setFocus(byKeyboard ? Qt::TabFocusReason : Qt::OtherFocusReason);
-    else if (byKeyboard)
+    QWidget* const next = next_();
+    if (next == this || (next == nullptr && byKeyboard))
         comeAnew(Qt::TabFocusReason);
+    else if (next != nullptr)
+        next->setFocus(byKeyboard ? Qt::TabFocusReason : Qt::OtherFocusReason);
 }
 
 /// Else a dead key would wait for the letter that it belongs to.

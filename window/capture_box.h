@@ -20,7 +20,8 @@ public:
     /// Who is told of the keys.
     void giveTo(std::function<void(const Key&)> taker) { taker_ = std::move(taker); }
 
-    /// `next`: where the focus goes once a key is taken; nullptr: it stays.
+    /// `next`: where the focus goes once a key is taken; nullptr: it stays, for another key; the box itself:
+    /// it stays, and takes none.
     void goOnTo(std::function<QWidget*()> next) { next_ = std::move(next); }
 
     /// False while Tab has only come by.

@@ -199,10 +199,14 @@ QWidget* DiagramWindow::corner()
     zoom->setTickPosition(QSlider::TicksBelow);
     auto* const zoomLabel = new QLabel("Zoom");
     zoomLabel->setBuddy(zoom);
-    for (QWidget* const part : {static_cast<QWidget*>(zoomLabel), static_cast<QWidget*>(zoom)})
-        part->setAutoFillBackground(true); // the paper of the names reaches under it, white in a dark theme
-    grid->addWidget(zoomLabel, 0, 0, 1, 2);
-    grid->addWidget(zoom, 1, 0, 1, 2);
+    auto* const both = new QWidget;
+    both->setAutoFillBackground(true); // the paper of the names reaches under it, white in a dark theme
+    auto* const rows = new QVBoxLayout(both);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(3);
+    rows->addWidget(zoomLabel);
+    rows->addWidget(zoom);
+    grid->addWidget(both, 0, 0, 1, 2);
     grid->setRowStretch(2, 1);
     move_ = new QWidget;
     grid->addWidget(move_, 3, 0, 1, 2);
@@ -283,7 +287,7 @@ void DiagramWindow::presentPanel()
     const QString sample = shownText(f.Check1.caption);
     constexpr int besideName = 36; // the tick and the margins
     const QString name =
-        check_->fontMetrics().elidedText(sample, Qt::ElideRight, pixels(f.frame3Place.width) - besideName);
+        check_->fontMetrics().elidedText(sample, Qt::ElideMiddle, pixels(f.frame3Place.width) - besideName);
     if (const QString caption = QString(name).replace('&', "&&"); caption != check_->text())
         check_->setText(caption);
     if (const QString said = "Line at sample " + sample; said != check_->accessibleName())

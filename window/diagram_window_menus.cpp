@@ -92,11 +92,17 @@ void DiagramWindow::makeMenus()
             [this] { runPassing(mnuDiagramFile_Open); });
 }
 
-/// Up and down pick a sample, with Ctrl they move it; on the slider they pick by themselves.
+/// Up and down pick a sample, with Ctrl they move it; on the slider they pick by themselves, and left and
+/// right, which would go the other way round, do as they do.
 bool DiagramWindow::arrowKey(const QObject* target, const QKeyEvent& key)
 {
-    const int step = key.key() == Qt::Key_Up ? -1 : key.key() == Qt::Key_Down ? 1 : 0;
     const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeypadModifier;
+    const bool isAcross = key.key() == Qt::Key_Left || key.key() == Qt::Key_Right;
+    if (target == sample_ && isAcross && held == Qt::NoModifier) {
+        runEvent([&] { pickSample(key.key() == Qt::Key_Left ? -1 : 1); });
+        return true;
+    }
+    const int step = key.key() == Qt::Key_Up ? -1 : key.key() == Qt::Key_Down ? 1 : 0;
     if (step == 0 || (held != Qt::NoModifier && held != Qt::ControlModifier))
         return false;
     if (held == Qt::NoModifier && target == sample_)

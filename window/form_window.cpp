@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 
 FormWindow::FormWindow(MainWindow& main, const char* name, const QString& title,
                        std::vector<ControlRow> table)
@@ -41,15 +42,30 @@ void FormWindow::present()
         resize(size().boundedTo(screen()->availableGeometry().size() - QSize(8, 40))); // with its frame
     if (shouldShow && isModal())
         main_.keepManualReadable(*this);
+    if (shouldShow)
+        place();
     setVisible(shouldShow);
-    if (shouldShow && !main_.isVisible())
-        move(screen()->availableGeometry().center() - QRect(QPoint(), frameSize()).center());
     if (shouldShow && first_ != nullptr)
         first_->setFocus();
     if (auto* const box = qobject_cast<QLineEdit*>(first_); shouldShow && box != nullptr)
         box->selectAll(); // typing replaces what it holds
     if (!shouldShow && QApplication::activeModalWidget() == nullptr)
         main_.activateWindow(); // a question in between may have left the keyboard with no window at all
+}
+
+/// In the middle of the main window, or of the screen while that is not there; with all of its frame on the
+/// screen.
+void FormWindow::place()
+{
+    if (!testAttribute(Qt::WA_Resized)) {
+        adjustSize();
+        setAttribute(Qt::WA_Resized, false); // its next content may want another size
+    }
+    const QRect free = screen()->availableGeometry();
+    QRect frame(QPoint(), size() + (main_.frameSize() - main_.size()));
+    frame.moveCenter(main_.isVisible() ? main_.frameGeometry().center() : free.center());
+    move(std::max(free.left(), std::min(frame.left(), free.right() - frame.width())),
+         std::max(free.top(), std::min(frame.top(), free.bottom() - frame.height())));
 }
 
 QLineEdit* FormWindow::box(const char* name, int index)

@@ -48,6 +48,8 @@ protected:
     void reject() override;
 
 private:
+    void place();
+
     MainWindow& main_;
     const Form& form_;
     QWidget* first_ = nullptr;

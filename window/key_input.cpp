@@ -57,11 +57,12 @@ keycodes::RawKey KeyInput::rawKey(const QKeyEvent& event, int code) const
     return {keys_->physicalKey(event), code, event.timestamp(), event.isAutoRepeat()};
 }
 
-/// The diagnose window is in front: it is shown all keys, and no button of it takes one.
-static bool isForDiagnosis(const QObject* target)
+/// The diagnose window is in front: it is shown all keys, and no button of it takes one. The manual beside it
+/// keeps its own.
+bool KeyInput::isForDiagnosis(const QObject* target) const
 {
     return frmDiagnose.visible && frmDiagnose.takesKeys && target->isWindowType() &&
-           QApplication::activePopupWidget() == nullptr;
+           !window_.isManual(target) && QApplication::activePopupWidget() == nullptr;
 }
 
 /// With Alt, Ctrl or Super held, a key is meant for a menu or the desktop, unless that key itself is bound.

@@ -26,6 +26,7 @@ protected:
 
 private:
     bool isForCounting(const QObject* target) const;
+    bool isForDiagnosis(const QObject* target) const;
     keycodes::RawKey rawKey(const QKeyEvent& event, int code) const;
     bool takesKey(QKeyEvent& event);
     bool isCaptured(QKeyEvent& event);

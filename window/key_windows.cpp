@@ -1,5 +1,7 @@
 #include "window/key_windows.h"
 
+#include "core/character_rule.h"
+#include "core/sheet_state.h"
 #include "keys/key_capture.h"
 #include "keys/key_commit.h"
 #include "keys/key_editor.h"
@@ -168,7 +170,7 @@ QWidget* KeyCodeWindow::definitionPage()
         if (key <= keysPerLayer) {
             auto* const taking = bind(new CaptureBox, "Text1", key);
             tellHowToUse(*taking);
-            taking->goOnTo([this, key] { return boxNamed("Text1", keyBehind(key)); });
+            taking->goOnTo([this, key] { return nextStop("Text1", key, keyBehind(key)); });
             box = taking;
         } else {
             box = readBox("Text1", key);
@@ -236,8 +238,15 @@ CaptureBox* KeyCodeWindow::functionBox(int function)
     auto* const box = bind(new CaptureBox, "Text4", function);
     box->setFixedWidth(fontMetrics().horizontalAdvance("[ScrollLock]") + 16);
     tellHowToUse(*box);
-    box->goOnTo([this, function] { return boxNamed("Text4", functionBehind(function)); });
+    box->goOnTo([this, function] { return nextStop("Text4", function, functionBehind(function)); });
     return box;
+}
+
+/// The last box stays, and another key does not take the place of the one just taken.
+QWidget* KeyCodeWindow::nextStop(const char* name, int taken, int next) const
+{
+    QWidget* const box = boxNamed(name, next);
+    return box == nullptr && sheet.LastKeyDown != noKeyYet ? boxNamed(name, taken) : box;
 }
 
 QWidget* KeyCodeWindow::boxNamed(const char* name, int index) const

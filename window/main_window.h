@@ -66,6 +66,7 @@ public:
 
     /// Whether it is the window of the diagram, where keys count too.
     bool isDiagram(const QObject* window) const;
+    bool isManual(const QObject* window) const;
     /// Before a small window is shown.
     void keepManualReadable(QWidget& smallWindow);
 

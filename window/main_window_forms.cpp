@@ -75,6 +75,11 @@ bool MainWindow::isDiagram(const QObject* window) const
     return diagram_ != nullptr && window != nullptr && window == diagram_->windowHandle();
 }
 
+bool MainWindow::isManual(const QObject* window) const
+{
+    return manual_ != nullptr && window != nullptr && window == manual_->windowHandle();
+}
+
 void MainWindow::presentForms()
 {
     for (SmallWindow& one : smallWindows_) {

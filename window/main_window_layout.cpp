@@ -105,7 +105,7 @@ QComboBox* MainWindow::nameList(const char* name, const QString& accessibleName)
     combo->setFocusPolicy(Qt::TabFocus);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // never measures its list
-    combo->setMinimumContentsLength(12);
+    combo->setMinimumContentsLength(9);
     combo->setCompleter(nullptr);
     return bind(combo, name);
 }
@@ -117,6 +117,7 @@ QWidget* MainWindow::sampleStrip()
     QLineEdit* const name = readBox("Text1", 0);
     editedBoxes_ += name;
     name->setAccessibleName("Sample name");
+    name->setMinimumWidth(name->fontMetrics().horizontalAdvance("CORE-A-12/3") + 12);
     row->addWidget(name, 2);
     QComboBox* const samples = nameList("Combo2", "Choose a sample");
     // Leaving the box, or Enter in it, is no pick.

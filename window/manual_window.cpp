@@ -43,25 +43,56 @@ static QUrl contentsPage()
     return pageNamed("manual/index.md");
 }
 
-/// All pages that hold the text, from the page on show on, which itself comes last.
-static QList<QUrl> pagesWith(const QString& text, const QUrl& shown)
+static QStringList allPages()
 {
     const QFileInfo contents(contentsPage().toLocalFile());
     QStringList files;
     for (const QString& folder : {contents.path(), contents.path() + "/windows", contents.path() + "/.."})
         for (const QFileInfo& file : QDir(folder).entryInfoList({"*.md"}, QDir::Files, QDir::Name))
             files += file.canonicalFilePath();
+    return files;
+}
+
+static QString markdownOf(const QString& page)
+{
+    QFile file(page);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Without what Markdown puts between the words of a text.
+static QString wordsOf(QString markdown)
+{
+    static const QRegularExpression signs("\\]\\([^)]*\\)|[*_`\\[\\]|#]");
+    return markdown.remove(signs).simplified();
+}
+
+/// The page whose title has the text; an empty address if there is none.
+static QUrl pageAbout(const QString& text)
+{
+    for (const QString& page : allPages())
+        if (markdownOf(page).section('\n', 0, 0).contains(text, Qt::CaseInsensitive))
+            return QUrl::fromLocalFile(page);
+    return {};
+}
+
+/// The next page that holds the text, behind the page on show, which itself comes last; an empty address if
+/// there is none.
+static QUrl nextPageWith(const QString& text, const QUrl& shown)
+{
+    QStringList files = allPages();
     const auto at = files.indexOf(shown.toLocalFile());
     std::rotate(files.begin(), files.begin() + at + 1, files.end());
-    QList<QUrl> found;
+    const QString wanted = wordsOf(text);
     for (const QString& name : files) {
+        const QString markdown = markdownOf(name);
+        if (!wordsOf(markdown).contains(wanted, Qt::CaseInsensitive))
+            continue; // laying out a page takes a hundred times as long
         QTextDocument page;
-        if (QFile file(name); file.open(QIODevice::ReadOnly))
-            page.setMarkdown(QString::fromUtf8(file.readAll()));
+        page.setMarkdown(markdown);
         if (!page.find(text).isNull())
-            found += QUrl::fromLocalFile(name);
+            return QUrl::fromLocalFile(name);
     }
-    return found;
+    return {};
 }
 
 /// Shows Markdown with what the toolkit leaves out: places to jump to, lines in tables, pictures that fit.
@@ -210,18 +241,29 @@ void ManualWindow::addSearch(QToolBar& bar)
     });
 }
 
-/// Behind the place found last, then on the pages that follow, and from the first one again.
+/// Of a new text first the page that has it in its title. Then behind the place found last, on the pages that
+/// follow, and from the first one again.
 void ManualWindow::findNext()
 {
-    const QString text = searched_->text();
-    if (text.isEmpty() || pages_->find(text))
+    const QString text = searched_->text().simplified();
+    statusBar()->clearMessage();
+    if (text.isEmpty())
         return;
-    const QList<QUrl> pages = pagesWith(text, pages_->source().adjusted(QUrl::RemoveFragment));
-    if (pages.isEmpty()) {
+    const QUrl shown = pages_->source().adjusted(QUrl::RemoveFragment);
+    if (text != sought_) {
+        sought_ = text;
+        if (const QUrl about = pageAbout(text); about.isValid() && about != shown)
+            pages_->setSource(about);
+        pages_->moveCursor(QTextCursor::Start);
+    }
+    if (pages_->find(text))
+        return;
+    const QUrl page = nextPageWith(text, pages_->source().adjusted(QUrl::RemoveFragment));
+    if (!page.isValid()) {
         statusBar()->showMessage("\"" + text + "\" is on no page.", 4000);
         return;
     }
-    pages_->setSource(pages.front());
+    pages_->setSource(page);
     pages_->moveCursor(QTextCursor::Start);
     pages_->find(text);
 }

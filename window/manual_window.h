@@ -29,5 +29,6 @@ private:
     MainWindow& main_;
     ManualPages* pages_;
     QLineEdit* searched_ = nullptr;
+    QString sought_; ///< the text found last
     int forwardShown_ = 0;
 };

@@ -72,8 +72,9 @@ std::optional<std::string> MessageBoxes::run(QFileDialog& dialog)
 {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    lastFolder_ = dialog.directory().path();
-    return nativePath(dialog.selectedFiles().constFirst());
+    const QString chosen = dialog.selectedFiles().constFirst(); // its folder may have been typed, too
+    lastFolder_ = QFileInfo(chosen).isDir() ? chosen : QFileInfo(chosen).path();
+    return nativePath(chosen);
 }
 
 /// `ending`: of a name that is typed without a point.

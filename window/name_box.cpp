@@ -29,12 +29,14 @@ const NameBox::Fitted& NameBox::fitted() const
         if (fits(fitted_.text))
             return fitted_;
     }
-    if (!fromEnd)
-        fitted_.text = shownText(shortName(
-            heldText(fitted_.text), [&fits](const std::string& name) { return fits(shownText(name)); }));
-    if (!fits(fitted_.text)) // a name that just fits would be cut all the same
+    if (!fromEnd) {
+        const std::string cut =
+            shortName(heldText(text()), [&fits](const std::string& name) { return fits(shownText(name)); });
+        fitted_.text = shownText(cut);
+    }
+    if (!fits(fitted_.text))
         fitted_.text =
-            QFontMetrics(widest).elidedText(fitted_.text, fromEnd ? Qt::ElideLeft : Qt::ElideMiddle, room);
+            QFontMetrics(widest).elidedText(text(), fromEnd ? Qt::ElideLeft : Qt::ElideMiddle, room);
     return fitted_;
 }
 

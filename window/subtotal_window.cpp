@@ -2,6 +2,7 @@
 
 #include "platform/qt/text.h"
 #include "sheet/cell_grid.h"
+#include "sheet/short_name.h"
 #include "sheet/subtotals.h"
 
 #include <QCheckBox>
@@ -67,7 +68,13 @@ void CheckPage::placeBoxes()
         QStyleOptionButton option;
         option.initFrom(&box);
         const int room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &box).width();
-        box.setText(box.fontMetrics().elidedText(name, Qt::ElideRight, room).replace('&', "&&"));
+        const auto fits = [&box, room](const std::string& text) {
+            return box.fontMetrics().horizontalAdvance(shownText(text)) <= room;
+        };
+        const std::string cut = shortName(record(i).caption, fits);
+        const QString text =
+            fits(cut) ? shownText(cut) : box.fontMetrics().elidedText(name, Qt::ElideMiddle, room);
+        box.setText(QString(text).replace('&', "&&"));
         box.setToolTip(name);
         box.setAccessibleName(name);
     }
