@@ -14,9 +14,9 @@ namespace {
 constexpr double longSide = 297; // mm
 constexpr double shortSide = 210;
 constexpr double points = 8;
-constexpr double pitch = 4.2; // mm from line to line
-constexpr double gap = 3;     // mm between columns
-constexpr double widestName = 75;
+constexpr double pitch = 4.2;     // mm from line to line
+constexpr double gap = 3;         // mm between columns
+constexpr double widestName = 75; ///< where there are more samples than fit beside it
 constexpr double widestSample = 24;
 
 /// A line of the table: a taxon or a total.
@@ -74,7 +74,10 @@ public:
         for (const std::vector<Row>* const rows : {&taxa_, &totals_})
             for (const Row& row : *rows)
                 nameWidth_ = std::max(nameWidth_, pages.widthOf(row.name, points, row.italic));
-        nameWidth_ = std::min(nameWidth_, widestName);
+        double samples = 0;
+        for (int sample = 1; sample <= sheet.SampleCount; ++sample)
+            samples += gap + columnWidth(sample);
+        nameWidth_ = std::min(nameWidth_, std::max(widestName, pages.width() - samples));
     }
 
     void print()
@@ -87,19 +90,24 @@ public:
     }
 
 private:
+    double columnWidth(int sample) const
+    {
+        double width = std::min(widestSample, pages_.widthOf(sampleName(sheet_, sample), points));
+        for (const std::vector<Row>* const rows : {&taxa_, &totals_})
+            for (const Row& row : *rows)
+                width = std::max(
+                    width,
+                    pages_.widthOf(std::to_string(row.values[static_cast<std::size_t>(sample)]), points));
+        return width;
+    }
+
     /// Of as many columns as the page has room for, and at least one.
     std::vector<double> rightEdges(int first) const
     {
         std::vector<double> edges;
         double edge = nameWidth_;
         for (int sample = first; sample <= sheet_.SampleCount; ++sample) {
-            double width = std::min(widestSample, pages_.widthOf(sampleName(sheet_, sample), points));
-            for (const std::vector<Row>* const rows : {&taxa_, &totals_})
-                for (const Row& row : *rows)
-                    width = std::max(
-                        width,
-                        pages_.widthOf(std::to_string(row.values[static_cast<std::size_t>(sample)]), points));
-            edge += gap + width;
+            edge += gap + columnWidth(sample);
             if (edge > pages_.width() && !edges.empty())
                 break;
             edges.push_back(edge);
