@@ -15,7 +15,9 @@ void CsvLines::separate()
 CsvLines& CsvLines::text(std::string_view field)
 {
     separate();
-    const bool losesBlanks = !field.empty() && (field.front() == ' ' || field.back() == ' ');
+    constexpr std::string_view blanks = " \t"; // readers take those around a field for none of it
+    const bool losesBlanks = !field.empty() && (blanks.find(field.front()) != std::string_view::npos ||
+                                                blanks.find(field.back()) != std::string_view::npos);
     if (!losesBlanks && field.find_first_of(",\"\r\n") == std::string_view::npos) {
         text_ += field;
         return *this;

@@ -15,7 +15,7 @@ TEST(LabFile, ComesBackAsItWasWritten)
     const std::vector<LabRow> rows = {
         {"12.5", {"1", "18584", "371", "1.0", "ml", "0.05", "12", "13", "-50", "120"}},
         {"a, b", {"2", "", "", "", "g, dry"}},
-        {" \xE9 ", {}}};
+        {" \xE9 ", {"", "", "", "", "\tdry g"}}};
     const std::string text = labText("Lycopodium, batch 3", rows);
     EXPECT_EQ(text.substr(0, 3), "\xEF\xBB\xBF") << "a letter beyond ASCII occurs";
     const LabTable table = readLabText(fileTextInCodePage(text));
