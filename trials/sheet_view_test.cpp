@@ -7,7 +7,7 @@
 #include "files/open_sheet.h"
 #include "sheet/cell_grid.h"
 #include "sheet/key_names.h"
-#include "window/name_box.h"
+#include "window/cell_box.h"
 #include "window/taxon_page.h"
 #include "window/total_frame.h"
 
@@ -26,9 +26,9 @@ protected:
     {
         return named<QWidget>(qPrintable(QString("Frame1(%1)").arg(layer)))->grab().toImage();
     }
-    NameBox* nameBox(int slot)
+    CellBox* nameBox(int slot)
     {
-        return static_cast<NameBox*>(named<QLineEdit>(qPrintable(QString("Text1(%1)").arg(slot))));
+        return static_cast<CellBox*>(named<QLineEdit>(qPrintable(QString("Text1(%1)").arg(slot))));
     }
 };
 

@@ -8,9 +8,9 @@
 #include "sheet/focus_and_pointer.h"
 #include "sheet/modify_mode.h"
 #include "sheet/percent_view.h"
+#include "window/cell_box.h"
 #include "window/main_window.h"
 #include "window/menu_key.h"
-#include "window/name_box.h"
 #include "window/surface_view.h"
 #include "window/taxon_page.h"
 

@@ -5,8 +5,8 @@
 #include "platform/qt/text.h"
 #include "sheet/cell_grid.h"
 #include "sheet/key_names.h"
+#include "window/cell_box.h"
 #include "window/legible_style.h"
-#include "window/name_box.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -22,10 +22,9 @@ constexpr int indexHeight = 225;
 constexpr int twipsPerPoint = 20;
 constexpr int indexLetters = 7; // points
 
-template <class Box>
-Box* cellBox(QWidget* page, Qt::Alignment alignment)
+CellBox* cellBox(QWidget* page, Qt::Alignment alignment)
 {
-    auto* const box = new Box(page);
+    auto* const box = new CellBox(page);
     box->setFrame(false);
     box->setReadOnly(true);
     box->unsetCursor(); // the sheet's pointer holds here too
@@ -46,8 +45,8 @@ TaxonPage::TaxonPage(int layer, QWidget* parent) : QWidget(parent), firstSlot_(l
 {
     setMinimumSize(pageWidth / 24, pageHeight / 24);
     for (int i = 0; i < keysPerLayer; ++i) {
-        names_ += cellBox<NameBox>(this, Qt::AlignLeft | Qt::AlignVCenter);
-        counts_ += cellBox<QLineEdit>(this, Qt::AlignRight | Qt::AlignVCenter);
+        names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
+        counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
         indexes_ += new QLabel(this);
         indexes_.back()->setAlignment(Qt::AlignCenter);
     }
@@ -116,7 +115,7 @@ void TaxonPage::makeEditable(bool editable)
     QList<int> order;
     for (int slot = firstSlot(); slot <= lastSlot(); ++slot) {
         order << slot;
-        for (QLineEdit* const box : {static_cast<QLineEdit*>(nameBox(slot)), countBox(slot)}) {
+        for (CellBox* const box : {nameBox(slot), countBox(slot)}) {
             box->setReadOnly(!editable);
             box->setFrame(editable);
             box->setFocusPolicy(editable ? Qt::StrongFocus : Qt::NoFocus);

@@ -4,9 +4,8 @@
 
 #include <QWidget>
 
-class NameBox;
+class CellBox;
 class QLabel;
-class QLineEdit;
 class QPainter;
 
 /// One page of the sheet: the 45 cells of a layer, each a name, a count and a key index, or the name of its
@@ -18,8 +17,8 @@ class TaxonPage : public QWidget {
 public:
     TaxonPage(int layer, QWidget* parent);
 
-    NameBox* nameBox(int slot) const { return names_[slot - firstSlot_]; }
-    QLineEdit* countBox(int slot) const { return counts_[slot - firstSlot_]; }
+    CellBox* nameBox(int slot) const { return names_[slot - firstSlot_]; }
+    CellBox* countBox(int slot) const { return counts_[slot - firstSlot_]; }
     QLabel* indexLabel(int slot) const { return indexes_[slot - firstSlot_]; }
     int firstSlot() const { return firstSlot_; }
     int lastSlot() const { return firstSlot_ + 44; }
@@ -55,7 +54,7 @@ private:
     double pixelsAcross_ = 1.0 / twipsPerPixel;  ///< of widths
     bool keyNamesShown_ = false;
     QList<int> placed_; ///< what the cells were last placed by
-    QList<NameBox*> names_;
-    QList<QLineEdit*> counts_;
+    QList<CellBox*> names_;
+    QList<CellBox*> counts_;
     QList<QLabel*> indexes_;
 };

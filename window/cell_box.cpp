@@ -1,4 +1,4 @@
-#include "window/name_box.h"
+#include "window/cell_box.h"
 
 #include "platform/qt/text.h"
 #include "sheet/short_name.h"
@@ -8,7 +8,7 @@
 
 constexpr int margin = 3; // pixels left and right
 
-const NameBox::Fitted& NameBox::fitted() const
+const CellBox::Fitted& CellBox::fitted() const
 {
     const int room = width() - 2 * margin;
     const bool fromEnd = cursorPosition() > 0;
@@ -40,7 +40,7 @@ const NameBox::Fitted& NameBox::fitted() const
     return fitted_;
 }
 
-void NameBox::paintEvent(QPaintEvent* event)
+void CellBox::paintEvent(QPaintEvent* event)
 {
     if (!isReadOnly()) {
         QLineEdit::paintEvent(event);

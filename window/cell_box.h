@@ -3,12 +3,13 @@
 #include <QFont>
 #include <QLineEdit>
 
-/// The box of a taxon's name. While it is only read, a name that is too long for it is set narrower, then its
-/// words are cut, and a single word loses its middle, since names are told apart by their beginnings and
-/// their ends; where the end is to be seen, it loses its beginning.
-class NameBox : public QLineEdit {
+/// The box of a taxon's name or count. While it is only read, it draws no more than its text, since a page
+/// has ninety of them; a name that is too long for it is set narrower, then its words are cut, and a single
+/// word loses its middle, since names are told apart by their beginnings and their ends; where the end is to
+/// be seen, it loses its beginning.
+class CellBox : public QLineEdit {
 public:
-    explicit NameBox(QWidget* parent) : QLineEdit(parent) {}
+    explicit CellBox(QWidget* parent) : QLineEdit(parent) {}
 
     /// What of the name is on show.
     QString readText() const { return fitted().text; }
