@@ -46,6 +46,7 @@ bool fails(const char* name)
 
 } // namespace
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names
 extern "C" {
 int __real_open(const char*, int, ...);
 ssize_t __real_pwrite(int, const void*, size_t, off_t);
@@ -64,6 +65,7 @@ int __wrap_open(const char* path, int flags, ...)
 {
     va_list rest;
     va_start(rest, flags);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): va_start() has just begun it
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
     return fails("open") ? -1 : __real_open(path, flags, mode);
@@ -125,6 +127,7 @@ int __wrap_flock(int file, int how)
     return fails("lock") ? -1 : __real_flock(file, how);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 

@@ -111,12 +111,11 @@ bool MainWindow::keyInCell(QWidget* box, const QKeyEvent& key)
         step = -1;
     if (step == 0)
         return false;
-    int next = slot;
     beginEvent();
-    {
+    const int next = [from = slot, step] {
         const UserEvent event;
-        next = goFromCell(slot, step);
-    }
+        return goFromCell(from, step);
+    }();
     const TaxonPage& page = *pages_[(next - 1) / keysPerLayer];
     QLineEdit* const to = kind->isNumber ? page.countBox(next) : page.nameBox(next);
     to->setFocus(Qt::TabFocusReason);

@@ -20,6 +20,8 @@
 #include "window/table_windows.h"
 #include "window/target_window.h"
 
+#include <QWindow>
+
 namespace {
 
 template <class Window>

@@ -3,8 +3,10 @@
 #include <QLibrary>
 #include <SDL.h>
 
+// NOLINTBEGIN(bugprone-macro-parentheses): a name that is declared
 #define FROM_LIBRARY(name)                                                                                   \
     decltype(&::SDL_##name) name = reinterpret_cast<decltype(&::SDL_##name)>(file_.resolve("SDL_" #name))
+// NOLINTEND(bugprone-macro-parentheses)
 
 /// The functions of the sound library. It is loaded when the first one asks for it: some thirty others come
 /// with it, and a program that is linked to them waits for all of them before its window opens.
