@@ -31,11 +31,6 @@ CellBox* cellBox(QWidget* page, Qt::Alignment alignment)
     box->setFocusPolicy(Qt::NoFocus);
     box->setContextMenuPolicy(Qt::NoContextMenu);
     box->setAlignment(alignment);
-    // The cells keep their told colours in a dark theme too, so their letters are dark in any.
-    QPalette colours = box->palette();
-    colours.setColor(QPalette::Text, Qt::black);
-    colours.setColor(QPalette::Base, Qt::white);
-    box->setPalette(colours);
     return box;
 }
 
@@ -44,6 +39,11 @@ CellBox* cellBox(QWidget* page, Qt::Alignment alignment)
 TaxonPage::TaxonPage(int layer, QWidget* parent) : QWidget(parent), firstSlot_(layer * keysPerLayer + 1)
 {
     setMinimumSize(pageWidth / 24, pageHeight / 24);
+    // The cells keep their told colours in a dark theme too, so their letters are dark in any.
+    QPalette colours = palette();
+    colours.setColor(QPalette::Text, Qt::black);
+    colours.setColor(QPalette::Base, Qt::white);
+    setPalette(colours);
     for (int i = 0; i < keysPerLayer; ++i) {
         names_ += cellBox(this, Qt::AlignLeft | Qt::AlignVCenter);
         counts_ += cellBox(this, Qt::AlignRight | Qt::AlignVCenter);
