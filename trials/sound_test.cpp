@@ -99,6 +99,18 @@ TEST_F(SoundOnDisk, aCueIsHeardAndANewOneReplacesItWithinOnePeriod)
         << "one voice: nothing of the old cue comes back";
 }
 
+TEST_F(SoundOnDisk, aCueThatIsReadLateIsHeardAndTakesNoOtherAway)
+{
+    SdlSound sound;
+    sound.load(Cue::SoundKey1, wav(1000, 600));
+    ASSERT_TRUE(waitUntilOpen(sound)); // on a slow machine, before all cues are read
+    sound.load(Cue::SoundOpening, wav(700, 600));
+    sound.play(Cue::SoundOpening);
+    EXPECT_TRUE(waitForLevel(700));
+    sound.play(Cue::SoundKey1);
+    EXPECT_TRUE(waitForLevel(1000));
+}
+
 TEST_F(SoundOnDisk, whatIsNoWavIsSilence)
 {
     SdlSound sound;

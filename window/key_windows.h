@@ -21,8 +21,7 @@ private:
     QWidget* numberPage();
     QWidget* functionKeys();
     CaptureBox* functionBox(int function);
-    QWidget* boxNamed(const char* name, int index) const;
-    QWidget* nextStop(QWidget* box) const; ///< nullptr: there is none
+    QWidget* boxNamed(const char* name, int index) const; ///< nullptr: there is none
     QWidget* nextStop(const char* name, int taken, int next) const;
     QWidget* framed(const char* name, const char* title, KeyMap* map);
     QPushButton* actionButton(const char* name, const char* caption);

@@ -27,12 +27,14 @@ public:
     FROM_LIBRARY(GetVersion);
     FROM_LIBRARY(InitSubSystem);
     FROM_LIBRARY(LoadWAV_RW);
+    FROM_LIBRARY(LockAudioDevice);
     FROM_LIBRARY(NewAudioStream);
     FROM_LIBRARY(OpenAudioDevice);
     FROM_LIBRARY(PauseAudioDevice);
     FROM_LIBRARY(QuitSubSystem);
     FROM_LIBRARY(RWFromConstMem);
     FROM_LIBRARY(SetHint);
+    FROM_LIBRARY(UnlockAudioDevice);
     FROM_LIBRARY(WasInit);
 
     /// nullptr where the system has none, or one from before 2.0.7. From any thread.

@@ -57,8 +57,12 @@ SdlSound::~SdlSound()
 
 void SdlSound::load(Cue cue, std::string_view wavImage)
 {
-    const std::lock_guard lock(mutex_);
-    images_[static_cast<std::size_t>(cue)] = wavImage;
+    {
+        const std::lock_guard lock(mutex_);
+        images_[static_cast<std::size_t>(cue)] = wavImage;
+        hasImages_ = true;
+    }
+    wake_.notify_one();
 }
 
 void SdlSound::play(Cue cue)
@@ -107,7 +111,8 @@ void SdlSound::mix(std::int16_t* out, std::size_t count)
     };
 
     copyTo(out);
-    const int cue = marked_.exchange(noCue, std::memory_order_acquire);
+    // A cue that is marked before it is decoded waits for that.
+    const int cue = hasImages_ ? noCue : marked_.exchange(noCue, std::memory_order_acquire);
     if (cue == noCue)
         return;
     // The cue that still plays fades out under the new one: a hard cut would click.
@@ -125,20 +130,40 @@ void SdlSound::mix(std::int16_t* out, std::size_t count)
 
 void SdlSound::keep()
 {
-    std::unique_lock lock(mutex_);
-    if (wake_.wait_for(lock, untilWindowStands, [this] { return ending_; }))
-        return;
+    {
+        std::unique_lock lock(mutex_);
+        if (wake_.wait_for(lock, untilWindowStands, [this] { return ending_; }))
+            return;
+    }
     const SdlLibrary* const sdl = SdlLibrary::loaded();
     if (sdl == nullptr)
         return;
-    for (std::size_t cue = 0; cue < images_.size(); ++cue)
-        cues_[cue] = decoded(*sdl, std::exchange(images_[cue], {}));
     sdl->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // Ctrl+C and a session's end must still end the program
     sdl->SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "TallyStrata");
-    keepDeviceOpen(*sdl, lock);
+    keepDeviceOpen(*sdl);
 }
 
-void SdlSound::keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex>& lock)
+/// On a slow machine cues may still come while the device is open.
+void SdlSound::decodeImages(const SdlLibrary& sdl, std::uint32_t device)
+{
+    Images images;
+    {
+        const std::lock_guard lock(mutex_);
+        images.swap(images_);
+    }
+    for (std::size_t cue = 0; cue < images.size(); ++cue) {
+        if (images[cue].empty())
+            continue;
+        Samples samples = decoded(sdl, images[cue]);
+        sdl.LockAudioDevice(device); // it may be playing the former ones; without a device there is no lock
+        cues_[cue] = std::move(samples);
+        sdl.UnlockAudioDevice(device);
+    }
+    const std::lock_guard lock(mutex_);
+    hasImages_ = images_ != Images();
+}
+
+void SdlSound::keepDeviceOpen(const SdlLibrary& sdl)
 {
     SDL_AudioSpec wanted{};
     wanted.freq = rate;
@@ -150,8 +175,11 @@ void SdlSound::keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex
 
     SDL_AudioDeviceID device = 0;
     int untilNextTry = 0; // in turns of the watch
+    std::unique_lock lock(mutex_);
     for (bool first = true; !ending_; first = false) {
         lock.unlock();
+        if (hasImages_)
+            decodeImages(sdl, device);
         if (device != 0 && sdl.GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED) {
             sdl.CloseAudioDevice(device);
             device = 0;
@@ -170,7 +198,7 @@ void SdlSound::keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex
         }
         driver_ = device != 0 ? sdl.GetCurrentAudioDriver() : nullptr;
         lock.lock();
-        wake_.wait_for(lock, watchInterval, [this] { return ending_; });
+        wake_.wait_for(lock, watchInterval, [this] { return ending_ || hasImages_; });
     }
     lock.unlock();
     if (device != 0)

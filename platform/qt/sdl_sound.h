@@ -15,7 +15,7 @@ class SdlLibrary;
 /// The cues, played from memory through the sound device. play() only marks the cue; the device's own thread
 /// takes it up at its next period of 256 frames (5.8 ms). The library is loaded, and the device opened,
 /// watched and, when it vanishes, opened anew, on a thread of its own, so that neither start nor count ever
-/// waits for them. The cues are to be loaded in the first moments: they are decoded once, with the library.
+/// waits for them.
 class SdlSound : public Sound {
 public:
     SdlSound();
@@ -32,14 +32,17 @@ public:
 
 private:
     using Samples = std::vector<std::int16_t>;
+    using Images = std::array<std::string, cueCount>;
     static constexpr int noCue = -1;
 
     static void fill(void* self, std::uint8_t* stream, int bytes);
     void mix(std::int16_t* out, std::size_t count);
     void keep();
-    void keepDeviceOpen(const SdlLibrary& sdl, std::unique_lock<std::mutex>& lock);
+    void keepDeviceOpen(const SdlLibrary& sdl);
+    void decodeImages(const SdlLibrary& sdl, std::uint32_t device);
 
-    std::array<std::string, cueCount> images_;  ///< WAV, until the library is there
+    Images images_;                             ///< WAV, not decoded yet
+    std::atomic<bool> hasImages_ = false;       ///< no cue is taken up meanwhile
     std::array<Samples, cueCount> cues_;        ///< mono, 44100 Hz
     std::atomic<int> marked_ = noCue;           ///< cue that the device has not taken up yet
     std::atomic<const char*> driver_ = nullptr; ///< of the open device, nullptr while there is none
