@@ -131,10 +131,11 @@ void MainWindow::beginEvent()
     frmMain.notice.clear();
 }
 
-bool MainWindow::isCell(const QObject* target)
+/// The row of the table that a cell of the sheet belongs to; nullptr of anything else.
+const ControlRow* MainWindow::cellRow(const QObject* target)
 {
-    const Control control = controlOf(target);
-    return control.kind != nullptr && control.kind->hovered != nullptr;
+    const ControlRow* const row = controlOf(target).kind;
+    return row != nullptr && row->hovered != nullptr ? row : nullptr;
 }
 
 /// While counting, a click anywhere on the sheet returns to the counting, and selects no text of a cell. In
@@ -142,9 +143,11 @@ bool MainWindow::isCell(const QObject* target)
 bool MainWindow::eventFilter(QObject* target, QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::MouseMove:
-        onPassing(isCell(target) ? controlOf(target).kind->hovered : Form_MouseMove);
+    case QEvent::MouseMove: {
+        const ControlRow* const cell = cellRow(target);
+        onPassing(cell != nullptr ? cell->hovered : Form_MouseMove);
         break;
+    }
     case QEvent::MouseButtonPress:
         if (boxPressed(static_cast<QWidget*>(target), static_cast<QMouseEvent&>(*event)))
             return true;
@@ -193,7 +196,7 @@ bool MainWindow::eventFilter(QObject* target, QEvent* event)
     default:
         return false;
     }
-    return !sheet.Modifying && isCell(target);
+    return !sheet.Modifying && cellRow(target) != nullptr;
 }
 
 /// A text that its box is too narrow for.
@@ -314,7 +317,7 @@ void MainWindow::present()
     if (isVisible() != frmMain.visible)
         setVisible(frmMain.visible);
     if (pages_.isEmpty() && isVisible()) {
-        makePages(1); // while the system brings the window to the screen
+        makePages(1); // a tab widget lays out its pages only once it is shown: cells are placed once
         present();
         return;
     }

@@ -121,7 +121,7 @@ private:
     void presentRecount();
     void presentFocusAndPointer();
     void scaleFont();
-    static bool isCell(const QObject* target);
+    static const ControlRow* cellRow(const QObject* target);
     static bool showCutText(const QObject* target, const QHelpEvent& event);
 
     QWidget* focusSink_; ///< Text99
