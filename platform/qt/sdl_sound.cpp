@@ -160,7 +160,8 @@ void SdlSound::decodeImages(const SdlLibrary& sdl, std::uint32_t device)
         sdl.UnlockAudioDevice(device);
     }
     const std::lock_guard lock(mutex_);
-    hasImages_ = images_ != Images();
+    hasImages_ =
+        std::any_of(images_.begin(), images_.end(), [](const std::string& image) { return !image.empty(); });
 }
 
 void SdlSound::keepDeviceOpen(const SdlLibrary& sdl)
